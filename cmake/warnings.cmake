@@ -1,0 +1,15 @@
+# The compile options of every target of this project, never of the projects that use it.
+add_library(plateconfig_options INTERFACE)
+target_compile_features(plateconfig_options INTERFACE cxx_std_20)
+
+if(MSVC)
+  # /utf-8 because the sources are UTF-8; the GBK literals need nothing more.
+  target_compile_options(plateconfig_options INTERFACE /utf-8 /permissive- /W4)
+else()
+  target_compile_options(plateconfig_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough)
+  if(PLATECONFIG_WARNINGS_AS_ERRORS)
+    target_compile_options(plateconfig_options INTERFACE -Werror)
+  endif()
+endif()
