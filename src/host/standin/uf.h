@@ -1,0 +1,20 @@
+#pragma once
+
+// Stand-in for the host's function interface: the few calls that this library makes, with an environment
+// variable behind each of the host's.
+
+extern "C" {
+
+/// 1 once `UF_initialize` was called, else 0.
+int UF_is_initialized();
+
+/// Marks the host as initialised; always 0.
+int UF_initialize();
+
+/// Marks the host as not initialised; always 0.
+int UF_terminate();
+
+/// Sets `*translation` to the value of the host variable `name`, which lives until the next call; null when
+/// it is unset. A value that is valid UTF-8 is handed out in GBK, as a Chinese Windows would. Always 0.
+int UF_translate_variable(const char* name, char** translation);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+// Files of the host's world: paths are narrow texts as a Chinese Windows spells them (code page 936,
+// backslashes). On other systems the path's separators are turned into slashes, and the file is looked for
+// under exactly these bytes first and then under the same name in UTF-8.
+
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace plateconfig {
+
+/// The bytes of one file, read once.
+struct FileBytes {
+  std::unique_ptr<char[]> data;
+  std::size_t size = 0;
+
+  std::string_view View() const { return {data.get(), size}; }
+};
+
+/// Opens a file with the modes of `std::fopen`; null when it can not be opened.
+std::FILE* OpenHostFile(const std::string& path, const char* mode);
+
+/// The whole file; nothing for a missing file, a directory or a read error.
+std::optional<FileBytes> ReadWholeFile(const std::string& path);
+
+/// True when something of this name exists, whatever its rights.
+bool FileExists(const std::string& path);
+
+}  // namespace plateconfig
