@@ -1,0 +1,92 @@
+#include "config/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+namespace plateconfig {
+namespace {
+
+struct SignedText {
+  bool negative;
+  std::string_view digits;
+};
+
+std::string_view WithoutLeadingBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\n\v\f\r");
+  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+SignedText TakeSign(std::string_view text) {
+  text = WithoutLeadingBlanks(text);
+  if (text.empty() || (text[0] != '+' && text[0] != '-')) return {false, text};
+  return {text[0] == '-', text.substr(1)};
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// True when the text begins like a hexadecimal number: "0x" and a digit, perhaps behind the point.
+bool IsHexadecimal(std::string_view text) {
+  if (text.size() < 3 || text[0] != '0' || (text[1] | 0x20) != 'x') return false;
+  const std::size_t digit = text[2] == '.' ? 3 : 2;
+  return digit < text.size() &&
+         std::string_view("0123456789abcdefABCDEF").find(text[digit]) != std::string_view::npos;
+}
+
+/// The magnitude of a decimal number outside the range of double: infinity, or zero when it is too small. The
+/// number's size is the place of its first significant digit before the point, moved by its exponent.
+double OutOfRange(std::string_view number) {
+  const std::size_t exponentAt = number.find_first_of("eEpP");
+  const std::string_view mantissa = number.substr(0, exponentAt);
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t significant = mantissa.find_first_not_of("0.");
+  long long place =
+      static_cast<long long>(point) - static_cast<long long>(std::min(significant, mantissa.size()));
+  if (exponentAt != std::string_view::npos) place += ParseInt(number.substr(exponentAt + 1));
+  return place > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+double Magnitude(std::string_view text) {
+  const bool hexadecimal = IsHexadecimal(text);
+  if (hexadecimal) text.remove_prefix(2);
+  double value = 0;
+  const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, format);
+  if (error != std::errc::result_out_of_range) return value;
+  return OutOfRange(text.substr(0, static_cast<std::size_t>(end - text.data())));
+}
+
+}  // namespace
+
+int ParseInt(std::string_view text) {
+  const auto [negative, digits] = TakeSign(text);
+  // Digits only: from_chars would take a second sign.
+  if (digits.empty() || !IsDigit(digits[0])) return 0;
+  unsigned magnitude = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), magnitude);
+  constexpr unsigned kMost = std::numeric_limits<int>::max();
+  const bool outOfRange = error == std::errc::result_out_of_range || magnitude > kMost;
+  if (negative) return outOfRange ? std::numeric_limits<int>::min() : -static_cast<int>(magnitude);
+  return outOfRange ? std::numeric_limits<int>::max() : static_cast<int>(magnitude);
+}
+
+double ParseDouble(std::string_view text) {
+  const auto [negative, digits] = TakeSign(text);
+  if (!digits.empty() && digits[0] == '-') return 0;  // from_chars would take a second sign.
+  const double magnitude = Magnitude(digits);
+  return negative ? -magnitude : magnitude;
+}
+
+std::string StreamNumber(double value) {
+  constexpr int kStreamPrecision = 6;
+  std::array<char, 32> text;
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+                                          std::chars_format::general, kStreamPrecision);
+  return {text.data(), end};
+}
+
+}  // namespace plateconfig
