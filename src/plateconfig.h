@@ -1,0 +1,12 @@
+#pragma once
+
+// Everything that the library offers.
+
+#include "config/column_width_manager.h"
+#include "config/common_config.h"
+#include "config/read_config_file.h"
+#include "config/text_helpers.h"
+#include "host/body_info.h"
+#include "plateconfig_export.h"
+#include "rules/process_rule.h"
+#include "rules/process_rule_library.h"

@@ -1,0 +1,114 @@
+#include "rules/trace_sink.h"
+
+#include "config/numbers.h"
+#include "config/text_helpers.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+using namespace literals;
+
+struct SizeTexts {
+  std::string_view refusal;
+  std::string_view minimum;
+  std::string_view maximum;
+};
+
+// In the order of kSizeConditions.
+constexpr SizeTexts kSizeTexts[] = {
+    {"长度不符合此规则！"_gbk, "最小长度："_gbk, "最大长度："_gbk},
+    {"宽度不符合此规则！"_gbk, "最小宽度："_gbk, "最大宽度："_gbk},
+    {"高度不符合此规则！"_gbk, "最小高度："_gbk, "最大高度："_gbk},
+    {"重量不符合此规则！"_gbk, "最小重量："_gbk, "最大重量："_gbk},
+};
+
+struct FaceTexts {
+  std::string_view wanted;
+  std::string_view presentButNotWanted;
+  std::string_view wantedButNotPresent;
+};
+
+// The blank in front of the first colon belongs to the label.
+constexpr FaceTexts kProfileTexts = {"bHaveProfileColor :"_gbk, "bInclude && !bHaveProfileColor！"_gbk,
+                                     "!bInclude && bHaveProfileColor！"_gbk};
+constexpr FaceTexts kWireCuttingTexts = {"bHaveWireCuttingColor :"_gbk,
+                                         "bInclude && !bHaveWireCuttingColor！"_gbk,
+                                         "!bInclude && bHaveWireCuttingColor！"_gbk};
+
+}  // namespace
+
+void TraceSink::Line(std::string_view text) {
+  text_.append(text).append("\n");
+}
+
+void TraceSink::Line(std::string_view label, double value) {
+  text_.append(label).append(StreamNumber(value)).append("\n");
+}
+
+void TraceSink::Line(std::string_view label, int value) {
+  text_.append(label).append(IntToString(value)).append("\n");
+}
+
+void TraceSink::OnBody(const Plate& plate) {
+  Line("dbBodyLength:", plate.length);
+  Line("dbBodyWidth:", plate.width);
+  Line("dbBodyHeight:", plate.height);
+  Line("dbBodyWeight:", plate.weight);
+  Line("nBodyLayer:", plate.layer);
+  Line("nBodyColor:", plate.color);
+}
+
+void TraceSink::ColorBlock(std::string_view title, std::string_view label, const std::vector<int>& colors) {
+  constexpr std::string_view kRule = "======================";
+  const std::string banner = std::string(kRule).append(title).append("===================");
+  Line(banner);
+  for (const int color : colors) Line(label, color);
+  Line(banner);
+}
+
+void TraceSink::OnColors(const Plate& plate, const std::vector<int>& profile,
+                         const std::vector<int>& wireCutting) {
+  ColorBlock("FaceColor", "FaceColor:", plate.faceColors);
+  ColorBlock("型面颜色"_gbk, "型面颜色:"_gbk, profile);
+  ColorBlock("线割颜色"_gbk, "线割颜色:"_gbk, wireCutting);
+}
+
+void TraceSink::OnRow(const RuleRow& row) {
+  Line("当前行号:"_gbk, row.lineNumber);
+}
+
+void TraceSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate&, bool passed) {
+  if (passed) return;
+  const SizeTexts& texts = kSizeTexts[static_cast<std::size_t>(size.condition)];
+  Line(texts.refusal);
+  Line(texts.minimum, row.*size.minimum);
+  Line(texts.maximum, row.*size.maximum);
+}
+
+void TraceSink::OnMaterial(const RuleRow& row, const Plate& plate, bool passed) {
+  if (passed) return;
+  Line("材料颜色不符合此规则！"_gbk);
+  Line("材料颜色:"_gbk, plate.color);
+  for (const int color : row.materialColors) Line("材料颜色配置:"_gbk, color);
+}
+
+void TraceSink::OnFaces(Condition condition, bool wanted, bool present) {
+  const FaceTexts& texts = condition == Condition::kProfile ? kProfileTexts : kWireCuttingTexts;
+  Line(texts.wanted, wanted ? 1 : 0);
+  Line("bInclude:", present ? 1 : 0);
+  if (present && !wanted) Line(texts.presentButNotWanted);
+  if (!present && wanted) Line(texts.wantedButNotPresent);
+}
+
+void TraceSink::OnMatch(const RuleRow& row, const std::string& text) {
+  Line("vecRuleInfos[i].dbMinLength；"_gbk, row.dbMinLength);
+  Line("vecRuleInfos[i].dbMaxLength；"_gbk, row.dbMaxLength);
+  Line("vecRuleInfos[i].dbMinWidth；"_gbk, row.dbMinWidth);
+  Line("vecRuleInfos[i].dbMaxWidth；"_gbk, row.dbMaxWidth);
+  Line("vecRuleInfos[i].dbMinHeight；"_gbk, row.dbMinHeight);
+  Line("vecRuleInfos[i].dbMaxHeight；"_gbk, row.dbMaxHeight);
+  Line(text);
+}
+
+}  // namespace plateconfig

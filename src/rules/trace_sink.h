@@ -1,0 +1,41 @@
+#pragma once
+
+// Writes the steps of one evaluation as the lines of the rules' diagnostic file.
+
+#include <string>
+#include <vector>
+
+#include "platform/diagnostic_file.h"
+#include "rules/evaluation.h"
+
+namespace plateconfig {
+
+/// Gathers the lines (GBK, each ending with LF) and appends them in one go when it is destroyed, so also when
+/// the host throws in the middle of an evaluation. Create it only for a file that is open.
+class TraceSink : public EvaluationSink {
+ public:
+  explicit TraceSink(DiagnosticFile& file) : file_(file) {}
+  ~TraceSink() override { file_.Append(text_); }
+  TraceSink(const TraceSink&) = delete;
+  TraceSink& operator=(const TraceSink&) = delete;
+
+  void OnBody(const Plate& plate) override;
+  void OnColors(const Plate& plate, const std::vector<int>& profile,
+                const std::vector<int>& wireCutting) override;
+  void OnRow(const RuleRow& row) override;
+  void OnSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, bool passed) override;
+  void OnMaterial(const RuleRow& row, const Plate& plate, bool passed) override;
+  void OnFaces(Condition condition, bool wanted, bool present) override;
+  void OnMatch(const RuleRow& row, const std::string& text) override;
+
+ private:
+  void Line(std::string_view text);
+  void Line(std::string_view label, double value);
+  void Line(std::string_view label, int value);
+  void ColorBlock(std::string_view title, std::string_view label, const std::vector<int>& colors);
+
+  DiagnosticFile& file_;
+  std::string text_;
+};
+
+}  // namespace plateconfig
