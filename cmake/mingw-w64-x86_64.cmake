@@ -16,3 +16,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # themselves: nothing of the compiler needs to be installed beside them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+
+# Programs of the build run under Wine; scripts/test-windows prepares it.
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
