@@ -35,6 +35,10 @@ std::string HostPathFromUtf8(std::string_view path);
 /// The other way; bytes that are no text become U+FFFD on Windows and stay elsewhere.
 std::string Utf8FromHostPath(std::string_view path);
 
+/// A path as the library hands it out (GBK with backslashes), for people to read. Elsewhere than on Windows
+/// its separators are slashes, as in every other path there.
+std::string ShownPath(const std::string& libraryPath);
+
 /// The language of the user's programs as the system names it: "zh_CN.UTF-8" from the locale variables
 /// (LC_ALL, LC_MESSAGES, LANG: the first that is set), "zh-CN" on Windows. Empty when nothing is set.
 std::string SystemLocaleName();

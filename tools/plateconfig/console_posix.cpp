@@ -3,6 +3,8 @@
 #include <cstdlib>
 
 #include "plateconfig/console.h"
+#include "platform/posix_path.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 
@@ -22,6 +24,10 @@ std::string HostPathFromUtf8(std::string_view path) {
 
 std::string Utf8FromHostPath(std::string_view path) {
   return std::string(path);
+}
+
+std::string ShownPath(const std::string& libraryPath) {
+  return GbkToUtf8(WithForwardSlashes(libraryPath));
 }
 
 std::string SystemLocaleName() {

@@ -108,6 +108,10 @@ std::string Utf8FromHostPath(std::string_view path) {
   return Utf8From(WideFrom(CP_ACP, path));
 }
 
+std::string ShownPath(const std::string& libraryPath) {
+  return Utf8FromHostPath(libraryPath);
+}
+
 std::string SystemLocaleName() {
   wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
   LCIDToLocaleName(MAKELCID(GetUserDefaultUILanguage(), SORT_DEFAULT), name, LOCALE_NAME_MAX_LENGTH, 0);
