@@ -10,3 +10,6 @@
 #include "plateconfig_export.h"
 #include "rules/process_rule.h"
 #include "rules/process_rule_library.h"
+#include "settings/custom_default.h"
+#include "settings/default_manager.h"
+#include "settings/system_default.h"
