@@ -1,7 +1,10 @@
 #include "holes/classification.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <limits>
 
 #include "holes/number_cut.h"
 
@@ -67,9 +70,13 @@ bool Classification::Belongs() const {
 }
 
 std::string StructureKey(const CombHole& hole) {
-  std::string key = std::to_string(hole.topHoles.size());
-  key.append("_").append(std::to_string(hole.throughHoles.size()));
-  return key.append("_").append(std::to_string(hole.bottomHoles.size()));
+  std::array<char, kHoleGroupCount*(std::numeric_limits<std::size_t>::digits10 + 2)> text;
+  char* end = text.data();
+  for (const HoleGroup& group : kHoleGroups) {
+    if (end != text.data()) *end++ = '_';
+    end = std::to_chars(end, text.data() + text.size(), (hole.*group.segments).size()).ptr;
+  }
+  return {text.data(), end};
 }
 
 double ComparedDiameter(const HoleInfo& segment) {
