@@ -62,11 +62,11 @@ bool BareComparison(const CombHole& hole, const HoleTypeInfo& type) {
   if (type.countKey != "1_1_1") return false;
   const auto fits = [](const std::vector<HoleInfo>& segments, const auto& colors, const auto& diameters) {
     const HoleInfo& segment = segments[0];
-    return Allows(colors, [&](int color) { return color == segment.color; }) &
+    return Allows(colors, [&](int color) { return color == segment.color; }) &&
            Allows(diameters, [&](double diameter) { return std::fabs(diameter - segment.diameter) < 1e-6; });
   };
-  return fits(hole.topHoles, type.topColor, type.topDiameter) &
-         fits(hole.throughHoles, type.throughColor, type.throughDiameter) &
+  return fits(hole.topHoles, type.topColor, type.topDiameter) &&
+         fits(hole.throughHoles, type.throughColor, type.throughDiameter) &&
          fits(hole.bottomHoles, type.bottomColor, type.bottomDiameter);
 }
 
