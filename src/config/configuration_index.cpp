@@ -7,16 +7,17 @@
 #include "text/gbk.h"
 
 namespace plateconfig {
+
+using namespace literals;
+
+constexpr std::string_view kIndexFolderColumn = "文件夹名称"_gbk;
+constexpr std::string_view kIndexFlagColumn = "有效配置"_gbk;
+
 namespace {
 
-using namespace plateconfig::literals;
-
-constexpr std::string_view kFolderNameColumn = "文件夹名称"_gbk;
-constexpr std::string_view kFlagColumn = "有效配置"_gbk;
-
 std::vector<IndexRow> ReadRows(const ReadConfigFile& index) {
-  const auto names = index.GetColumnValue(std::string(kFolderNameColumn));
-  const auto flags = index.GetColumnValue(std::string(kFlagColumn));
+  const auto names = index.GetColumnValue(std::string(kIndexFolderColumn));
+  const auto flags = index.GetColumnValue(std::string(kIndexFlagColumn));
   if (names.empty() || flags.empty()) return {};
   std::vector<IndexRow> rows;
   for (std::size_t row = 0; row < flags.size(); ++row) {

@@ -4,12 +4,17 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace plateconfig {
 
 /// The host variable that names the configuration root.
 inline constexpr const char* kRootVariable = "TQConfig";
+
+/// The columns of the index table (GBK).
+extern const std::string_view kIndexFolderColumn;
+extern const std::string_view kIndexFlagColumn;
 
 /// One row of the index table.
 struct IndexRow {

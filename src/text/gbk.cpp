@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 #include "text/gbk_scan.h"
 
@@ -30,7 +29,8 @@ class GbkDecoder {
     return decoder;
   }
 
-  // The character of `length` bytes at `at`, as GbkCharLength counts them; 0 when none is assigned. Not for ASCII.
+  // The character of `length` bytes at `at`, as GbkCharLength counts them; 0 when none is assigned. Not for
+  // ASCII.
   char16_t CharacterAt(std::string_view gbk, std::size_t at, std::size_t length) const {
     unsigned code = static_cast<unsigned char>(gbk[at]);
     if (length == 2) code = code << 8 | static_cast<unsigned char>(gbk[at + 1]);
@@ -42,7 +42,8 @@ class GbkDecoder {
 
   GbkDecoder() {
     for (char16_t c = kFirstIdeograph; c <= kLastIdeograph; ++c) Add(kIdeographCodes[c - kFirstIdeograph], c);
-    for (std::size_t i = 0; i + 1 < std::size(kOtherCharacters); ++i) Add(kOtherCodes[i], kOtherCharacters[i]);
+    for (std::size_t i = 0; i + 1 < std::size(kOtherCharacters); ++i)
+      Add(kOtherCodes[i], kOtherCharacters[i]);
   }
 
   void Add(char16_t code, char16_t character) { characters_[code - kFirstCode] = character; }

@@ -6,11 +6,11 @@
 //   const std::string fileName = folder + "/默认值.csv"_gbk;
 //   std::cout << plateconfig::GbkToUtf8(fileName);
 //
-// The literal is converted while compiling and does not depend on the compiler's execution character set. A character
-// that code page 936 lacks does not compile: the compiler names CharacterIsNotInCodePage936.
+// The literal is converted while compiling and does not depend on the compiler's execution character set. A
+// character that code page 936 lacks does not compile: the compiler names CharacterIsNotInCodePage936.
 //
-// Code page 936 here: ASCII, the euro sign at 0x80 and 21,791 characters of two bytes. 0xFF, the areas for user-defined
-// characters and everything beyond U+FFFF have no counterpart.
+// Code page 936 here: ASCII, the euro sign at 0x80 and 21,791 characters of two bytes. 0xFF, the areas for
+// user-defined characters and everything beyond U+FFFF have no counterpart.
 #pragma once
 
 #include <algorithm>
@@ -26,19 +26,20 @@
 
 namespace plateconfig {
 
-/// UTF-8 of GBK bytes, always well-formed. Every undecodable byte (0xFF, a lead byte without a trail byte) and every
-/// pair without an assigned character becomes one U+FFFD.
+/// UTF-8 of GBK bytes, always well-formed. Every undecodable byte (0xFF, a lead byte without a trail byte)
+/// and every pair without an assigned character becomes one U+FFFD.
 std::string GbkToUtf8(std::string_view gbk);
 
-/// GBK bytes of UTF-8. Every character that code page 936 lacks and every byte that belongs to no well-formed character
-/// becomes one '?'.
+/// GBK bytes of UTF-8. Every character that code page 936 lacks and every byte that belongs to no well-formed
+/// character becomes one '?'.
 std::string Utf8ToGbk(std::string_view utf8);
 
 /// As above, but nothing where a replacement would be needed.
 std::optional<std::string> TryGbkToUtf8(std::string_view gbk);
 std::optional<std::string> TryUtf8ToGbk(std::string_view utf8);
 
-/// True when every byte belongs to a well-formed character: no overlong forms, surrogates or values above U+10FFFF.
+/// True when every byte belongs to a well-formed character: no overlong forms, surrogates or values above
+/// U+10FFFF.
 bool IsValidUtf8(std::string_view text);
 
 /// True when every byte belongs to an assigned character of code page 936.
@@ -46,13 +47,14 @@ bool IsValidGbk(std::string_view text);
 
 // ---- "…"_gbk: what follows runs in the compiler only ----
 
-/// A compiler writes a string literal as UTF-8 unless it is told, or its system's locale says, code page 936; bytes
-/// that already are GBK are taken as they are.
+/// A compiler writes a string literal as UTF-8 unless it is told, or its system's locale says, code page 936;
+/// bytes that already are GBK are taken as they are.
 inline constexpr bool kLiteralsAreUtf8 = std::string_view("图") == "\xE5\x9B\xBE";
 inline constexpr bool kLiteralsAreGbk = std::string_view("图") == "\xCD\xBC";
 static_assert(kLiteralsAreUtf8 || kLiteralsAreGbk, "the compiler does not read source files as UTF-8");
 
-/// Not constexpr, never defined: a literal that needs one of them does not compile, and the message holds the name.
+/// Not constexpr, never defined: a literal that needs one of them does not compile, and the message holds the
+/// name.
 void CharacterIsNotInCodePage936();
 void LiteralIsNotWellFormedUtf8();
 
@@ -97,7 +99,8 @@ constexpr auto EncodeLiteral() {
   std::size_t size = 0;
   for (std::size_t at = 0; at < kText.View().size();) {
     const LiteralCharacter character = EncodeLiteralAt(kText.View(), at);
-    for (std::size_t i = 0; i < GbkCodeLength(character.code); ++i) gbk[size++] = GbkCodeByte(character.code, i);
+    for (std::size_t i = 0; i < GbkCodeLength(character.code); ++i)
+      gbk[size++] = GbkCodeByte(character.code, i);
     at += character.utf8Length;
   }
   return gbk;
@@ -108,14 +111,34 @@ template <LiteralText kText>
 inline constexpr auto kGbkBytes = EncodeLiteral<kText>();
 
 template <LiteralText kText>
-inline constexpr std::string_view kGbkView = {kGbkBytes<kText>.data(), kGbkBytes<kText>.size() - 1};
+constexpr std::string_view ViewOfLiteral() {
+  if constexpr (kLiteralsAreGbk) {
+    return kText.View();
+  } else {
+    return {kGbkBytes<kText>.data(), kGbkBytes<kText>.size() - 1};
+  }
+}
 
 inline namespace literals {
 
-template <LiteralText kText>
-constexpr const std::string_view& operator""_gbk() {
-  return kGbkView<kText>;
+/// The literal's code page 936 bytes. They live as long as the program and are followed by a 0, so that
+/// data() may be handed to a function that wants a C string.
+#if defined(__clang__)
+// clang 14 crashes when it prints a literal of the standard form below, which it does for
+// `std::string("…"_gbk) + "x"` and many more; its older form, of single characters, means the same.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wgnu-string-literal-operator-template"
+template <typename Char, Char... kCharacters>
+consteval std::string_view operator""_gbk() {
+  return ViewOfLiteral<LiteralText<sizeof...(kCharacters) + 1>({kCharacters..., '\0'})>();
 }
+#pragma clang diagnostic pop
+#else
+template <LiteralText kText>
+consteval std::string_view operator""_gbk() {
+  return ViewOfLiteral<kText>();
+}
+#endif
 
 /// Joins a std::string and a literal, which C++20's own operator+ refuses.
 inline std::string operator+(std::string left, std::string_view right) {

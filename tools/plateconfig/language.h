@@ -27,7 +27,8 @@ std::string Say(std::string_view english, std::string_view chinese);
 
 /// The same with `{}` places, filled as fmt does; both texts take the same arguments.
 template <typename... Arguments>
-std::string Say(std::string_view english, std::string_view chinese, const Arguments&... arguments) {
+requires(sizeof...(Arguments) > 0) std::string
+    Say(std::string_view english, std::string_view chinese, const Arguments&... arguments) {
   return fmt::vformat(CurrentLanguage() == Language::kChinese ? chinese : english,
                       fmt::make_format_args(arguments...));
 }

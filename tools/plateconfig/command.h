@@ -1,0 +1,34 @@
+#pragma once
+
+// The verbs of the companion. Each one describes its options to the argument parser and, when it is the one
+// that the user chose, leaves what is to be done in `chosen`.
+
+#include <CLI/App.hpp>
+#include <functional>
+
+#include "plateconfig/configuration.h"
+#include "plateconfig/reporter.h"
+#include "plateconfig/streams.h"
+
+namespace plateconfig {
+
+enum class Format { kText, kJson };
+
+/// What a verb works with.
+struct Session {
+  const Streams& streams;
+  Reporter& reporter;
+  Format format;
+};
+
+using Verb = std::function<void(Session&)>;
+
+void AddFolderCommand(CLI::App& app, Verb& chosen);
+void AddProcessCommand(CLI::App& app, Verb& chosen);
+void AddExplainCommand(CLI::App& app, Verb& chosen);
+
+/// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
+void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
+                             ConfigurationOptions& options);
+
+}  // namespace plateconfig

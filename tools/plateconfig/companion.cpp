@@ -1,0 +1,117 @@
+#include "plateconfig/companion.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <algorithm>
+#include <map>
+
+#include "plateconfig/command.h"
+#include "plateconfig/language.h"
+#include "plateconfig/reporter.h"
+#include "platform/diagnostic_file.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr const char* kLanguageOption = "--lang";
+
+/// The language has to be known before the options are described in it.
+Language ChosenLanguage(const std::vector<std::string>& arguments) {
+  const std::string joined = std::string(kLanguageOption) + "=";
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const bool isLast = i + 1 == arguments.size();
+    if (arguments[i] == joined + "zh" ||
+        (arguments[i] == kLanguageOption && !isLast && arguments[i + 1] == "zh")) {
+      return Language::kChinese;
+    }
+    if (arguments[i] == joined + "en" ||
+        (arguments[i] == kLanguageOption && !isLast && arguments[i + 1] == "en")) {
+      return Language::kEnglish;
+    }
+  }
+  return SystemLanguage();
+}
+
+void TranslateLabels(CLI::App& app) {
+  const auto formatter = app.get_formatter();
+  formatter->label("Usage", Say("Usage", "用法"));
+  formatter->label("OPTIONS", Say("OPTIONS", "选项"));
+  formatter->label("Options", Say("Options", "选项"));
+  formatter->label("Positionals", Say("Arguments", "参数"));
+  formatter->label("Subcommands", Say("Verbs", "命令"));
+  formatter->label("SUBCOMMAND", Say("VERB", "命令"));
+  formatter->label("REQUIRED", Say("(required)", "（必需）"));
+  constexpr std::size_t kOptionWidth = 34;
+  formatter->column_width(kOptionWidth);
+}
+
+std::string Footer() {
+  return Say(
+      "Exit code: 0 all fine, 1 something to look at, 2 wrong usage or an input that can not be used.\n"
+      "Example:  plateconfig explain --config samples/config/标准 samples/plates.csv",
+      "返回值：0 正常，1 有需要检查之处，2 用法错误或输入无法使用。\n"
+      "示例：plateconfig explain --config samples/config/标准 samples/plates.csv");
+}
+
+/// The command line: what it describes, and what was chosen on it.
+struct CommandLine {
+  CommandLine()
+      : app(Say("Runs the drawing tool's rules outside the CAD system and explains every decision.",
+                "在 CAD 系统之外运行绘图工具的规则，并解释每一个决定。"),
+            "plateconfig") {
+    TranslateLabels(app);
+    app.set_help_flag("-h,--help", Say("print this help and stop", "显示帮助"));
+    app.set_version_flag("--version", PLATECONFIG_VERSION, Say("print the version and stop", "显示版本"));
+    app.require_subcommand(1);
+    app.fallthrough();
+    app.footer(Footer());
+    app.add_option("--format", format, Say("form of the output: text or json", "输出格式：text 或 json"))
+        ->transform(CLI::CheckedTransformer(
+            std::map<std::string, Format>{{"text", Format::kText}, {"json", Format::kJson}}))
+        ->type_name("text|json");
+    app.add_option(kLanguageOption, language, Say("language of the output: en or zh", "输出语言：en 或 zh"))
+        ->check(CLI::IsMember({"en", "zh"}))
+        ->type_name("en|zh");
+    AddFolderCommand(app, verb);
+    AddProcessCommand(app, verb);
+    AddExplainCommand(app, verb);
+  }
+
+  CLI::App app;
+  Format format = Format::kText;
+  std::string language;
+  Verb verb;
+};
+
+/// Parses; false with the exit code set when there is nothing to run.
+bool Parse(CommandLine& line, std::vector<std::string> arguments, const Streams& streams, int& exitCode) {
+  std::reverse(arguments.begin(), arguments.end());  // The parser takes them from the end.
+  try {
+    line.app.parse(arguments);
+    return true;
+  } catch (const CLI::ParseError& error) {
+    const int code = line.app.exit(error, streams.out, streams.err);
+    exitCode = code == 0 ? kFine : kUnusable;
+    return false;
+  }
+}
+
+}  // namespace
+
+int RunCompanion(const std::vector<std::string>& arguments, const Streams& streams) {
+  // Trying out tables must not grow the files in which the drawing tool's own runs are looked up.
+  EnableDiagnosticFiles(false);
+  SetLanguage(ChosenLanguage(arguments));
+  CommandLine line;
+  int exitCode = kFine;
+  if (!Parse(line, arguments, streams, exitCode)) return exitCode;
+  Reporter reporter(streams.err);
+  Session session{streams, reporter, line.format};
+  line.verb(session);
+  streams.out.flush();
+  if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
+  return reporter.Result();
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,116 @@
+#include "plateconfig/configuration.h"
+
+#include "config/configuration_index.h"
+#include "config/table.h"
+#include "plateconfig/console.h"
+#include "plateconfig/json_node.h"
+#include "plateconfig/language.h"
+#include "platform/file.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr const char* kManifestName = "tables.json";
+
+TableFile FromCommandLine(const std::string& path) {
+  return {HostPathFromUtf8(path), path};
+}
+
+bool EndsWithSeparator(const std::string& path) {
+  return path.ends_with('/') || path.ends_with('\\');
+}
+
+}  // namespace
+
+std::optional<TableFile> Configuration::Find(Role role) {
+  std::optional<TableFile> table = FindOptional(role);
+  if (!table) {
+    reporter_.Error({"plateconfig"}, Say("no table plays the role {0}: name it in {1}, or give --{0} FILE",
+                                         "没有文件担任 {0} 角色：请在 {1} 中指定，或使用 --{0} 文件",
+                                         NameOf(role), folder_.shownAs + kManifestName));
+  }
+  return table;
+}
+
+std::optional<TableFile> Configuration::FindOptional(Role role) {
+  if (const auto named = options_.tables.find(role); named != options_.tables.end()) {
+    return FromCommandLine(named->second);
+  }
+  if (!isRead_) {
+    isRead_ = true;
+    if (FindFolder()) ReadManifest();
+  }
+  const auto named = manifest_.find(role);
+  if (named == manifest_.end()) return std::nullopt;
+  return InFolder(named->second);
+}
+
+bool Configuration::FindFolder() {
+  if (!options_.folder.empty()) {
+    folder_ = FromCommandLine(EndsWithSeparator(options_.folder) ? options_.folder : options_.folder + "/");
+    return true;
+  }
+  const std::optional<std::string> root = ConfigurationRoot();
+  if (!root) {
+    reporter_.Error({"plateconfig"}, Say("{} is not set, and no configuration folder was given with --config",
+                                         "没有设置 {}，也没有用 --config 指定配置文件夹", kRootVariable));
+    return false;
+  }
+  const std::string active = ReadConfigurationIndex(*root).activeFolder + "\\";
+  folder_ = {active, ShownPath(active)};
+  return true;
+}
+
+std::optional<TableFile> Configuration::InFolder(const std::string& name) const {
+  if (!options_.folder.empty()) return FromCommandLine(folder_.shownAs + name);
+  return TableFile{folder_.hostPath + Utf8ToGbk(name), folder_.shownAs + name};
+}
+
+void Configuration::ReadManifest() {
+  const TableFile manifest = *InFolder(kManifestName);
+  const std::optional<FileBytes> bytes = ReadWholeFile(manifest.hostPath);
+  if (!bytes) {
+    reporter_.Error({manifest.shownAs},
+                    Say("this manifest, which says what file plays which role, can not be read",
+                        "无法读取此清单（它说明各个文件的角色）"));
+    return;
+  }
+  JsonNode root;
+  if (!ParseJson(bytes->View(), {manifest.shownAs, 1, 1}, reporter_, root)) return;
+  if (root.kind != JsonNode::Kind::kObject) {
+    reporter_.Error(root.place, Say("the manifest should be an object { role: file name, … }",
+                                    "清单应当是一个对象 { 角色: 文件名, … }"));
+  }
+  for (const auto& [name, file] : root.members) {
+    const auto role = FindRole(name);
+    if (!role) {
+      reporter_.Warning(file.place, Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", name));
+    } else if (file.kind != JsonNode::Kind::kString) {
+      reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",
+                                      "角色 {} 的文件名应当是带引号的文本", name));
+    } else {
+      manifest_[*role] = file.text;
+    }
+  }
+}
+
+void CheckTable(const TableFile& file, const std::string& consequence, Reporter& reporter) {
+  if (!FileExists(file.hostPath)) {
+    reporter.Error({file.shownAs}, Say("this table does not exist; {}", "此表不存在；{}", consequence));
+    return;
+  }
+  const std::optional<Table> table = Table::Read(file.hostPath);
+  if (!table) {
+    reporter.Error({file.shownAs}, Say("this table can not be read; {}", "无法读取此表；{}", consequence));
+  } else if (table->ColumnCount() == 0) {
+    reporter.Warning({file.shownAs}, Say("this table is empty; {}", "此表是空的；{}", consequence));
+  } else if (!IsValidGbk(table->Bytes())) {
+    reporter.Warning({file.shownAs, 1, 1},
+                     Say("this table is not GBK, so its Chinese names are not found; save it as CSV in GBK"
+                         " (code page 936)",
+                         "此表不是 GBK 编码，因此找不到其中的中文名称；请存为 GBK（代码页 936）的 CSV"));
+  }
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+
+namespace plateconfig {
+
+/// Writes a JSON array element by element, one a line, so that a long one needs no memory.
+class JsonArray {
+ public:
+  explicit JsonArray(std::ostream& out) : out_(out) {}
+  ~JsonArray() { out_ << (isEmpty_ ? "[]\n" : "\n]\n"); }
+  JsonArray(const JsonArray&) = delete;
+  JsonArray& operator=(const JsonArray&) = delete;
+
+  void Add(const nlohmann::ordered_json& element) {
+    out_ << (isEmpty_ ? "[\n" : ",\n") << ToText(element);
+    isEmpty_ = false;
+  }
+
+  /// One line of UTF-8.
+  static std::string ToText(const nlohmann::ordered_json& value) {
+    return value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+  }
+
+ private:
+  std::ostream& out_;
+  bool isEmpty_ = true;
+};
+
+}  // namespace plateconfig

@@ -1,0 +1,49 @@
+#include "plateconfig/json_values.h"
+
+#include <limits>
+
+#include "plateconfig/language.h"
+
+namespace plateconfig {
+
+void JsonValues::Refuse(const JsonNode& node, const std::string& text) {
+  areGood_ = false;
+  reporter_.Error(node.place, text + Say(" (this object is passed over)", "（此对象被跳过）"));
+}
+
+bool JsonValues::Expect(const JsonNode& node, JsonNode::Kind kind, const std::string& what) {
+  if (node.kind == kind) return true;
+  Refuse(node, Say("this should be {}", "这里应当是{}", what));
+  return false;
+}
+
+bool JsonValues::IsArray(const JsonNode& node) {
+  return Expect(node, JsonNode::Kind::kArray, Say("a list [ … ]", "列表 [ … ]"));
+}
+
+bool JsonValues::IsObject(const JsonNode& node) {
+  return Expect(node, JsonNode::Kind::kObject, Say("an object { … }", "对象 { … }"));
+}
+
+void JsonValues::Read(const JsonNode& node, bool& value) {
+  if (Expect(node, JsonNode::Kind::kBool, Say("true or false", " true 或 false"))) value = node.flag;
+}
+
+void JsonValues::Read(const JsonNode& node, double& value) {
+  if (Expect(node, JsonNode::Kind::kNumber, Say("a number", "数字"))) value = node.number;
+}
+
+void JsonValues::Read(const JsonNode& node, int& value) {
+  const std::string what = Say("a whole number", "整数");
+  if (!Expect(node, JsonNode::Kind::kNumber, what)) return;
+  const bool fits =
+      node.number >= std::numeric_limits<int>::min() && node.number <= std::numeric_limits<int>::max();
+  if (!node.isInteger || !fits) return Refuse(node, Say("this should be {}", "这里应当是{}", what));
+  value = static_cast<int>(node.number);
+}
+
+void JsonValues::Read(const JsonNode& node, std::string& value) {
+  if (Expect(node, JsonNode::Kind::kString, Say("a text in quotes", "带引号的文本"))) value = node.text;
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,96 @@
+#include "plateconfig/plate_job.h"
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+
+#include "plateconfig/feed_rules.h"
+#include "plateconfig/language.h"
+#include "plateconfig/progress.h"
+
+namespace plateconfig {
+namespace {
+
+std::optional<RuleTables> LoadTables(const PlateJob& job, Session& session) {
+  Configuration configuration(job.configuration, session.reporter);
+  const auto rules = configuration.Find(Role::kProcessRules);
+  const auto settings = configuration.Find(Role::kProcessSettings);
+  if (!rules || !settings) return std::nullopt;
+  CheckTable(*rules,
+             Say("the library then has no rule rows and every process text is empty",
+                 "库因此没有任何规则行，所有工艺文本都为空"),
+             session.reporter);
+  CheckTable(*settings,
+             Say("the library then joins the processes with nothing between them",
+                 "库因此在各工艺之间不加任何连接符号"),
+             session.reporter);
+  return LoadRuleTables(rules->hostPath, settings->hostPath);
+}
+
+class PlateLoop {
+ public:
+  PlateLoop(const RuleTables& tables, Session& session, const PlateVisitor& visit)
+      : tables_(tables), vocabulary_(tables.processRules), session_(session), visit_(visit) {}
+
+  void VisitFile(const std::string& file) {
+    if (file == "-") return Visit(session_.streams.in, Say("standard input", "标准输入"), 0);
+    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
+    std::error_code error;
+    const bool isFolder = std::filesystem::is_directory(path, error);
+    std::ifstream in(path, std::ios::binary);
+    if (isFolder || !in) {
+      session_.reporter.Error(
+          {file}, isFolder ? Say("this is a folder, not a file of plates", "这是文件夹，不是板的文件")
+                           : Say("this file can not be opened", "无法打开此文件"));
+      return;
+    }
+    const auto size = std::filesystem::file_size(path, error);
+    Visit(in, file, error ? 0 : static_cast<std::size_t>(size));
+  }
+
+ private:
+  void Visit(std::istream& in, const std::string& file, std::size_t size) {
+    Progress progress(session_.streams.err, session_.streams.showsProgress, in, size);
+    session_.reporter.BeforeMessage([&progress] { progress.Clear(); });
+    const auto plates = ReadPlates(in, file, vocabulary_, session_.reporter);
+    std::size_t count = 0;
+    while (const std::optional<PlateInput> plate = plates->Next()) {
+      std::vector<ProcessRule> rules = tables_.processRules;
+      FeedRules(rules, plate->features);
+      visit_(*plate, tables_, rules);
+      progress.Step();
+      ++count;
+    }
+    if (in.bad()) session_.reporter.Error({file}, Say("reading this file failed", "读取此文件失败"));
+    if (count == 0)
+      session_.reporter.Warning({file}, Say("no plate was read from this file", "没有从此文件读到任何板"));
+    session_.reporter.BeforeMessage({});
+  }
+
+  const RuleTables& tables_;
+  PlateVocabulary vocabulary_;
+  Session& session_;
+  const PlateVisitor& visit_;
+};
+
+}  // namespace
+
+void AddPlateOptions(CLI::App& command, PlateJob& job) {
+  AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job.configuration);
+  command
+      .add_option("plates", job.files,
+                  Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                      "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      ->type_name(Say("FILE", "文件"))
+      ->required();
+}
+
+void VisitPlates(const PlateJob& job, Session& session, const PlateVisitor& visit) {
+  const std::optional<RuleTables> tables = LoadTables(job, session);
+  if (!tables) return;
+  PlateLoop loop(*tables, session, visit);
+  for (const std::string& file : job.files) loop.VisitFile(file);
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,60 @@
+#include <memory>
+#include <optional>
+
+#include "plateconfig/command.h"
+#include "plateconfig/json_output.h"
+#include "plateconfig/language.h"
+#include "plateconfig/plate_job.h"
+#include "rules/evaluation.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+/// Remembers the row that matched, and nothing else.
+class MatchSink : public EvaluationSink {
+ public:
+  void OnMatch(const RuleRow& row, const std::string&) override { line = row.lineNumber; }
+
+  std::optional<int> line;
+};
+
+void WriteText(const PlateInput& plate, std::optional<int> line, const std::string& text, std::ostream& out) {
+  if (!line) {
+    out << plate.name << ": "
+        << Say("no rule row fits (plateconfig explain tells why)",
+               "没有符合的规则行（用 plateconfig explain 查看原因）")
+        << "\n";
+    return;
+  }
+  out << plate.name << Say(" (line {}): ", "（第 {} 行）：", *line) << text << "\n";
+}
+
+nlohmann::ordered_json ToJson(const PlateInput& plate, std::optional<int> line, const std::string& text) {
+  return {{"name", plate.name}, {"line", line ? nlohmann::ordered_json(*line) : nullptr}, {"text", text}};
+}
+
+void RunProcess(const PlateJob& job, Session& session) {
+  std::optional<JsonArray> array;
+  if (session.format == Format::kJson) array.emplace(session.streams.out);
+  VisitPlates(job, session,
+              [&](const PlateInput& plate, const RuleTables& tables, const std::vector<ProcessRule>& rules) {
+                MatchSink match;
+                const std::string text = GbkToUtf8(EvaluatePlate(tables, plate.plate, rules, match));
+                if (!match.line) session.reporter.CountFinding();
+                array ? array->Add(ToJson(plate, match.line, text))
+                      : WriteText(plate, match.line, text, session.streams.out);
+              });
+}
+
+}  // namespace
+
+void AddProcessCommand(CLI::App& app, Verb& chosen) {
+  CLI::App* command = app.add_subcommand(
+      "process", Say("print the manufacturing-process text of each plate", "输出每块板的制造工艺文本"));
+  const auto job = std::make_shared<PlateJob>();
+  AddPlateOptions(*command, *job);
+  command->callback([job, &chosen] { chosen = [job](Session& session) { RunProcess(*job, session); }; });
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,54 @@
+#pragma once
+
+// Messages about the user's files, one a line on the error stream:
+//
+//   plates.csv:3:12: error: C3: the width "45o" is not a number; write it like 450 or 12.5
+
+#include <cstddef>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace plateconfig {
+
+/// A place in a file; line and column count from 1 in characters, 0 is unknown.
+struct Place {
+  std::string file;
+  std::size_t line = 0;
+  std::size_t column = 0;
+};
+
+/// "file:line:column", without what is unknown.
+std::string ToString(const Place& place);
+
+/// The exit codes of the companion.
+enum ExitCode { kFine = 0, kFindings = 1, kUnusable = 2 };
+
+class Reporter {
+ public:
+  explicit Reporter(std::ostream& err) : err_(err) {}
+
+  /// Something of the input could not be used.
+  void Error(const Place& place, const std::string& text);
+  /// Something looks wrong but was used as it is.
+  void Warning(const Place& place, const std::string& text);
+  /// A result that the user should look at, already shown in the output.
+  void CountFinding() { hasFindings_ = true; }
+
+  /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
+  /// ends it.
+  void BeforeMessage(std::function<void()> prepare) { prepare_ = std::move(prepare); }
+
+  ExitCode Result() const { return hasErrors_ ? kUnusable : hasFindings_ ? kFindings : kFine; }
+
+ private:
+  void Write(const Place& place, const char* severity, const std::string& text);
+
+  std::ostream& err_;
+  std::function<void()> prepare_;
+  bool hasErrors_ = false;
+  bool hasFindings_ = false;
+};
+
+}  // namespace plateconfig
