@@ -11,7 +11,7 @@ struct CloseFile {
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
-constexpr std::size_t kFirstCapacity = 64 * 1024;
+constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
 
 /// The size that the file system tells, as a first guess: files such as pipes do not know theirs.
 std::size_t GuessSize(std::FILE* file) {
