@@ -2,10 +2,12 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <initializer_list>
 #include <string_view>
 #include <utility>
 
 #include "rules/condition_texts.h"
+#include "support/gbk_text.h"
 #include "text/gbk.h"
 
 namespace plateconfig::test {
@@ -13,19 +15,26 @@ namespace {
 
 using namespace plateconfig::literals;
 
-using Texts = std::vector<std::string_view>;
+using Texts = std::vector<std::string>;
+
+/// Readable UTF-8 as the tables hold it.
+Texts InGbk(std::initializer_list<std::string_view> utf8) {
+  Texts texts;
+  for (const std::string_view text : utf8) texts.push_back(Gbk(text));
+  return texts;
+}
 
 // ---- cells ----
 
 std::string RangeCell(Random& random) {
-  static const Texts minima = {"0", "10", "20.5", " 0", "x", "-5", "", "10mm", "0x10"};
-  static const Texts maxima = {"100", "200", "1e3", "300mm", "100.25", "+150", "999999"};
-  static const Texts oddities = {"_",     "10",        "10_20_30", "__",      "200_10",  "10_",   "_10",
-                                 "10-90", "\x81_5_90", "\x81_90",  "nan_100", "0_inf",   "-inf_9", "1e-5_1234567",
-                                 "a_b",   "10_20_",    " ",        "0_1e400", "0_0.001", "5_5"};
+  static const Texts minima = InGbk({"0", "10", "20.5", " 0", "x", "-5", "", "10mm", "0x10"});
+  static const Texts maxima = InGbk({"100", "200", "1e3", "300mm", "100.25", "+150", "999999"});
+  static const Texts oddities = InGbk({"_",     "10",        "10_20_30", "__",      "200_10",  "10_",   "_10",
+                                 "10-90", "乢5_90", "乢90",  "nan_100", "0_inf",   "-inf_9", "1e-5_1234567",
+                                 "a_b",   "10_20_",    " ",        "0_1e400", "0_0.001", "5_5"});
   if (random.Chance(25)) return "";
-  if (random.Chance(10)) return std::string(random.Pick(oddities));
-  return std::string(random.Pick(minima)).append("_").append(random.Pick(maxima));
+  if (random.Chance(10)) return random.Pick(oddities);
+  return random.Pick(minima) + "_" + random.Pick(maxima);
 }
 
 std::string ColorList(Random& random, int most) {
@@ -41,37 +50,37 @@ std::string LayerCell(Random& random) {
 }
 
 std::string ConditionTextCell(Random& random) {
-  static const Texts oddities = {"", "有无圆孔 "_gbk, "方孔"_gbk, "圆孔"_gbk};
-  if (random.Chance(6)) return std::string(random.Pick(oddities));
+  static const Texts oddities = InGbk({"", "有无圆孔 ", "方孔", "圆孔"});
+  if (random.Chance(6)) return random.Pick(oddities);
   return std::string(random.Pick(kConditionTexts).text);
 }
 
 std::string ConditionValueCell(Random& random) {
-  static const Texts values = {"", "3", "1_5", "6_8.5_10", "x_2", "10.00005", "2", "-1", "\x81_7", "8.5", "3_4_"};
-  return random.Chance(30) ? ColorList(random, 3) : std::string(random.Pick(values));
+  static const Texts values = InGbk({"", "3", "1_5", "6_8.5_10", "x_2", "10.00005", "2", "-1", "乢7", "8.5", "3_4_"});
+  return random.Chance(30) ? ColorList(random, 3) : random.Pick(values);
 }
 
 const Texts& ProcessNames() {
-  static const Texts names = {"钻孔"_gbk, "攻牙"_gbk, "磨平"_gbk, "CNC精加工"_gbk, "a,b", "2\" hole"};
+  static const Texts names = InGbk({"钻孔", "攻牙", "磨平", "CNC精加工", "a,b", "2\" hole"});
   return names;
 }
 
 std::string ProcessNameCell(Random& random) {
-  static const Texts oddities = {"电火花"_gbk, "长度范围"_gbk, "材质要求"_gbk, "排工艺顺序"_gbk, "钻孔 "_gbk};
+  static const Texts oddities = InGbk({"电火花", "长度范围", "材质要求", "排工艺顺序", "钻孔 "});
   if (random.Chance(15)) return "";
-  return std::string(random.Chance(10) ? random.Pick(oddities) : random.Pick(ProcessNames()));
+  return random.Chance(10) ? random.Pick(oddities) : random.Pick(ProcessNames());
 }
 
 std::string ProcessTextCell(Random& random) {
-  static const Texts texts = {"钻5"_gbk, "攻牙,有效牙深2D"_gbk, "\"x\"", "one\ntwo", "one\r\ntwo", " ",
-                              "→"_gbk,   "5\" drill",           "0",     "\x81_"};
-  return random.Chance(15) ? "" : std::string(random.Pick(texts));
+  static const Texts texts = InGbk({"钻5", "攻牙,有效牙深2D", "\"x\"", "one\ntwo", "one\r\ntwo", " ",
+                              "→",   "5\" drill",           "0",     "乢"});
+  return random.Chance(15) ? "" : random.Pick(texts);
 }
 
 std::string MaterialCell(Random& random) {
-  static const Texts cells = {"软料（体颜色）"_gbk, "软料（体颜色）"_gbk, "硬料（体颜色）"_gbk, "",
-                              "软料（体颜色） "_gbk, "P20"};
-  return std::string(random.Pick(cells));
+  static const Texts cells = InGbk({"软料（体颜色）", "软料（体颜色）", "硬料（体颜色）", "",
+                              "软料（体颜色） ", "P20"});
+  return random.Pick(cells);
 }
 
 std::string FacesCell(Random& random, std::string_view yes, std::string_view no) {
@@ -81,8 +90,8 @@ std::string FacesCell(Random& random, std::string_view yes, std::string_view no)
 
 /// The general parameters may stand in any rows; sometimes one is missing, sometimes one comes twice.
 std::string ParameterNameCell(Random& random) {
-  static const Texts names = {"软料（体颜色）"_gbk, "硬料（体颜色）"_gbk, "有线割"_gbk, "有型面"_gbk, "", "别的"_gbk};
-  return std::string(random.Pick(names));
+  static const Texts names = InGbk({"软料（体颜色）", "硬料（体颜色）", "有线割", "有型面", "", "别的"});
+  return random.Pick(names);
 }
 
 std::string CellFor(std::string_view column, Random& random) {
@@ -102,17 +111,17 @@ std::string CellFor(std::string_view column, Random& random) {
 // ---- tables ----
 
 std::vector<std::string> Header(Random& random) {
-  static const Texts columns = {"通用要求"_gbk, "通用参数"_gbk, "排工艺顺序"_gbk, "排顺序工艺类型"_gbk,
-                                "顺序工艺参数值"_gbk, "模板所在图层"_gbk, "长度范围"_gbk, "宽度范围"_gbk,
-                                "厚度范围"_gbk, "重量范围"_gbk, "有无型面"_gbk, "有无线割"_gbk, "材质要求"_gbk};
+  static const Texts columns = InGbk({"通用要求", "通用参数", "排工艺顺序", "排顺序工艺类型",
+                                "顺序工艺参数值", "模板所在图层", "长度范围", "宽度范围",
+                                "厚度范围", "重量范围", "有无型面", "有无线割", "材质要求"});
   std::vector<std::string> header;
-  for (const std::string_view column : columns) {
-    if (!random.Chance(2)) header.emplace_back(column);
+  for (const std::string& column : columns) {
+    if (!random.Chance(2)) header.push_back(column);
   }
-  for (const std::string_view process : ProcessNames()) {
-    if (!random.Chance(25)) header.emplace_back(process);
+  for (const std::string& process : ProcessNames()) {
+    if (!random.Chance(25)) header.push_back(process);
   }
-  if (random.Chance(5)) header.emplace_back(random.Pick(columns));  // A second column of one name.
+  if (random.Chance(5)) header.push_back(random.Pick(columns));  // A second column of one name.
   if (random.Chance(10)) header.emplace_back("");
   for (std::size_t i = header.size(); i > 1; --i) {
     std::swap(header[i - 1], header[static_cast<std::size_t>(random.Below(static_cast<int>(i)))]);
@@ -220,11 +229,11 @@ std::string CsvText(const Cells& table, Random& random) {
 
 std::vector<Cells> SettingsTables() {
   std::vector<Cells> tables = {{}};
-  for (const std::string_view connector : Texts{"→"_gbk, "-->", "", ", ", "\n"}) {
-    for (const std::string_view flag : {"Y", "y", "N", ""}) {
-      tables.push_back({{"输出行号"_gbk.data(), "连接符号"_gbk.data()}, {std::string(flag), std::string(connector)}});
+  for (const std::string& connector : InGbk({"→", "-->", "", ", ", "\n"})) {
+    for (const char* const flag : {"Y", "y", "N", ""}) {
+      tables.push_back({InGbk({"输出行号", "连接符号"}), {flag, connector}});
     }
-    tables.push_back({{"连接符号"_gbk.data()}, {std::string(connector)}, {"second row"}});
+    tables.push_back({InGbk({"连接符号"}), {connector}, {"second row"}});
   }
   return tables;
 }
