@@ -1,0 +1,31 @@
+# What lies below PREFIX after an installation: all that is needed, and nothing of the library's inside.
+function(expect_file path)
+  if(NOT EXISTS ${PREFIX}/${path})
+    message(SEND_ERROR "${path} was not installed")
+  endif()
+endfunction()
+
+set(headers ${INCLUDE}/plateconfig)
+foreach(header plateconfig.h plateconfig_export.h config/read_config_file.h host/body_info.h rules/process_rule.h
+        host/standin/NXOpen/Body.hxx)
+  expect_file(${headers}/${header})
+endforeach()
+expect_file(${LIB}/cmake/plateconfig/plateconfigConfig.cmake)
+expect_file(${LIB}/cmake/plateconfig/plateconfigConfigVersion.cmake)
+expect_file(${LIB}/pkgconfig/plateconfig.pc)
+if(SYSTEM STREQUAL Windows)
+  expect_file(${BIN}/plateconfig.dll)
+  expect_file(${LIB}/libplateconfig.dll.a)
+  expect_file(${BIN}/plateconfig.exe)
+else()
+  expect_file(${LIB}/libplateconfig.so)
+  expect_file(${LIB}/libplateconfig.so.${SOVERSION})
+  expect_file(${LIB}/libplateconfig.so.${VERSION})
+  expect_file(${BIN}/plateconfig)
+endif()
+
+file(GLOB_RECURSE inside RELATIVE ${PREFIX} ${PREFIX}/${headers}/text/* ${PREFIX}/${headers}/platform/*
+     ${PREFIX}/${headers}/*.cpp ${PREFIX}/${headers}/uf.h)
+if(inside)
+  message(SEND_ERROR "installed, but none of the interface's: ${inside}")
+endif()
