@@ -4,6 +4,17 @@
 
 namespace plateconfig {
 
+std::string HelpDescription() {
+  return Say("print this help and stop", "显示帮助");
+}
+
+CLI::App* AddVerb(CLI::App& app, const std::string& name, const std::string& description) {
+  CLI::App* verb = app.add_subcommand(name, description);
+  verb->group(Say("Verbs", "命令"));
+  verb->set_help_flag("-h,--help", HelpDescription());
+  return verb;
+}
+
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options) {
   command

@@ -5,6 +5,8 @@
 
 #include <CLI/App.hpp>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "plateconfig/configuration.h"
 #include "plateconfig/reporter.h"
@@ -26,6 +28,12 @@ using Verb = std::function<void(Session&)>;
 void AddFolderCommand(CLI::App& app, Verb& chosen);
 void AddProcessCommand(CLI::App& app, Verb& chosen);
 void AddExplainCommand(CLI::App& app, Verb& chosen);
+
+/// What the help says of the help option.
+std::string HelpDescription();
+
+/// A verb with its name and its description in the help.
+CLI::App* AddVerb(CLI::App& app, const std::string& name, const std::string& description);
 
 /// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,

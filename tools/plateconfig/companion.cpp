@@ -4,7 +4,6 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
-#include <map>
 
 #include "plateconfig/command.h"
 #include "plateconfig/language.h"
@@ -33,24 +32,33 @@ Language ChosenLanguage(const std::vector<std::string>& arguments) {
   return SystemLanguage();
 }
 
+/// The parser's own words in the current language; verbs that are added later take them over.
 void TranslateLabels(CLI::App& app) {
   const auto formatter = app.get_formatter();
   formatter->label("Usage", Say("Usage", "用法"));
   formatter->label("OPTIONS", Say("OPTIONS", "选项"));
-  formatter->label("Options", Say("Options", "选项"));
   formatter->label("Positionals", Say("Arguments", "参数"));
-  formatter->label("Subcommands", Say("Verbs", "命令"));
   formatter->label("SUBCOMMAND", Say("VERB", "命令"));
+  formatter->label("SUBCOMMANDS", Say("VERB", "命令"));
   formatter->label("REQUIRED", Say("(required)", "（必需）"));
   constexpr std::size_t kOptionWidth = 34;
   formatter->column_width(kOptionWidth);
+  app.option_defaults()->group(Say("Options", "选项"));
+  app.failure_message([](const CLI::App* failed, const CLI::Error& error) {
+    return "plateconfig: error: " + std::string(error.what()) + "\n" +
+           Say("{} --help tells what there is", "用 {} --help 查看用法",
+               failed->get_parent() == nullptr ? "plateconfig" : "plateconfig " + failed->get_name()) +
+           "\n";
+  });
 }
 
 std::string Footer() {
   return Say(
-      "Exit code: 0 all fine, 1 something to look at, 2 wrong usage or an input that can not be used.\n"
+      "--format and --lang go with every verb. Exit code: 0 all fine, 1 something to look at, 2 wrong usage "
+      "or an input\n"
+      "that can not be used.\n"
       "Example:  plateconfig explain --config samples/config/标准 samples/plates.csv",
-      "返回值：0 正常，1 有需要检查之处，2 用法错误或输入无法使用。\n"
+      "--format 和 --lang 可用于每个命令。返回值：0 正常，1 有需要检查之处，2 用法错误或输入无法使用。\n"
       "示例：plateconfig explain --config samples/config/标准 samples/plates.csv");
 }
 
@@ -61,17 +69,16 @@ struct CommandLine {
                 "在 CAD 系统之外运行绘图工具的规则，并解释每一个决定。"),
             "plateconfig") {
     TranslateLabels(app);
-    app.set_help_flag("-h,--help", Say("print this help and stop", "显示帮助"));
+    app.set_help_flag("-h,--help", HelpDescription());
     app.set_version_flag("--version", PLATECONFIG_VERSION, Say("print the version and stop", "显示版本"));
     app.require_subcommand(1);
     app.fallthrough();
     app.footer(Footer());
     app.add_option("--format", format, Say("form of the output: text or json", "输出格式：text 或 json"))
-        ->transform(CLI::CheckedTransformer(
-            std::map<std::string, Format>{{"text", Format::kText}, {"json", Format::kJson}}))
+        ->check(CLI::IsMember({"text", "json"}).description(""))
         ->type_name("text|json");
     app.add_option(kLanguageOption, language, Say("language of the output: en or zh", "输出语言：en 或 zh"))
-        ->check(CLI::IsMember({"en", "zh"}))
+        ->check(CLI::IsMember({"en", "zh"}).description(""))
         ->type_name("en|zh");
     AddFolderCommand(app, verb);
     AddProcessCommand(app, verb);
@@ -79,7 +86,7 @@ struct CommandLine {
   }
 
   CLI::App app;
-  Format format = Format::kText;
+  std::string format = "text";
   std::string language;
   Verb verb;
 };
@@ -107,7 +114,7 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
   int exitCode = kFine;
   if (!Parse(line, arguments, streams, exitCode)) return exitCode;
   Reporter reporter(streams.err);
-  Session session{streams, reporter, line.format};
+  Session session{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
   line.verb(session);
   streams.out.flush();
   if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));

@@ -170,9 +170,9 @@ void RunExplain(const PlateJob& job, Session& session) {
 }  // namespace
 
 void AddExplainCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = app.add_subcommand(
-      "explain", Say("tell for each plate which rule row fits, and why none before it does",
-                     "说明每块板符合哪一规则行，以及之前各行为何不符合"));
+  CLI::App* command = AddVerb(app, "explain",
+                              Say("tell for each plate which rule row fits, and why none before it does",
+                                  "说明每块板符合哪一规则行，以及之前各行为何不符合"));
   const auto job = std::make_shared<PlateJob>();
   AddPlateOptions(*command, *job);
   command->callback([job, &chosen] { chosen = [job](Session& session) { RunExplain(*job, session); }; });

@@ -78,9 +78,9 @@ void RunFolder(Session& session) {
 }  // namespace
 
 void AddFolderCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = app.add_subcommand(
-      "folder", Say("print the active configuration folder that TQConfig leads to, and why",
-                    "显示 TQConfig 所指的有效配置文件夹及其由来"));
+  CLI::App* command = AddVerb(app, "folder",
+                              Say("print the active configuration folder that TQConfig leads to, and why",
+                                  "显示 TQConfig 所指的有效配置文件夹及其由来"));
   command->callback([&chosen] { chosen = RunFolder; });
 }
 

@@ -173,6 +173,13 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
 
 }  // namespace
 
+JsonNode::JsonNode() = default;
+JsonNode::JsonNode(const JsonNode&) = default;
+JsonNode::JsonNode(JsonNode&&) noexcept = default;
+JsonNode& JsonNode::operator=(const JsonNode&) = default;
+JsonNode& JsonNode::operator=(JsonNode&&) noexcept = default;
+JsonNode::~JsonNode() = default;
+
 const JsonNode* JsonNode::Find(std::string_view name) const {
   const auto found =
       std::find_if(members.begin(), members.end(), [&](const auto& member) { return member.first == name; });

@@ -14,6 +14,14 @@ namespace plateconfig {
 struct JsonNode {
   enum class Kind { kNull, kBool, kNumber, kString, kArray, kObject };
 
+  // Defined where the type is complete: a node holds nodes, in pairs.
+  JsonNode();
+  JsonNode(const JsonNode&);
+  JsonNode(JsonNode&&) noexcept;
+  JsonNode& operator=(const JsonNode&);
+  JsonNode& operator=(JsonNode&&) noexcept;
+  ~JsonNode();
+
   Kind kind = Kind::kNull;
   Place place;
   bool flag = false;

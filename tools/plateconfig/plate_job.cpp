@@ -1,8 +1,10 @@
 #include "plateconfig/plate_job.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <set>
 #include <system_error>
 
 #include "plateconfig/feed_rules.h"
@@ -30,9 +32,19 @@ std::optional<RuleTables> LoadTables(const PlateJob& job, Session& session) {
 
 class PlateLoop {
  public:
-  PlateLoop(const RuleTables& tables, Session& session, const PlateVisitor& visit)
-      : tables_(tables), vocabulary_(tables.processRules), session_(session), visit_(visit) {}
+  PlateLoop(const PlateJob& job, const RuleTables& tables, Session& session, const PlateVisitor& visit)
+      : job_(job), tables_(tables), vocabulary_(tables.processRules), session_(session), visit_(visit) {}
 
+  void VisitFiles() {
+    for (const std::string& file : job_.files) VisitFile(file);
+    for (const std::string& name : job_.names) {
+      if (!found_.contains(name)) {
+        session_.reporter.Warning({"plateconfig"}, Say("no plate has the name {}", "没有名为 {} 的板", name));
+      }
+    }
+  }
+
+ private:
   void VisitFile(const std::string& file) {
     if (file == "-") return Visit(session_.streams.in, Say("standard input", "标准输入"), 0);
     const std::filesystem::path path(std::u8string(file.begin(), file.end()));
@@ -49,18 +61,18 @@ class PlateLoop {
     Visit(in, file, error ? 0 : static_cast<std::size_t>(size));
   }
 
- private:
   void Visit(std::istream& in, const std::string& file, std::size_t size) {
     Progress progress(session_.streams.err, session_.streams.showsProgress, in, size);
     session_.reporter.BeforeMessage([&progress] { progress.Clear(); });
     const auto plates = ReadPlates(in, file, vocabulary_, session_.reporter);
     std::size_t count = 0;
     while (const std::optional<PlateInput> plate = plates->Next()) {
+      ++count;
+      progress.Step();
+      if (!IsWanted(*plate)) continue;
       std::vector<ProcessRule> rules = tables_.processRules;
       FeedRules(rules, plate->features);
       visit_(*plate, tables_, rules);
-      progress.Step();
-      ++count;
     }
     if (in.bad()) session_.reporter.Error({file}, Say("reading this file failed", "读取此文件失败"));
     if (count == 0)
@@ -68,6 +80,15 @@ class PlateLoop {
     session_.reporter.BeforeMessage({});
   }
 
+  bool IsWanted(const PlateInput& plate) {
+    if (job_.names.empty()) return true;
+    const bool isNamed = std::find(job_.names.begin(), job_.names.end(), plate.name) != job_.names.end();
+    if (isNamed) found_.insert(plate.name);
+    return isNamed;
+  }
+
+  const PlateJob& job_;
+  std::set<std::string> found_;  ///< Those of the wanted names that were met.
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
   Session& session_;
@@ -79,6 +100,12 @@ class PlateLoop {
 void AddPlateOptions(CLI::App& command, PlateJob& job) {
   AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job.configuration);
   command
+      .add_option(
+          "--plate", job.names,
+          Say("only the plates of this name; may be given several times", "仅处理此名称的板；可重复使用"))
+      ->type_name(Say("NAME", "名称"))
+      ->allow_extra_args(false);
+  command
       .add_option("plates", job.files,
                   Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
                       "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
@@ -89,8 +116,7 @@ void AddPlateOptions(CLI::App& command, PlateJob& job) {
 void VisitPlates(const PlateJob& job, Session& session, const PlateVisitor& visit) {
   const std::optional<RuleTables> tables = LoadTables(job, session);
   if (!tables) return;
-  PlateLoop loop(*tables, session, visit);
-  for (const std::string& file : job.files) loop.VisitFile(file);
+  PlateLoop(job, *tables, session, visit).VisitFiles();
 }
 
 }  // namespace plateconfig

@@ -15,6 +15,7 @@ namespace plateconfig {
 struct PlateJob {
   ConfigurationOptions configuration;
   std::vector<std::string> files;  ///< UTF-8; "-" is standard input.
+  std::vector<std::string> names;  ///< UTF-8; only the plates of these names, empty for all.
 };
 
 /// The options of a verb that evaluates plates.

@@ -50,8 +50,8 @@ void RunProcess(const PlateJob& job, Session& session) {
 }  // namespace
 
 void AddProcessCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = app.add_subcommand(
-      "process", Say("print the manufacturing-process text of each plate", "输出每块板的制造工艺文本"));
+  CLI::App* command = AddVerb(
+      app, "process", Say("print the manufacturing-process text of each plate", "输出每块板的制造工艺文本"));
   const auto job = std::make_shared<PlateJob>();
   AddPlateOptions(*command, *job);
   command->callback([job, &chosen] { chosen = [job](Session& session) { RunProcess(*job, session); }; });
