@@ -66,7 +66,8 @@ TEST(Configuration, ARoleThatNoFilePlaysIsAnErrorUnlessItIsOptional) {
 TEST(Configuration, AnUnknownRoleIsAWarningAtItsPlace) {
   Folder folder("{\n  \"proces-rules\": \"a.csv\", \"bom\": \"b.csv\"}");
   EXPECT_TRUE(folder.Find(Role::kBom));
-  EXPECT_THAT(folder.messages.Text(), StartsWith(folder.manifestPath + ":2:19: warning: \"proces-rules\" is no role"));
+  EXPECT_THAT(folder.messages.Text(),
+              StartsWith(folder.manifestPath + ":2:19: warning: \"proces-rules\" is no role"));
 }
 
 TEST(Configuration, AMisspelledRoleIsAnsweredWithTheNearestOne) {
@@ -85,13 +86,15 @@ TEST(Configuration, AFileNameThatIsNoTextIsAnError) {
 TEST(Configuration, AManifestThatIsNoObjectIsAnError) {
   Folder folder("[]");
   EXPECT_FALSE(folder.configuration.FindOptional(Role::kBom));
-  EXPECT_THAT(folder.messages.Text(), StartsWith(folder.manifestPath + ":1:1: error: the manifest should be"));
+  EXPECT_THAT(folder.messages.Text(),
+              StartsWith(folder.manifestPath + ":1:1: error: the manifest should be"));
 }
 
 TEST(Configuration, ASyntaxErrorOfTheManifestIsReportedAtItsPlace) {
   Folder folder("{\"bom\": \"b.csv\",\n \"texts\" \"t.csv\"}");
   EXPECT_FALSE(folder.configuration.FindOptional(Role::kBom));
-  EXPECT_THAT(folder.messages.Text(), StartsWith(folder.manifestPath + ":2:10: error: this is not JSON here:"));
+  EXPECT_THAT(folder.messages.Text(),
+              StartsWith(folder.manifestPath + ":2:10: error: this is not JSON here:"));
 }
 
 TEST(Configuration, AManifestInGbkIsNamedAsSuch) {
@@ -178,7 +181,8 @@ TEST(CheckTable, AnEmptyTableIsAWarning) {
 }
 
 TEST(CheckTable, ATableInUtf8IsNamedAsSuch) {
-  EXPECT_THAT(Check("模板所在图层,长度范围条\n12,\n"), HasSubstr("t.csv:1:1: warning: this table is UTF-8, not GBK"));
+  EXPECT_THAT(Check("模板所在图层,长度范围条\n12,\n"),
+              HasSubstr("t.csv:1:1: warning: this table is UTF-8, not GBK"));
   EXPECT_THAT(Check("\xEF\xBB\xBF通用要求\n"), HasSubstr("this table is UTF-8, not GBK"));
   // Every cell has an even number of characters, so the bytes happen to be GBK of other characters.
   ASSERT_TRUE(IsValidGbk("长度范围,宽度范围\n"));
@@ -186,7 +190,9 @@ TEST(CheckTable, ATableInUtf8IsNamedAsSuch) {
 }
 
 TEST(CheckTable, ATableInNeitherEncodingIsSaidNotToBeGbk) {
-  EXPECT_THAT(Check("\xFF\xFE" "a\n"), HasSubstr("t.csv:1:1: warning: this table is not GBK"));
+  EXPECT_THAT(Check("\xFF\xFE"
+                    "a\n"),
+              HasSubstr("t.csv:1:1: warning: this table is not GBK"));
 }
 
 TEST(CheckTable, AGbkTableWhoseBytesAreAlsoShortUtf8IsTakenAsGbk) {

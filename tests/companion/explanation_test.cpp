@@ -78,9 +78,9 @@ TEST(Explanation, EveryConditionThatFailsIsListedInTheirOrder) {
   Plate plate;
   plate.faceColors = {103};
   const auto rows = Explain({row}, plate).RefusedRows();
-  EXPECT_THAT(Conditions(rows.at(0)), ElementsAre(Condition::kLength, Condition::kWidth, Condition::kHeight,
-                                                  Condition::kWeight, Condition::kMaterial,
-                                                  Condition::kProfile, Condition::kWireCutting));
+  EXPECT_THAT(Conditions(rows.at(0)),
+              ElementsAre(Condition::kLength, Condition::kWidth, Condition::kHeight, Condition::kWeight,
+                          Condition::kMaterial, Condition::kProfile, Condition::kWireCutting));
 }
 
 TEST(Explanation, ColoursComeWithWhatTheRowWanted) {
@@ -120,8 +120,7 @@ TEST(Explanation, EquallyNearRowsStayInTheTablesOrder) {
 }
 
 TEST(Explanation, WithAMatchTheRowsStayInTheTablesOrder) {
-  const auto sink =
-      Explain({RowOfLength(2, 0, 1), RowOfLength(3, 0, 1200), Row(4)}, PlateOfLength(1203));
+  const auto sink = Explain({RowOfLength(2, 0, 1), RowOfLength(3, 0, 1200), Row(4)}, PlateOfLength(1203));
   EXPECT_THAT(Lines(sink), ElementsAre(2, 3));
 }
 

@@ -30,15 +30,10 @@ TEST(FeedRules, AFeatureThatIsPresentFeedsItsOwnKindAlone) {
 
 TEST(FeedRules, ColoursFeedTheirOwnKindAlone) {
   using enum ProcessRule::RuleType;
-  constexpr ProcessRule::RuleType kColorTypes[] = {MachiningColor,
-                                                   RoundHoleColor,
-                                                   ThroughSlotColor,
-                                                   ThroughVerticalSlotColor,
-                                                   ThroughSpecialSlotColor,
-                                                   BlindSlotColor,
-                                                   BlindNormalSlotColor,
-                                                   BlindSpecialSlotColor4,
-                                                   BlindSpecialSlotColor5};
+  constexpr ProcessRule::RuleType kColorTypes[] = {
+      MachiningColor,           RoundHoleColor,          ThroughSlotColor,
+      ThroughVerticalSlotColor, ThroughSpecialSlotColor, BlindSlotColor,
+      BlindNormalSlotColor,     BlindSpecialSlotColor4,  BlindSpecialSlotColor5};
   for (const auto fed : kColorTypes) {
     PlateFeatures features;
     features.colors[fed] = {5, 36};

@@ -56,7 +56,8 @@ TEST(FolderCommand, SpeaksChinese) {
   root.WriteIndex("标准,Y\n精密模,N\n");
   root.MakeFolder("标准");
   const auto result = RunPlateconfig({"folder", "--lang", "zh"});
-  EXPECT_THAT(result.out, HasSubstr("  索引表 " + root.Index() + "\n    标准  \"Y\"  有效\n    精密模  \"N\"  无效\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("  索引表 " + root.Index() + "\n    标准  \"Y\"  有效\n    精密模  \"N\"  无效\n"));
 }
 
 #ifndef _WIN32  // A separator of the path is escaped on Windows.
@@ -97,7 +98,8 @@ TEST(FolderCommand, AnIndexThatCanNotBeReadIsAnError) {
 
 TEST(FolderCommand, AnIndexWithoutItsColumnsOrRowsLeadsToTheConfigFolder) {
   const Root root;
-  for (const char* table : {"文件夹名称,有效\n标准,Y\n", "名称,有效配置\n标准,Y\n", "文件夹名称,有效配置\n", ""}) {
+  for (const char* table :
+       {"文件夹名称,有效\n标准,Y\n", "名称,有效配置\n标准,Y\n", "文件夹名称,有效配置\n", ""}) {
     root.files.WriteTable("config/standard.csv", table);
     const auto result = RunPlateconfig({"folder"});
     EXPECT_EQ(result.exitCode, 1) << table;
@@ -135,8 +137,8 @@ TEST(FolderCommand, TwoActiveRowsNameAFolderInAFolder) {
   const auto result = RunPlateconfig({"folder"});
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.out, StartsWith(root.Config() + kSeparator + "甲" + kSeparator + "乙\n"));
-  EXPECT_EQ(result.err, root.Index() +
-                            ": warning: 2 rows are active; each appends its folder to the one before\n");
+  EXPECT_EQ(result.err,
+            root.Index() + ": warning: 2 rows are active; each appends its folder to the one before\n");
 }
 
 TEST(FolderCommand, AFolderThatDoesNotExistIsAnError) {

@@ -73,8 +73,9 @@ TEST(PlateCsv, ReadsEveryKindOfFeature) {
 }
 
 TEST(PlateCsv, AnEmptyCellIsAFeatureThatThePlateHasNot) {
-  CsvPlates file(std::string(kHeader) + ",图层,面颜色,有无圆孔,圆孔颜色,圆孔直径,孔数量,氮化\n"
-                                        "板,450,400,90,127.2,12,,,,,,,\n");
+  CsvPlates file(std::string(kHeader) +
+                 ",图层,面颜色,有无圆孔,圆孔颜色,圆孔直径,孔数量,氮化\n"
+                 "板,450,400,90,127.2,12,,,,,,,\n");
   const auto plates = file.All();
   ASSERT_EQ(plates.size(), 1u) << file.messages.Text();
   EXPECT_EQ(plates[0].plate.layer, 0);
@@ -121,8 +122,9 @@ TEST(PlateCsv, NumbersOutOfRangeAreRefused) {
   CsvPlates file(std::string(kHeader) + "\na,1e999,1,1,1,1\nb,1,1,1,1,99999999999\nc,1,1,1,nan,1\n");
   EXPECT_THAT(file.Names(), IsEmpty());
   EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:2:3: error: B2: \"1e999\" is not a number"));
-  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:3:9: error: F3: \"99999999999\" is not a whole number"));
-  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:4:7: error: E4: \"nan\" is not a number"));
+  EXPECT_THAT(file.messages.Text(),
+              HasSubstr("板.csv:3:11: error: F3: \"99999999999\" is not a whole number"));
+  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:4:9: error: E4: \"nan\" is not a number"));
 }
 
 TEST(PlateCsv, EveryMistakeOfARowIsReportedAndTheOtherRowsAreRead) {
@@ -158,10 +160,11 @@ TEST(PlateCsv, AnUnknownColumnIsIgnoredWithAWarning) {
   const auto plates = file.All();
   ASSERT_EQ(plates.size(), 1u);
   EXPECT_EQ(plates[0].plate.length, 1);
-  EXPECT_EQ(file.messages.Text(),
-            "板.csv:1:20: warning: G1: the column 备注 is not known and is ignored\n"
-            "板.csv:1:23: warning: H1: the column 圆孔颜包 is not known and is ignored; did you mean 圆孔颜色?\n"
-            "板.csv:1:28: warning: I1: a second column 长度; the first one counts\n");
+  EXPECT_EQ(
+      file.messages.Text(),
+      "板.csv:1:20: warning: G1: the column 备注 is not known and is ignored\n"
+      "板.csv:1:23: warning: H1: the column 圆孔颜包 is not known and is ignored; did you mean 圆孔颜色?\n"
+      "板.csv:1:28: warning: I1: a second column 长度; the first one counts\n");
 }
 
 TEST(PlateCsv, AColumnWithoutNameIsIgnoredInSilence) {

@@ -60,7 +60,8 @@ TEST(PlateJson, ReadsEveryField) {
 }
 
 TEST(PlateJson, ReadsEveryKindOfFeature) {
-  JsonPlates file(std::string("{\"name\": \"板\", ") + kRest + R"(, "customProcesses": ["去应力"], "features": {
+  JsonPlates file(std::string("{\"name\": \"板\", ") + kRest +
+                  R"(, "customProcesses": ["去应力"], "features": {
       "有无圆孔": true, "有无通槽": false, "圆孔颜色": [36, 186], "型面精加工色": [190], "特殊加工颜色": [92],
       "圆孔直径": [6, 8.5], "孔数量": 12}})");
   const auto plates = file.All();
@@ -87,13 +88,16 @@ TEST(PlateJson, ColourLayerAndFeaturesThatAreMissingAreNone) {
 TEST(PlateJson, AMistakeIsReportedAtItsValue) {
   EXPECT_EQ(MessageAbout("\"layer\": \"12\""),
             "板.json:1:24: error: this should be a whole number (this object is passed over)\n");
-  EXPECT_THAT(MessageAbout("\"faceColors\": \"36_186\""), HasSubstr("1:29: error: this should be a list [ … ]"));
+  EXPECT_THAT(MessageAbout("\"faceColors\": \"36_186\""),
+              HasSubstr("1:29: error: this should be a list [ … ]"));
   EXPECT_THAT(MessageAbout("\"features\": []"), HasSubstr("1:27: error: this should be an object { … }"));
   EXPECT_THAT(MessageAbout("\"customProcesses\": {}"), HasSubstr("1:34: error: this should be a list [ … ]"));
-  EXPECT_THAT(MessageAbout("\"customProcesses\": [5]"), HasSubstr("1:35: error: this should be a text in quotes"));
+  EXPECT_THAT(MessageAbout("\"customProcesses\": [5]"),
+              HasSubstr("1:35: error: this should be a text in quotes"));
   EXPECT_THAT(MessageAbout("\"features\": {\"有无圆孔\": \"Y\"}"),
               HasSubstr("1:36: error: this should be true or false"));
-  EXPECT_THAT(MessageAbout("\"features\": {\"孔数量\": 1.5}"), HasSubstr("1:35: error: this should be a whole number"));
+  EXPECT_THAT(MessageAbout("\"features\": {\"孔数量\": 1.5}"),
+              HasSubstr("1:35: error: this should be a whole number"));
   EXPECT_THAT(MessageAbout("\"features\": {\"圆孔直径\": [6, \"8\"]}"),
               HasSubstr("1:40: error: this should be a number"));
 }
@@ -109,11 +113,13 @@ TEST(PlateJson, SizesArePositive) {
 
 TEST(PlateJson, NumbersOutOfRangeAreRefused) {
   EXPECT_THAT(MessageAbout("\"layer\": 1e999"), HasSubstr("1:24: error: this number is too large: 1e999"));
-  EXPECT_THAT(MessageAbout("\"layer\": 99999999999"), HasSubstr("1:24: error: this should be a whole number"));
+  EXPECT_THAT(MessageAbout("\"layer\": 99999999999"),
+              HasSubstr("1:24: error: this should be a whole number"));
 }
 
 TEST(PlateJson, EveryMissingMemberIsNamedAtTheObject) {
-  JsonPlates file("[\n {\"name\": \"甲\", \"length\": 1, \"width\": 1},\n {\"name\": \"乙\", " + std::string(kRest) + "}]");
+  JsonPlates file("[\n {\"name\": \"甲\", \"length\": 1, \"width\": 1},\n {\"name\": \"乙\", " +
+                  std::string(kRest) + "}]");
   const auto plates = file.All();
   ASSERT_EQ(plates.size(), 1u);
   EXPECT_EQ(plates[0].name, "乙");
@@ -143,8 +149,7 @@ TEST(PlateJson, OfTwoMembersOfOneNameTheFirstCounts) {
   const auto plates = file.All();
   ASSERT_EQ(plates.size(), 1u);
   EXPECT_EQ(plates[0].name, "甲");
-  EXPECT_EQ(file.messages.Text(),
-            "板.json:1:23: warning: a second member \"name\"; the first one counts\n");
+  EXPECT_EQ(file.messages.Text(), "板.json:1:23: warning: a second member \"name\"; the first one counts\n");
 }
 
 TEST(PlateJson, AnUnknownFeatureIsIgnoredWithAWarning) {

@@ -87,7 +87,7 @@ TEST(PlateVocabulary, NamesAreComparedExactly) {
 TEST(PlateVocabulary, SuggestsFeaturesProcessesAndTheNamesItIsGiven) {
   const PlateVocabulary vocabulary(ProcessList());
   EXPECT_EQ(vocabulary.Suggest("有无通槽&垂直槽(类型1)", {}), "有无通槽&垂直槽（类型1）");
-  EXPECT_EQ(vocabulary.Suggest("除应力", {}), "");
+  EXPECT_EQ(vocabulary.Suggest("除应力", {}), "去应力");
   EXPECT_EQ(vocabulary.Suggest("去应力退火", {}), "");
   EXPECT_EQ(vocabulary.Suggest("圆孔直経", {}), "圆孔直径");
   EXPECT_EQ(vocabulary.Suggest("体颜包.", {"体颜色"}), "");

@@ -43,7 +43,10 @@ TEST(MostSimilarName, NothingIsSimilarToNothing) {
 }
 
 TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
-  EXPECT_EQ(MostSimilarName("ab\xFF" "def", {"abcdef"}), "abcdef");
+  EXPECT_EQ(MostSimilarName("ab\xFF"
+                            "def",
+                            {"abcdef"}),
+            "abcdef");
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ TEST(Usage, EveryVerbHasItsOwnHelp) {
 TEST(Usage, HelpSpeaksChineseWhenAskedTo) {
   EXPECT_THAT(RunPlateconfig({"--lang", "zh", "--help"}).out, HasSubstr("返回值"));
   EXPECT_THAT(RunPlateconfig({"--lang=zh", "--help"}).out, HasSubstr("返回值"));
-  EXPECT_THAT(RunPlateconfig({"process", "--help", "--lang", "zh"}).out, HasSubstr("输出每块板的制造工艺文本"));
+  EXPECT_THAT(RunPlateconfig({"process", "--help", "--lang", "zh"}).out,
+              HasSubstr("输出每块板的制造工艺文本"));
   EXPECT_THAT(RunPlateconfig({"--help"}).out, Not(HasSubstr("返回值")));
 }
 

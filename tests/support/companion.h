@@ -60,8 +60,7 @@ inline std::string ArgumentPath(const TemporaryFolder& folder, const std::string
 class SmallConfiguration {
  public:
   SmallConfiguration() {
-    folder_.WriteBytes("tables.json",
-                       R"({"process-rules": "规则.csv", "process-settings": "设置.csv"})");
+    folder_.WriteBytes("tables.json", R"({"process-rules": "规则.csv", "process-settings": "设置.csv"})");
     folder_.WriteTable("规则.csv", kRules);
     folder_.WriteTable("设置.csv", "连接符号,输出行号\n→,N\n");
   }
