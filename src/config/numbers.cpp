@@ -1,9 +1,10 @@
 #include "config/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <limits>
+#include <optional>
 #include <system_error>
 
 namespace plateconfig {
@@ -37,27 +38,30 @@ bool IsHexadecimal(std::string_view text) {
          std::string_view("0123456789abcdefABCDEF").find(text[digit]) != std::string_view::npos;
 }
 
-/// The magnitude of a decimal number outside the range of double: infinity, or zero when it is too small. The
-/// number's size is the place of its first significant digit before the point, moved by its exponent.
-double OutOfRange(std::string_view number) {
-  const std::size_t exponentAt = number.find_first_of("eEpP");
+/// The magnitude of a number outside the range of double: infinity, or zero when it is too small. Which of
+/// the two is told by the place of its first significant digit before the point, moved by its exponent.
+double OutOfRange(std::string_view number, bool hexadecimal) {
+  const std::size_t exponentAt = number.find_first_of(hexadecimal ? "pP" : "eE");
   const std::string_view mantissa = number.substr(0, exponentAt);
-  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-  const std::size_t significant = mantissa.find_first_not_of("0.");
-  long long place =
-      static_cast<long long>(point) - static_cast<long long>(std::min(significant, mantissa.size()));
+  const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto significant =
+      static_cast<long long>(std::min(mantissa.find_first_not_of("0."), mantissa.size()));
+  const int bitsOfAHexDigit = 4;  // The exponent of a hexadecimal number counts bits.
+  long long place = (point - significant) * (hexadecimal ? bitsOfAHexDigit : 1);
   if (exponentAt != std::string_view::npos) place += ParseInt(number.substr(exponentAt + 1));
   return place > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
-double Magnitude(std::string_view text) {
+/// The number without a sign that the text begins with; nothing when there is none.
+std::optional<double> Magnitude(std::string_view text) {
   const bool hexadecimal = IsHexadecimal(text);
   if (hexadecimal) text.remove_prefix(2);
   double value = 0;
   const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, format);
+  if (error == std::errc::invalid_argument) return std::nullopt;
   if (error != std::errc::result_out_of_range) return value;
-  return OutOfRange(text.substr(0, static_cast<std::size_t>(end - text.data())));
+  return OutOfRange(text.substr(0, static_cast<std::size_t>(end - text.data())), hexadecimal);
 }
 
 }  // namespace
@@ -77,8 +81,9 @@ int ParseInt(std::string_view text) {
 double ParseDouble(std::string_view text) {
   const auto [negative, digits] = TakeSign(text);
   if (!digits.empty() && digits[0] == '-') return 0;  // from_chars would take a second sign.
-  const double magnitude = Magnitude(digits);
-  return negative ? -magnitude : magnitude;
+  const std::optional<double> magnitude = Magnitude(digits);
+  if (!magnitude) return 0;  // Without the sign that stood there: a cell of "-" is 0, not -0.
+  return negative ? -*magnitude : *magnitude;
 }
 
 std::string StreamNumber(double value) {

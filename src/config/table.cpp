@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <limits>
+#include <new>
 #include <utility>
 
 namespace plateconfig {
@@ -53,9 +54,14 @@ std::string Unquoted(std::string_view raw) {
 }  // namespace
 
 std::optional<Table> Table::Read(const std::string& path) {
-  std::optional<FileBytes> bytes = ReadWholeFile(path);
-  if (!bytes || bytes->size >= std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
-  return Table(std::move(*bytes));
+  static_assert(kMostFileBytes < std::numeric_limits<std::uint32_t>::max(), "places are kept in 32 bits");
+  try {
+    std::optional<FileBytes> bytes = ReadWholeFile(path);
+    if (bytes) return Table(std::move(*bytes));
+  } catch (const std::bad_alloc&) {
+    // A file larger than the memory is a file that can not be read: the caller keeps its defaults.
+  }
+  return std::nullopt;
 }
 
 Table::Table(FileBytes bytes) : bytes_(std::move(bytes)) {

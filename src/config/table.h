@@ -27,7 +27,8 @@ class Table {
   /// An empty table: no columns, no rows.
   Table() = default;
 
-  /// Reads the file at a host path; nothing when it can not be read whole or has 4 GiB or more.
+  /// Reads the file at a host path; nothing when it can not be read whole, has 4 GiB or more or does not fit
+  /// into memory.
   static std::optional<Table> Read(const std::string& path);
 
   /// Takes the bytes over; fewer than 4 GiB.

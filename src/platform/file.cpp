@@ -11,7 +11,7 @@ struct CloseFile {
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
-constexpr std::size_t kFirstCapacity = 64 * 1024;
+constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
 
 /// The size that the file system tells, as a first guess: files such as pipes do not know theirs.
 std::size_t GuessSize(std::FILE* file) {
@@ -34,17 +34,21 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
   const OpenFile file(OpenHostFile(path, "rb"));
   if (!file) return std::nullopt;
   std::setvbuf(file.get(), nullptr, _IONBF, 0);  // One large read needs no second buffer.
+  const std::size_t guess = GuessSize(file.get());
+  // Some file systems tell an enormous size for a directory; no memory must be asked for that.
+  if (guess > kMostFileBytes) return std::nullopt;
   // One byte more than the size, so that the read which meets the end needs no larger buffer.
-  std::size_t capacity = std::max(GuessSize(file.get()) + 1, kFirstCapacity);
+  std::size_t capacity = std::max(guess + 1, kFirstCapacity);
   FileBytes bytes{std::make_unique_for_overwrite<char[]>(capacity), 0};
   while (true) {
     const std::size_t room = capacity - bytes.size;
     const std::size_t count = std::fread(bytes.data.get() + bytes.size, 1, room, file.get());
     bytes.size += count;
     if (count < room) break;
+    if (bytes.size > kMostFileBytes) return std::nullopt;
     Grow(bytes, capacity);
   }
-  if (std::ferror(file.get()) != 0) return std::nullopt;
+  if (std::ferror(file.get()) != 0 || bytes.size > kMostFileBytes) return std::nullopt;
   return bytes;
 }
 

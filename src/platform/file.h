@@ -24,7 +24,10 @@ struct FileBytes {
 /// Opens a file with the modes of `std::fopen`; null when it can not be opened.
 std::FILE* OpenHostFile(const std::string& path, const char* mode);
 
-/// The whole file; nothing for a missing file, a directory or a read error.
+/// The largest file that is read: its size, and one more, still fit into 32 bits.
+inline constexpr std::size_t kMostFileBytes = 0xFFFF'FFFE;
+
+/// The whole file; nothing for a missing file, a directory, a read error or more than `kMostFileBytes`.
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
 
 /// True when something of this name exists, whatever its rights.

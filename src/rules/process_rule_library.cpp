@@ -3,14 +3,12 @@
 #include <NXOpen/Body.hxx>
 #include <NXOpen/Face.hxx>
 #include <algorithm>
-#include <optional>
 
 #include "host/body_info.h"
 #include "rules/evaluation.h"
 #include "rules/trace_sink.h"
 
 using plateconfig::DiagnosticFile;
-using plateconfig::EvaluationSink;
 using plateconfig::Plate;
 
 namespace {
@@ -69,12 +67,9 @@ std::string ProcessRuleLibrary::GetProcessInfo(BodyInfo* body, double weight,
                                                const std::vector<ProcessRule>& rules) const {
   if (body == nullptr) return {};
   DiagnosticFile log(plateconfig::Diagnostic::kRules);
-  EvaluationSink silent;
-  std::optional<plateconfig::TraceSink> trace;
-  if (log.IsOpen()) trace.emplace(log);
-  EvaluationSink& sink = trace ? *trace : silent;
+  const auto trace = plateconfig::MakeTraceSink(log);
   Plate plate = MeasureBody(*body, weight);
-  sink.OnBody(plate);
+  trace->OnBody(plate);
   plate.faceColors = FaceColors(body->GetBody());
-  return plateconfig::EvaluatePlate(tables_, plate, rules, sink);
+  return plateconfig::EvaluatePlate(tables_, plate, rules, *trace);
 }

@@ -111,4 +111,9 @@ void TraceSink::OnMatch(const RuleRow& row, const std::string& text) {
   Line(text);
 }
 
+std::unique_ptr<EvaluationSink> MakeTraceSink(DiagnosticFile& file) {
+  if (!file.IsOpen()) return std::make_unique<EvaluationSink>();
+  return std::make_unique<TraceSink>(file);
+}
+
 }  // namespace plateconfig

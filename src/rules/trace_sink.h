@@ -2,7 +2,9 @@
 
 // Writes the steps of one evaluation as the lines of the rules' diagnostic file.
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/diagnostic_file.h"
@@ -11,7 +13,7 @@
 namespace plateconfig {
 
 /// Gathers the lines (GBK, each ending with LF) and appends them in one go when it is destroyed, so also when
-/// the host throws in the middle of an evaluation. Create it only for a file that is open.
+/// the host throws in the middle of an evaluation.
 class TraceSink : public EvaluationSink {
  public:
   explicit TraceSink(DiagnosticFile& file) : file_(file) {}
@@ -37,5 +39,9 @@ class TraceSink : public EvaluationSink {
   DiagnosticFile& file_;
   std::string text_;
 };
+
+/// The sink of one evaluation: the trace when `file` is open, else one that ignores every step, so that nothing is
+/// formatted for a file that is not there.
+std::unique_ptr<EvaluationSink> MakeTraceSink(DiagnosticFile& file);
 
 }  // namespace plateconfig

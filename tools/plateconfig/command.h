@@ -28,6 +28,7 @@ using Verb = std::function<void(Session&)>;
 void AddFolderCommand(CLI::App& app, Verb& chosen);
 void AddProcessCommand(CLI::App& app, Verb& chosen);
 void AddExplainCommand(CLI::App& app, Verb& chosen);
+void AddHolesCommand(CLI::App& app, Verb& chosen);
 
 /// What the help says of the help option.
 std::string HelpDescription();

@@ -83,6 +83,7 @@ struct CommandLine {
     AddFolderCommand(app, verb);
     AddProcessCommand(app, verb);
     AddExplainCommand(app, verb);
+    AddHolesCommand(app, verb);
   }
 
   CLI::App app;

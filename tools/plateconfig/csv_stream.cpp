@@ -1,7 +1,6 @@
 #include "plateconfig/csv_stream.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "config/table.h"
 #include "plateconfig/language.h"
@@ -56,8 +55,9 @@ class QuoteTracker {
 
 /// One row as the table reader sees it, so that quoting means the same everywhere.
 Table AsTable(const std::string& row) {
-  FileBytes bytes{std::make_unique<char[]>(row.size() + 1), row.size()};
-  std::memcpy(bytes.data.get(), row.data(), row.size());
+  FileBytes bytes;
+  bytes.data = std::make_unique<char[]>(row.size());
+  bytes.size = row.copy(bytes.data.get(), row.size());
   return Table(std::move(bytes));
 }
 

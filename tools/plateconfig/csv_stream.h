@@ -42,6 +42,9 @@ class CsvStream {
   /// The next row that can be read; blank lines are rows of one empty cell. Nothing at the end.
   std::optional<CsvRow> ReadRow();
 
+  /// Rows of the spreadsheet so far, those included that were passed over.
+  std::size_t RowCount() const { return rowNumber_; }
+
  private:
   enum class Encoding { kUtf8, kGbk };
 

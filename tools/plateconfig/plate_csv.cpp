@@ -2,6 +2,7 @@
 #include <set>
 #include <utility>
 
+#include "plateconfig/cell_texts.h"
 #include "plateconfig/csv_stream.h"
 #include "plateconfig/language.h"
 #include "plateconfig/plate_fields.h"
@@ -11,26 +12,6 @@
 
 namespace plateconfig {
 namespace {
-
-std::string NotANumber(const std::string& text) {
-  return Say("\"{}\" is not a number; write it like 450 or 12.5",
-             "“{}”不是数字；请写成 450 或 12.5 这样的数字", ShownText(text));
-}
-std::string NotAnInteger(const std::string& text) {
-  return Say("\"{}\" is not a whole number; write it like 12", "“{}”不是整数；请写成 12 这样的整数",
-             ShownText(text));
-}
-std::string NotIntegers(const std::string& text) {
-  return Say("\"{}\" is not a list of whole numbers; write it like 36_186",
-             "“{}”不是整数列表；请写成 36_186 这样的形式", ShownText(text));
-}
-std::string NotNumbers(const std::string& text) {
-  return Say("\"{}\" is not a list of numbers; write it like 6_8.5",
-             "“{}”不是数字列表；请写成 6_8.5 这样的形式", ShownText(text));
-}
-std::string NotYesNo(const std::string& text) {
-  return Say("\"{}\" is neither Y nor N", "“{}”既不是 Y 也不是 N", ShownText(text));
-}
 
 /// Puts a cell's text where it belongs; gives what is wrong with it, or an empty text.
 using StoreCell = std::function<std::string(const std::string& text, PlateInput& plate)>;

@@ -1,15 +1,12 @@
 #include "plateconfig/plate_job.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <optional>
 #include <set>
-#include <system_error>
 
 #include "plateconfig/feed_rules.h"
+#include "plateconfig/input_file.h"
 #include "plateconfig/language.h"
-#include "plateconfig/progress.h"
 
 namespace plateconfig {
 namespace {
@@ -46,24 +43,15 @@ class PlateLoop {
 
  private:
   void VisitFile(const std::string& file) {
-    if (file == "-") return Visit(session_.streams.in, Say("standard input", "标准输入"), 0);
-    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
-    std::error_code error;
-    const bool isFolder = std::filesystem::is_directory(path, error);
-    std::ifstream in(path, std::ios::binary);
-    if (isFolder || !in) {
-      session_.reporter.Error(
-          {file}, isFolder ? Say("this is a folder, not a file of plates", "这是文件夹，不是板的文件")
-                           : Say("this file can not be opened", "无法打开此文件"));
-      return;
-    }
-    const auto size = std::filesystem::file_size(path, error);
-    Visit(in, file, error ? 0 : static_cast<std::size_t>(size));
+    VisitInput(
+        file, session_,
+        [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+          return Visit(in, shownAs, progress);
+        },
+        Say("no plate was read from this file", "没有从此文件读到任何板"));
   }
 
-  void Visit(std::istream& in, const std::string& file, std::size_t size) {
-    Progress progress(session_.streams.err, session_.streams.showsProgress, in, size);
-    session_.reporter.BeforeMessage([&progress] { progress.Clear(); });
+  std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {
     const auto plates = ReadPlates(in, file, vocabulary_, session_.reporter);
     std::size_t count = 0;
     while (const std::optional<PlateInput> plate = plates->Next()) {
@@ -74,10 +62,7 @@ class PlateLoop {
       FeedRules(rules, plate->features);
       visit_(*plate, tables_, rules);
     }
-    if (in.bad()) session_.reporter.Error({file}, Say("reading this file failed", "读取此文件失败"));
-    if (count == 0)
-      session_.reporter.Warning({file}, Say("no plate was read from this file", "没有从此文件读到任何板"));
-    session_.reporter.BeforeMessage({});
+    return count;
   }
 
   bool IsWanted(const PlateInput& plate) {

@@ -32,7 +32,7 @@ void Progress::Draw() {
   const auto position = in_.tellg();
   const bool knowsPlace = total_ > 0 && position >= 0;
   const std::string bar = knowsPlace ? Bar(static_cast<std::size_t>(position), total_) : "";
-  const std::string text = bar + Say("{} plates", "{} 块板", count_);
+  const std::string text = bar + Say("{} read", "已读 {} 个", count_);
   Clear();
   err_ << "\r" << text << std::flush;
   // A Chinese character is two columns wide and three bytes long, so the bytes are enough to cover it.

@@ -8,7 +8,7 @@
 namespace plateconfig {
 
 /// A progress bar on the error stream, for long inputs and people who watch. It appears once a few hundred
-/// plates are done and more are coming, is redrawn a few times a second, and disappears at the end.
+/// things are done and more are coming, is redrawn a few times a second, and disappears at the end.
 class Progress {
  public:
   /// `total` is the size of `in` in bytes, 0 when it is unknown. Nothing is drawn unless `isShown`.
@@ -18,7 +18,7 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  /// One more plate is done.
+  /// One more thing is done.
   void Step();
 
   /// Takes the bar off the screen, so that something else can be written there; a later step draws it again.

@@ -1,9 +1,8 @@
 #include "uf.h"
 
-#include <cstdlib>
 #include <string>
 
-#include "text/gbk.h"
+#include "platform/environment.h"
 
 namespace {
 
@@ -27,11 +26,10 @@ int UF_terminate() {
 }
 
 int UF_translate_variable(const char* name, char** translation) {
-  const char* value = std::getenv(name);
   *translation = nullptr;
-  if (value == nullptr) return 0;
-  translatedValue = value;
-  if (const auto gbk = plateconfig::TryUtf8ToGbk(translatedValue)) translatedValue = *gbk;
+  const auto value = plateconfig::EnvironmentVariable(name);
+  if (!value) return 0;
+  translatedValue = *value;
   *translation = translatedValue.data();
   return 0;
 }

@@ -15,6 +15,6 @@ int UF_initialize();
 int UF_terminate();
 
 /// Sets `*translation` to the value of the host variable `name`, which lives until the next call; null when
-/// it is unset. A value that is valid UTF-8 is handed out in GBK, as a Chinese Windows would. Always 0.
+/// it is unset. On every system the value is in GBK, as on a Chinese Windows. Always 0.
 int UF_translate_variable(const char* name, char** translation);
 }

@@ -1,0 +1,114 @@
+#include "settings/cell_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "config/numbers.h"
+#include "config/text_helpers.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr int kFirstLayer = 1;
+constexpr int kLastLayer = 256;
+
+bool IsTaken(TakenCells taken, const std::string& cell, int number) {
+  if (taken == TakenCells::kFilled) return !cell.empty();
+  if (taken == TakenCells::kLayerNumbers) return number >= kFirstLayer && number <= kLastLayer;
+  return number != 0;
+}
+
+}  // namespace
+
+std::string NumberText(double value) {
+  // From here on the digits behind 17 significant ones are zeros, and an exponent reads better.
+  constexpr double kLong = 1e15;
+  const auto format = std::abs(value) < kLong ? std::chars_format::fixed : std::chars_format::general;
+  std::array<char, 400> text;
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format);
+  return {text.data(), end};
+}
+
+std::string StyleText(const NoteStyleFields& style) {
+  std::string text = style.fontName;
+  for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
+    text += "|" + NumberText(number);
+  }
+  return text + "|" + IntToString(style.option);
+}
+
+bool ReadFlag(FlagLetters letters, std::string_view cell) {
+  switch (letters) {
+    case FlagLetters::kYesIfUpperY:
+      return cell == "Y";
+    case FlagLetters::kYesIfY:
+      return cell == "Y" || cell == "y";
+    case FlagLetters::kNoIfUpperN:
+      return cell != "N";
+    case FlagLetters::kNoIfN:
+      return cell != "N" && cell != "n";
+  }
+  return false;
+}
+
+std::string FlagText(bool value) {
+  return value ? "Y" : "N";
+}
+
+std::string_view FlagName(FlagLetters letters) {
+  switch (letters) {
+    case FlagLetters::kYesIfUpperY:
+      return "flag: yes for Y only";
+    case FlagLetters::kYesIfY:
+      return "flag: yes for Y or y only";
+    case FlagLetters::kNoIfUpperN:
+      return "flag: no for N only";
+    case FlagLetters::kNoIfN:
+      return "flag: no for N or n only";
+  }
+  return {};
+}
+
+void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken) {
+  for (const std::string& cell : cells) {
+    const int number = ParseInt(cell);
+    if (IsTaken(taken, cell, number)) list.push_back(number);
+  }
+}
+
+std::string_view TakenCellsName(TakenCells taken) {
+  switch (taken) {
+    case TakenCells::kNonZero:
+      return "list of integers other than 0";
+    case TakenCells::kLayerNumbers:
+      return "list of integers from 1 to 256";
+    case TakenCells::kFilled:
+      return "list of integers";
+  }
+  return {};
+}
+
+Cells IntCells(std::span<const int> numbers) {
+  Cells cells;
+  for (const int number : numbers) cells.push_back(IntToString(number));
+  return cells;
+}
+
+std::vector<int> SplitInts(const std::string& cell) {
+  return VectorToInt(SplitString(cell, "_"));
+}
+
+std::string JoinInts(const std::vector<int>& numbers) {
+  std::string text;
+  for (const int number : numbers) text += (text.empty() ? "" : "_") + IntToString(number);
+  return text;
+}
+
+std::optional<std::pair<double, double>> SplitRange(const std::string& cell) {
+  const std::vector<double> bounds = VectorToDouble(SplitString(cell, "_"));
+  if (bounds.size() != 2) return std::nullopt;
+  return std::pair(bounds[0], bounds[1]);
+}
+
+}  // namespace plateconfig

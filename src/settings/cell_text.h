@@ -1,0 +1,56 @@
+#pragma once
+
+// What the kinds of cells have in common whatever record they fill: texts to values and back.
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "settings/note_style.h"
+
+namespace plateconfig {
+
+/// Cells of one column, top to bottom (GBK).
+using Cells = std::vector<std::string>;
+
+/// Kept: the letters differ from key to key, and tables in use rely on each key's own.
+enum class FlagLetters {
+  kYesIfUpperY,  ///< Yes for exactly Y.
+  kYesIfY,       ///< Yes for exactly Y or y.
+  kNoIfUpperN,   ///< No for exactly N, yes for anything else, also for an empty cell.
+  kNoIfN,        ///< No for exactly N or n, yes for anything else, also for an empty cell.
+};
+
+/// Which cells of a column a list of numbers takes.
+enum class TakenCells {
+  kNonZero,       ///< Numbers other than 0; an empty cell and one that is no number are 0.
+  kLayerNumbers,  ///< Numbers from 1 to 256, the layers that the host has.
+  kFilled,        ///< Every cell that is not empty; one that is no number is 0.
+};
+
+/// The shortest text that reads as the same number.
+std::string NumberText(double value);
+
+/// A style as a cell, its numbers as short as they go.
+std::string StyleText(const NoteStyleFields& style);
+
+bool ReadFlag(FlagLetters letters, std::string_view cell);
+/// Y or N, which every kind of flag reads back.
+std::string FlagText(bool value);
+std::string_view FlagName(FlagLetters letters);
+
+void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken);
+std::string_view TakenCellsName(TakenCells taken);
+Cells IntCells(std::span<const int> numbers);
+
+/// Lists inside one cell, joined by "_".
+std::vector<int> SplitInts(const std::string& cell);
+std::string JoinInts(const std::vector<int>& numbers);
+
+/// The bounds of a cell min_max; nothing unless it has exactly two pieces.
+std::optional<std::pair<double, double>> SplitRange(const std::string& cell);
+
+}  // namespace plateconfig

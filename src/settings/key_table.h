@@ -1,0 +1,128 @@
+#pragma once
+
+// A settings table as data: one row per key. What walks the rows is a walker: the loader here, and those that
+// print and describe.
+//
+//   inline constexpr Key<LabelSettings> kLabelKeys[] = {
+//       // column        kind, field, when the column is absent      unit  what it is
+//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, "mm", "height of label text"},
+//   };
+//   static_assert(ColumnsAreUnique(kLabelKeys));
+//
+// To add a key: add its field to the class and its line to the table, and write docs/tables.md anew.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+#include "config/read_config_file.h"
+#include "settings/kinds.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+
+/// What a column has to say on the rows of a list of records.
+enum class RowRule {
+  kNone,
+  kRequired,  ///< A row whose cell the kind does not accept is skipped.
+  kBounds,    ///< Rows count down to the column's last filled cell.
+};
+
+/// One column: a setting of `Record`, or one field of the records that run down the rows.
+template <typename Record, typename NoteStyle = NoStyle>
+struct Key {
+  std::string_view column;  // GBK
+  Kind<Record, NoteStyle> kind;
+  std::string_view unit;
+  std::string_view help;
+  RowRule rowRule = RowRule::kNone;
+};
+
+/// False when the rows name a column twice. Takes all rows that read the same table.
+template <typename... Keys>
+consteval bool ColumnsAreUnique(const Keys&... keys) {
+  std::array<std::string_view, (std::extent_v<Keys> + ...)> columns;
+  std::size_t count = 0;
+  const auto add = [&](const auto& rows) {
+    for (const auto& key : rows) columns[count++] = key.column;
+  };
+  (add(keys), ...);
+  std::sort(columns.begin(), columns.end());
+  return std::adjacent_find(columns.begin(), columns.end()) == columns.end();
+}
+
+template <typename Record, typename NoteStyle>
+void ReadKey(const Key<Record, NoteStyle>& key, const Cells& cells, Record& record) {
+  std::visit([&](const auto& kind) { kind.Read(record, cells); }, key.kind);
+}
+
+template <typename Record, typename NoteStyle>
+Cells PrintKey(const Key<Record, NoteStyle>& key, const Record& record) {
+  return std::visit([&](const auto& kind) { return kind.Print(record); }, key.kind);
+}
+
+/// Reads every key from an open table.
+class Loader {
+ public:
+  explicit Loader(const ReadConfigFile& table) : table_(table) {}
+
+  /// Settings of one record, each the first cell of its column or its whole column.
+  template <typename Record, typename Keys>
+  void Walk(Record& record, const Keys& keys) const {
+    for (const auto& key : keys) ReadKey(key, ColumnOf(key), record);
+  }
+
+  /// A list of records, one per row that counts; appended to what the list holds. A cell that is missing is
+  /// empty.
+  template <typename Record, typename Keys>
+  void WalkRows(std::vector<Record>& list, const Keys& keys) const {
+    std::vector<Cells> columns;
+    for (const auto& key : keys) columns.push_back(ColumnOf(key));
+    std::size_t rows = 0;
+    for (const Cells& column : columns) rows = std::max(rows, column.size());
+    for (std::size_t row = 0; row < rows; ++row) {
+      if (!RowCounts(keys, columns, row)) continue;
+      Record& record = list.emplace_back();
+      for (std::size_t i = 0; i < std::size(keys); ++i) ReadKey(keys[i], {CellAt(columns[i], row)}, record);
+    }
+  }
+
+ private:
+  template <typename AnyKey>
+  Cells ColumnOf(const AnyKey& key) const {
+    Cells cells = table_.GetColumnValue(std::string(key.column));
+    if (key.rowRule == RowRule::kBounds) {
+      while (!cells.empty() && cells.back().empty()) cells.pop_back();
+    }
+    return cells;
+  }
+
+  template <typename Keys>
+  static bool RowCounts(const Keys& keys, const std::vector<Cells>& columns, std::size_t row) {
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+      if (!ColumnAllows(keys[i], columns[i], row)) return false;
+    }
+    return true;
+  }
+
+  template <typename AnyKey>
+  static bool ColumnAllows(const AnyKey& key, const Cells& column, std::size_t row) {
+    if (key.rowRule == RowRule::kNone) return true;
+    if (key.rowRule == RowRule::kBounds) return row < column.size();
+    return std::visit([&](const auto& kind) { return kind.Accepts(CellAt(column, row)); }, key.kind);
+  }
+
+  static std::string CellAt(const Cells& column, std::size_t row) {
+    return row < column.size() ? column[row] : std::string();
+  }
+
+  const ReadConfigFile& table_;
+};
+
+}  // namespace plateconfig

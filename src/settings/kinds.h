@@ -1,0 +1,209 @@
+#pragma once
+
+// The kinds of cells. A kind knows everything about one sort of setting: how it is read from the cells of its
+// column, what an absent column gives, how it is printed, what it is called.
+//
+//   Number{&LabelSettings::textHeight, 3.5}
+//
+// Every kind has these members; `cells` are the column's, top to bottom, and empty when the column is absent
+// or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
+//
+//   std::string_view Name() const;                             what the documentation calls it
+//   void Read(Record& record, const Cells& cells) const;
+//   Cells Print(const Record& record) const;                   one cell, or those of a list
+//   Cells WhenAbsent() const;
+//   bool Accepts(const std::string& cell) const;               whether a row of several columns may hold this
+//   cell
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "config/numbers.h"
+#include "settings/cell_text.h"
+#include "settings/note_style.h"
+
+namespace plateconfig {
+
+/// What most kinds ask of a cell that decides on its row.
+struct FilledCell {
+  static bool Accepts(const std::string& cell) { return !cell.empty(); }
+};
+
+/// A double.
+template <typename Record>
+struct Number : FilledCell {
+  constexpr explicit Number(double Record::*of, double absent = 0) : field(of), whenAbsent(absent) {}
+
+  double Record::*field;
+  double whenAbsent;
+
+  static std::string_view Name() { return "number"; }
+  void Read(Record& record, const Cells& cells) const {
+    // Kept: an empty first cell is a cell, and reads as 0.
+    record.*field = cells.empty() ? whenAbsent : ParseDouble(cells.front());
+  }
+  Cells Print(const Record& record) const { return {NumberText(record.*field)}; }
+  Cells WhenAbsent() const { return {NumberText(whenAbsent)}; }
+};
+
+/// What an empty first cell of an integer means.
+enum class EmptyCell { kIsZero, kIsAbsent };
+
+/// An int.
+template <typename Record>
+struct Integer : FilledCell {
+  constexpr explicit Integer(int Record::*of, int absent = 0, EmptyCell empty = EmptyCell::kIsZero)
+      : field(of), whenAbsent(absent), emptyCell(empty) {}
+
+  int Record::*field;
+  int whenAbsent;
+  EmptyCell emptyCell;
+
+  std::string_view Name() const {
+    return emptyCell == EmptyCell::kIsZero ? "integer" : "integer; empty = no column";
+  }
+  void Read(Record& record, const Cells& cells) const {
+    record.*field = IsAbsent(cells) ? whenAbsent : ParseInt(cells.front());
+  }
+  Cells Print(const Record& record) const { return {std::to_string(record.*field)}; }
+  Cells WhenAbsent() const { return {std::to_string(whenAbsent)}; }
+
+ private:
+  bool IsAbsent(const Cells& cells) const {
+    return cells.empty() || (emptyCell == EmptyCell::kIsAbsent && cells.front().empty());
+  }
+};
+
+/// A text, the cell as it stands.
+template <typename Record>
+struct Text : FilledCell {
+  constexpr explicit Text(std::string Record::*of, std::string_view absent = {})
+      : field(of), whenAbsent(absent) {}
+
+  std::string Record::*field;
+  std::string_view whenAbsent;  // GBK
+
+  static std::string_view Name() { return "text"; }
+  void Read(Record& record, const Cells& cells) const {
+    record.*field = cells.empty() ? std::string(whenAbsent) : cells.front();
+  }
+  Cells Print(const Record& record) const { return {record.*field}; }
+  Cells WhenAbsent() const { return {std::string(whenAbsent)}; }
+};
+
+/// A yes or no, each with the letters that it knows.
+template <typename Record>
+struct Flag : FilledCell {
+  constexpr Flag(bool Record::*of, bool absent, FlagLetters known)
+      : field(of), whenAbsent(absent), letters(known) {}
+
+  bool Record::*field;
+  bool whenAbsent;
+  FlagLetters letters;
+
+  std::string_view Name() const { return FlagName(letters); }
+  void Read(Record& record, const Cells& cells) const {
+    record.*field = cells.empty() ? whenAbsent : ReadFlag(letters, cells.front());
+  }
+  Cells Print(const Record& record) const { return {FlagText(record.*field)}; }
+  Cells WhenAbsent() const { return {FlagText(whenAbsent)}; }
+};
+
+/// A text style; without six fields the default style.
+template <typename Record, typename NoteStyle>
+struct Style : FilledCell {
+  constexpr explicit Style(NoteStyle Record::*of) : field(of) {}
+
+  NoteStyle Record::*field;
+
+  static std::string_view Name() { return "style"; }
+  void Read(Record& record, const Cells& cells) const {
+    record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
+  }
+  Cells Print(const Record& record) const { return {StyleText(CopyStyle<NoteStyleFields>(record.*field))}; }
+  Cells WhenAbsent() const { return {StyleText(NoteStyleFields())}; }
+};
+
+/// A list of numbers that runs down its column. Reading appends; nothing is sorted, duplicates stay.
+template <typename Record>
+struct IntList : FilledCell {
+  constexpr IntList(std::vector<int> Record::*of, TakenCells cells, std::span<const int> none = {})
+      : field(of), taken(cells), whenNone(none) {}
+
+  std::vector<int> Record::*field;
+  TakenCells taken;
+  std::span<const int> whenNone;  ///< Appended to a list that is still empty.
+
+  std::string_view Name() const { return TakenCellsName(taken); }
+  void Read(Record& record, const Cells& cells) const {
+    std::vector<int>& list = record.*field;
+    // Kept: what is there stays, so that a list grows each time that its table is read.
+    AppendTaken(list, cells, taken);
+    if (list.empty()) list.assign(whenNone.begin(), whenNone.end());
+  }
+  Cells Print(const Record& record) const { return IntCells(record.*field); }
+  Cells WhenAbsent() const { return IntCells(whenNone); }
+};
+
+/// A list of texts that runs down its column, one per data row, empty cells included.
+template <typename Record>
+struct TextList : FilledCell {
+  constexpr explicit TextList(std::vector<std::string> Record::*of) : field(of) {}
+
+  std::vector<std::string> Record::*field;
+
+  static std::string_view Name() { return "list of texts"; }
+  void Read(Record& record, const Cells& cells) const { record.*field = cells; }
+  Cells Print(const Record& record) const { return record.*field; }
+  Cells WhenAbsent() const { return {}; }
+};
+
+/// A list of numbers inside one cell, joined by "_". Every piece counts; one that is no number is 0.
+template <typename Record>
+struct JoinedInts : FilledCell {
+  constexpr explicit JoinedInts(std::vector<int> Record::*of) : field(of) {}
+
+  std::vector<int> Record::*field;
+
+  static std::string_view Name() { return "list of integers in one cell (12_6)"; }
+  void Read(Record& record, const Cells& cells) const {
+    record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
+  }
+  Cells Print(const Record& record) const { return {JoinInts(record.*field)}; }
+  Cells WhenAbsent() const { return {}; }
+};
+
+/// Two bounds inside one cell, min_max; any other number of pieces leaves them as they are.
+template <typename Record>
+struct Range {
+  constexpr Range(double Record::*least, double Record::*most) : minimum(least), maximum(most) {}
+
+  double Record::*minimum;
+  double Record::*maximum;
+
+  static std::string_view Name() { return "range (10_200)"; }
+  static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
+  void Read(Record& record, const Cells& cells) const {
+    const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());
+    if (!bounds) return;
+    record.*minimum = bounds->first;
+    record.*maximum = bounds->second;
+  }
+  Cells Print(const Record& record) const {
+    return {NumberText(record.*minimum) + "_" + NumberText(record.*maximum)};
+  }
+  Cells WhenAbsent() const { return {}; }
+};
+
+/// Stands for the style record where a table has no styles.
+struct NoStyle : NoteStyleFields {};
+
+template <typename Record, typename NoteStyle>
+using Kind =
+    std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, Style<Record, NoteStyle>,
+                 IntList<Record>, TextList<Record>, JoinedInts<Record>, Range<Record>>;
+
+}  // namespace plateconfig

@@ -1,0 +1,44 @@
+#include "settings/note_style.h"
+
+#include <vector>
+
+#include "config/numbers.h"
+#include "config/text_helpers.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr std::size_t kFieldCount = 6;
+constexpr std::size_t kLongestNumber = 221;
+
+std::string Join(const NoteStyleFields& style, int decimals) {
+  std::string text = style.fontName;
+  for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
+    text += "|" + DoubleToString(number, decimals).substr(0, kLongestNumber);
+  }
+  return text + "|" + IntToString(style.option);
+}
+
+}  // namespace
+
+NoteStyleFields ParseNoteStyle(const std::string& cell) {
+  const std::vector<std::string> fields = SplitString(cell, "|");
+  // Kept: all or nothing. Five good fields give the default font too.
+  if (fields.size() < kFieldCount) return {};
+  return {fields[0],
+          ParseDouble(fields[1]),
+          ParseDouble(fields[2]),
+          ParseDouble(fields[3]),
+          ParseDouble(fields[4]),
+          ParseInt(fields[5])};
+}
+
+std::string WriteNoteStyle(const NoteStyleFields& style) {
+  return Join(style, 3);
+}
+
+std::string WriteWholeNoteStyle(const NoteStyleFields& style) {
+  return Join(style, 0);
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,312 @@
+#include "config/table.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "config/reference_csv.h"
+#include "config/table_text.h"
+#include "support/gbk_text.h"
+
+namespace plateconfig::test {
+namespace {
+
+using testing::ElementsAre;
+
+Lines LinesOfText(std::string_view bytes) {
+  return LinesOf(TableOf(bytes));
+}
+
+// ---- Lines ----
+
+TEST(TableLines, EndWithLfOrCrLf) {
+  const Lines expected = {{"a", "b"}, {"1", "2"}, {"3", "4"}};
+  EXPECT_EQ(LinesOfText("a,b\n1,2\n3,4\n"), expected);
+  EXPECT_EQ(LinesOfText("a,b\r\n1,2\r\n3,4\r\n"), expected);
+  EXPECT_EQ(LinesOfText("a,b\r\n1,2\n3,4\r\n"), expected);
+}
+
+TEST(TableLines, TheLastOneNeedsNoLineEnd) {
+  EXPECT_EQ(LinesOfText("a,b\n1,2"), (Lines{{"a", "b"}, {"1", "2"}}));
+  EXPECT_EQ(LinesOfText("a,b"), (Lines{{"a", "b"}}));
+  EXPECT_EQ(LinesOfText("a\n1,"), (Lines{{"a"}, {"1", ""}}));
+}
+
+TEST(TableLines, ALoneCarriageReturnIsAnOrdinaryCharacter) {
+  EXPECT_EQ(LinesOfText("a\rb,c\r,d\n\r1\n"), (Lines{{"a\rb", "c\r", "d"}, {"\r1"}}));
+  EXPECT_EQ(LinesOfText("a\n1\r"), (Lines{{"a"}, {"1\r"}}));
+  EXPECT_EQ(LinesOfText("a\n1\r\r\n"), (Lines{{"a"}, {"1\r"}}));
+}
+
+TEST(TableLines, BlankOnesAtTheEndAreNoRows) {
+  EXPECT_EQ(LinesOfText("a,b\n1,2\n\n\n\n"), (Lines{{"a", "b"}, {"1", "2"}}));
+  EXPECT_EQ(LinesOfText("a,b\r\n1,2\r\n\r\n\r\n"), (Lines{{"a", "b"}, {"1", "2"}}));
+  EXPECT_EQ(TableOf("a\n\n\n").RowCount(), 0u);
+}
+
+TEST(TableLines, ABlankOneInBetweenIsARowOfEmptyCells) {
+  const Table table = TableOf("a,b\n1,2\n\n\r\n3,4\n");
+  ASSERT_EQ(table.RowCount(), 4u);
+  EXPECT_EQ(table.Cell(2, 0), "");
+  EXPECT_EQ(table.Cell(2, 1), "");
+  EXPECT_EQ(table.Cell(3, 0), "");
+  EXPECT_EQ(table.Cell(4, 0), "3");
+}
+
+TEST(TableLines, OnesOfCommasOnlyAreRowsAlsoAtTheEnd) {
+  EXPECT_EQ(LinesOfText("a,b\n,\n1,2\n,\n,\n"),
+            (Lines{{"a", "b"}, {"", ""}, {"1", "2"}, {"", ""}, {"", ""}}));
+}
+
+TEST(TableLines, ABlankHeaderLineIsAHeaderWithOneNamelessColumn) {
+  const Table table = TableOf("\n1,2\n");
+  EXPECT_EQ(table.ColumnCount(), 1u);
+  EXPECT_EQ(table.FindColumn(""), 0u);
+  EXPECT_EQ(table.Cell(1, 0), "1");
+}
+
+TEST(TableLines, BlankOnesAloneAreAnEmptyTable) {
+  for (const char* text : {"", "\n", "\r\n", "\n\n\r\n"}) {
+    const Table table = TableOf(text);
+    EXPECT_EQ(table.ColumnCount(), 0u) << text;
+    EXPECT_EQ(table.RowCount(), 0u) << text;
+    EXPECT_EQ(table.Cell(0, 0), "") << text;
+    EXPECT_FALSE(table.FindColumn("")) << text;
+  }
+}
+
+TEST(TableLines, AreReadFromADefaultTableAsFromAnEmptyFile) {
+  const Table table;
+  EXPECT_EQ(table.ColumnCount(), 0u);
+  EXPECT_EQ(table.RowCount(), 0u);
+  EXPECT_EQ(table.Cell(0, 0), "");
+  EXPECT_EQ(table.Cell(1, 0), "");
+  EXPECT_EQ(table.Bytes(), "");
+  EXPECT_FALSE(table.FindColumn(""));
+}
+
+// ---- Rows and columns ----
+
+TEST(TableCells, MissingAtTheEndOfAShortRowAreEmpty) {
+  const Table table = TableOf("a,b,c\n1\n,2\n");
+  EXPECT_EQ(table.CellCount(1), 1u);
+  EXPECT_EQ(table.Cell(1, 0), "1");
+  EXPECT_EQ(table.Cell(1, 1), "");
+  EXPECT_EQ(table.Cell(1, 2), "");
+  EXPECT_EQ(table.Cell(2, 1), "2");
+  EXPECT_EQ(table.Cell(2, 2), "");
+}
+
+TEST(TableCells, BeyondTheHeaderMakeNoColumns) {
+  const Table table = TableOf("a,b\n1,2,3,4\n5,6\n");
+  EXPECT_EQ(table.ColumnCount(), 2u);
+  EXPECT_EQ(table.CellCount(1), 4u);
+  EXPECT_EQ(table.Cell(1, 1), "2");
+  EXPECT_EQ(table.Cell(2, 0), "5");
+}
+
+TEST(TableCells, BeyondTheTableAreEmpty) {
+  const Table table = TableOf("a,b\n1,2\n");
+  EXPECT_EQ(table.Cell(2, 0), "");
+  EXPECT_EQ(table.Cell(99, 0), "");
+  EXPECT_EQ(table.Cell(0, 2), "");
+  EXPECT_EQ(table.Cell(1, 99), "");
+  EXPECT_TRUE(table.CellEquals(2, 0, ""));
+  EXPECT_FALSE(table.CellEquals(2, 0, "1"));
+}
+
+TEST(TableCells, KeepEveryBlank) {
+  EXPECT_EQ(LinesOfText(" a ,\tb\n  ,1 \n"), (Lines{{" a ", "\tb"}, {"  ", "1 "}}));
+}
+
+TEST(TableCells, AreNotCutInsideGbkCharacters) {
+  // The second bytes of these characters are those of \ _ and |.
+  const std::string text = Gbk("誠,確\n開|東,乗\n");
+  EXPECT_EQ(LinesOfText(text), (Lines{{Gbk("誠"), Gbk("確")}, {Gbk("開|東"), Gbk("乗")}}));
+}
+
+TEST(TableColumns, OfOneNameAreAnsweredByTheFirst) {
+  const Table table = TableOf("a,b,a\n1,2,3\n");
+  EXPECT_EQ(table.ColumnCount(), 3u);
+  EXPECT_EQ(table.FindColumn("a"), 0u);
+  EXPECT_EQ(table.FindColumn("b"), 1u);
+}
+
+TEST(TableColumns, AreFoundByTheirExactBytesOnly) {
+  const Table table = TableOf(Gbk("Name, blank,\"quo,ted\",名\n"));
+  EXPECT_EQ(table.FindColumn("Name"), 0u);
+  EXPECT_FALSE(table.FindColumn("name"));
+  EXPECT_FALSE(table.FindColumn("Nam"));
+  EXPECT_FALSE(table.FindColumn("blank"));
+  EXPECT_EQ(table.FindColumn(" blank"), 1u);
+  EXPECT_EQ(table.FindColumn("quo,ted"), 2u);
+  EXPECT_EQ(table.FindColumn(Gbk("名")), 3u);
+  EXPECT_FALSE(table.FindColumn("名"));
+}
+
+// ---- Quotes ----
+
+TEST(TableQuotes, HoldCommasAndLineBreaks) {
+  EXPECT_EQ(LinesOfText("a,b\n\"1,2\",\"3\n4\r\n5\"\n6,7\n"),
+            (Lines{{"a", "b"}, {"1,2", "3\n4\r\n5"}, {"6", "7"}}));
+}
+
+TEST(TableQuotes, DoubledInsideAreOne) {
+  EXPECT_EQ(LinesOfText("\"say \"\"yes\"\"\",\"\"\"\",\"\"\n"), (Lines{{"say \"yes\"", "\"", ""}}));
+}
+
+TEST(TableQuotes, InTheMiddleOfAnUnquotedCellAreOrdinary) {
+  EXPECT_EQ(LinesOfText("a\"b,c\"\"d\", \"e,f\"\n"), (Lines{{"a\"b", "c\"\"d\"", " \"e", "f\""}}));
+}
+
+TEST(TableQuotes, NeverClosedLoseNoCommaAndNoRow) {
+  EXPECT_EQ(LinesOfText("a,\"b,c\n1,2,3\n"), (Lines{{"a", "\"b", "c"}, {"1", "2", "3"}}));
+  EXPECT_EQ(LinesOfText("\"\"\"a,b\r\n1,\"\"\r\n"), (Lines{{"\"\"\"a", "b"}, {"1", ""}}));
+  EXPECT_EQ(LinesOfText("a\n1,\""), (Lines{{"a"}, {"1", "\""}}));
+}
+
+TEST(TableQuotes, ClosedOnALaterLineTakeTheLinesBetween) {
+  EXPECT_EQ(LinesOfText("a\n\"1\n2\n3\"\n4\n"), (Lines{{"a"}, {"1\n2\n3"}, {"4"}}));
+}
+
+TEST(TableQuotes, ClosedEarlyKeepTheTextBehindThem) {
+  EXPECT_EQ(LinesOfText("\"ab\"c,\"d\" ,\"e\"f\"g\",\"\"h\n"), (Lines{{"abc", "d ", "ef\"g\"", "h"}}));
+  EXPECT_EQ(LinesOfText("\"a,b\"c,d\r\n"), (Lines{{"a,bc", "d"}}));
+}
+
+TEST(TableQuotes, ALineOfAnEmptyPairIsARowAlsoAtTheEnd) {
+  EXPECT_EQ(LinesOfText("a\n1\n\"\"\n"), (Lines{{"a"}, {"1"}, {""}}));
+}
+
+TEST(TableQuotes, CountNeitherForEqualityNorForColumnNames) {
+  const Table table = TableOf("\"a\"\n\"x,\"\"y\"\"\"\nz\n");
+  EXPECT_EQ(table.FindColumn("a"), 0u);
+  EXPECT_TRUE(table.CellEquals(1, 0, "x,\"y\""));
+  EXPECT_FALSE(table.CellEquals(1, 0, "\"x,\"\"y\"\"\""));
+  EXPECT_TRUE(table.CellEquals(2, 0, "z"));
+}
+
+TEST(TableQuotes, StayInTheRawCell) {
+  const Table table = TableOf("a,\"b\"\"c\"\r\n\"d\"e,f\n");
+  EXPECT_EQ(table.RawCell(0, 1), "\"b\"\"c\"");
+  EXPECT_EQ(table.RawCell(1, 0), "\"d\"e");
+  EXPECT_EQ(table.RawCell(1, 1).data() - table.Bytes().data(), 15);
+  EXPECT_EQ(table.RawCell(1, 2), "");
+}
+
+// ---- Odd and large input ----
+
+TEST(Table, HoldsZeroBytesAsTheyAre) {
+  using namespace std::string_literals;
+  EXPECT_EQ(LinesOfText("a\0b,\0\n\0,\"\0\"\n"s), (Lines{{"a\0b"s, "\0"s}, {"\0"s, "\0"s}}));
+}
+
+TEST(Table, HoldsACellOfOneMegabyte) {
+  const std::string large(1 << 20, 'x');
+  const Table table = TableOf("a,b\n" + large + ",\"" + large + "\n\"\n1,2\n");
+  EXPECT_EQ(table.RowCount(), 2u);
+  EXPECT_TRUE(table.CellEquals(1, 0, large));
+  EXPECT_EQ(table.Cell(1, 1), large + "\n");
+  EXPECT_EQ(table.Cell(2, 1), "2");
+}
+
+TEST(Table, HoldsAHundredThousandColumns) {
+  constexpr std::size_t kColumns = 100'000;
+  std::string header;
+  std::string row;
+  for (std::size_t column = 0; column < kColumns; ++column) {
+    header += "c" + std::to_string(column) + (column + 1 < kColumns ? "," : "\n");
+    row += std::to_string(column) + (column + 1 < kColumns ? "," : "\n");
+  }
+  const Table table = TableOf(header + row);
+  ASSERT_EQ(table.ColumnCount(), kColumns);
+  EXPECT_EQ(table.RowCount(), 1u);
+  EXPECT_EQ(table.FindColumn("c99999"), 99'999u);
+  EXPECT_EQ(table.Cell(1, 54'321), "54321");
+}
+
+TEST(Table, HoldsRowsOfAnyLength) {
+  std::string text = "a,b,c\n";
+  for (std::size_t commas = 0; commas < 300; ++commas) text += std::string(commas, ',') + "x\n";
+  const Table table = TableOf(text);
+  ASSERT_EQ(table.RowCount(), 300u);
+  for (std::size_t commas = 0; commas < 300; ++commas) {
+    EXPECT_EQ(table.CellCount(commas + 1), commas + 1);
+    EXPECT_EQ(table.Cell(commas + 1, commas), "x");
+  }
+}
+
+TEST(Table, ReadsManyUnclosedLookingQuotesInOnePass) {
+  // Each line begins with a quote; were each looked for to the end of the file, this would take minutes.
+  std::string text = "\"\"\"";
+  for (int line = 0; line < 1'000'000; ++line) text += "\n\"\"x";
+  const Table table = TableOf(text);
+  EXPECT_EQ(table.RowCount(), 1'000'000u);
+  EXPECT_EQ(table.Cell(0, 0), "\"\"\"");
+  EXPECT_EQ(table.Cell(1'000'000, 0), "x");
+}
+
+// ---- Against the reference reader ----
+
+std::string RandomText(std::mt19937& random, std::string_view alphabet, std::size_t longest) {
+  std::string text(random() % (longest + 1), '\0');
+  for (char& c : text) c = alphabet[random() % alphabet.size()];
+  return text;
+}
+
+void ExpectAsTheReferenceReads(const std::string& text) {
+  const Table table = TableOf(text);
+  const Lines expected = ReferenceCsv::Parse(text);
+  ASSERT_EQ(LinesOf(table), expected) << testing::PrintToString(text);
+  for (std::size_t row = 0; row < expected.size(); ++row) {
+    for (std::size_t column = 0; column < expected[row].size(); ++column) {
+      ASSERT_TRUE(table.CellEquals(row, column, expected[row][column])) << testing::PrintToString(text);
+    }
+  }
+}
+
+// Raw cells stand in the file one behind the other, with nothing but a separator between two of them.
+void ExpectRawCellsCoverTheFile(const std::string& text) {
+  const Table table = TableOf(text);
+  std::string joined;
+  for (std::size_t row = 0; table.ColumnCount() > 0 && row <= table.RowCount(); ++row) {
+    for (std::size_t column = 0; column < table.CellCount(row); ++column) {
+      const std::string_view raw = table.RawCell(row, column);
+      const auto begin = static_cast<std::size_t>(raw.data() - table.Bytes().data());
+      joined += text.substr(joined.size(), begin - joined.size());
+      ASSERT_THAT(joined, testing::AnyOf("", testing::EndsWith(","), testing::EndsWith("\n")));
+      joined += raw;
+    }
+  }
+  ASSERT_EQ(text.substr(joined.size()).find_first_not_of("\r\n"), std::string::npos)
+      << testing::PrintToString(text);
+}
+
+TEST(TableAgainstTheReference, ReadsShortRandomTextsAlike) {
+  std::mt19937 random(20'240'501);
+  for (int i = 0; i < 100'000 && !testing::Test::HasFatalFailure(); ++i) {
+    const std::string text = RandomText(random, "\"\",,\n\n\rab\x81\x5C\xFE\xBF", 24);
+    ExpectAsTheReferenceReads(text);
+    ExpectRawCellsCoverTheFile(text);
+  }
+}
+
+TEST(TableAgainstTheReference, ReadsLongTextsAlikeWhereverTheirCellsEnd) {
+  std::mt19937 random(7);
+  for (int i = 0; i < 3'000 && !testing::Test::HasFatalFailure(); ++i) {
+    ExpectAsTheReferenceReads(RandomText(random, "\",\n\rabcdefghijklmnopqrstuvwxyz\xB1\xEA", 300));
+  }
+}
+
+TEST(TableAgainstTheReference, ReadsBinaryJunkAlike) {
+  std::mt19937 random(3);
+  std::string everyByte;
+  for (int value = 0; value < 256; ++value) everyByte += static_cast<char>(value);
+  for (int i = 0; i < 200 && !testing::Test::HasFatalFailure(); ++i) {
+    ExpectAsTheReferenceReads(RandomText(random, everyByte, 5'000));
+  }
+}
+
+}  // namespace
+}  // namespace plateconfig::test

@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "platform/diagnostic_file.h"
+#include "support/environment.h"
+#include "support/temporary_folder.h"
+
+namespace plateconfig::test {
+namespace {
+
+class DiagnosticPlace : public testing::Test {
+ protected:
+  static bool Append(std::string_view text) {
+    DiagnosticFile file(Diagnostic::kRules);
+    file.Append(text);
+    return file.IsOpen();
+  }
+
+  TemporaryFolder folder_;
+  ScopedVariable state_{"XDG_STATE_HOME", std::nullopt};
+  ScopedVariable home_{"HOME", std::nullopt};
+};
+
+TEST_F(DiagnosticPlace, IsTheStateFolder) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.HostPath("deep/state"));
+  const ScopedVariable home("HOME", folder_.HostPath("home"));
+  EXPECT_TRUE(Append("x\n"));
+  EXPECT_EQ(ReadBytes(folder_.Path() / "deep/state/plateconfig/log.txt"), "x\n");
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path() / "home"));
+}
+
+TEST_F(DiagnosticPlace, IsBelowTheHomeFolderWithoutAStateFolder) {
+  const ScopedVariable home("HOME", folder_.Path().string());
+  EXPECT_TRUE(Append("x\n"));
+  EXPECT_EQ(ReadBytes(folder_.Path() / ".local/state/plateconfig/log.txt"), "x\n");
+}
+
+TEST_F(DiagnosticPlace, CountsAnEmptyVariableAsUnset) {
+  const ScopedVariable state("XDG_STATE_HOME", "");
+  EXPECT_FALSE(Append("x\n"));
+  const ScopedVariable home("HOME", folder_.Path().string());
+  EXPECT_TRUE(Append("x\n"));
+  EXPECT_TRUE(std::filesystem::exists(folder_.Path() / ".local/state/plateconfig/log.txt"));
+}
+
+TEST_F(DiagnosticPlace, IsNowhereWithNeitherVariable) {
+  EXPECT_FALSE(Append("x\n"));
+}
+
+TEST_F(DiagnosticPlace, IsNowhereWhenTheFolderCanNotBeMade) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.WriteBytes("file", "kept"));
+  EXPECT_FALSE(Append("x\n"));
+  EXPECT_EQ(ReadBytes(folder_.Path() / "file"), "kept");
+}
+
+TEST_F(DiagnosticPlace, IsNowhereWhenTheFilesNameIsTakenByAFolder) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  std::filesystem::create_directories(folder_.Path() / "plateconfig" / "log.txt");
+  EXPECT_FALSE(Append("x\n"));
+}
+
+TEST_F(DiagnosticPlace, HoldsFilesPrivateToTheUser) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  const mode_t before = umask(0);
+  EXPECT_TRUE(Append("x\n"));
+  umask(before);
+  struct stat status {};
+  ASSERT_EQ(stat((folder_.Path() / "plateconfig/log.txt").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777u, 0600u);
+}
+
+TEST_F(DiagnosticPlace, KeepsWhatAFileAlreadyHolds) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  folder_.WriteBytes("plateconfig/log.txt", "old\n");
+  EXPECT_TRUE(Append("new\n"));
+  EXPECT_EQ(ReadBytes(folder_.Path() / "plateconfig/log.txt"), "old\nnew\n");
+}
+
+TEST_F(DiagnosticPlace, ThatIsFullIsIgnored) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no full device here";
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  std::filesystem::create_directory(folder_.Path() / "plateconfig");
+  std::filesystem::create_symlink("/dev/full", folder_.Path() / "plateconfig" / "log.txt");
+  EXPECT_TRUE(Append(std::string(1'000'000, 'x')));
+}
+
+}  // namespace
+}  // namespace plateconfig::test

@@ -1,0 +1,166 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "config/read_config_file.h"
+#include "platform/file.h"
+#include "platform/posix_path.h"
+#include "support/gbk_text.h"
+#include "support/temporary_folder.h"
+
+namespace plateconfig::test {
+namespace {
+
+void WriteFile(const std::string& exactPath, std::string_view bytes) {
+  std::ofstream(exactPath, std::ios::binary) << bytes;
+}
+
+std::optional<std::string> Read(const std::string& path) {
+  const auto bytes = ReadWholeFile(path);
+  if (!bytes) return std::nullopt;
+  return std::string(bytes->View());
+}
+
+// ---- Separators ----
+
+TEST(PosixPathSeparators, AreTurnedIntoSlashes) {
+  EXPECT_EQ(WithForwardSlashes("C:\\a\\b/c\\"), "C:/a/b/c/");
+  EXPECT_EQ(WithForwardSlashes(""), "");
+  EXPECT_EQ(WithForwardSlashes(Gbk("\\标准\\表.csv")), Gbk("/标准/表.csv"));
+}
+
+TEST(PosixPathSeparators, AreNotTheSecondBytesOfCharacters) {
+  // 誠 診 謀 end with the byte of the backslash.
+  EXPECT_EQ(WithForwardSlashes(Gbk("誠\\診\\謀")), Gbk("誠/診/謀"));
+}
+
+TEST(PosixPathSeparators, FollowADamagedCharacter) {
+  EXPECT_EQ(WithForwardSlashes("\xFF\\a"), "\xFF/a");
+  EXPECT_EQ(WithForwardSlashes("a\\\xB1"), "a/\xB1");
+}
+
+TEST(PosixPathSeparators, LeadToTheFile) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("config/a/b.csv", "x");
+  const std::string path = folder.Path().string() + "\\config\\a\\b.csv";
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_EQ(Read(path), "x");
+  EXPECT_FALSE(FileExists(folder.Path().string() + "\\config\\b.csv"));
+}
+
+// ---- Names in two encodings ----
+
+TEST(PosixPathNames, InGbkFindAFileNamedInUtf8) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("標準誠/表.csv", "utf-8");
+  EXPECT_EQ(Read(folder.Path().string() + Gbk("\\標準誠\\表.csv")), "utf-8");
+}
+
+TEST(PosixPathNames, InGbkFindAFileOfExactlyTheseBytes) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path().string() + "/" + Gbk("誠.csv");
+  WriteFile(path, "gbk");
+  EXPECT_EQ(Read(path), "gbk");
+}
+
+TEST(PosixPathNames, OfExactlyTheseBytesComeFirst) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("表.csv", "utf-8");
+  const std::string path = folder.Path().string() + "/" + Gbk("表.csv");
+  EXPECT_EQ(Read(path), "utf-8");
+  WriteFile(path, "gbk");
+  EXPECT_EQ(Read(path), "gbk");
+}
+
+TEST(PosixPathNames, ThatExistInNeitherSpellingStayAsTheyAre) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path().string() + "/" + Gbk("誠.csv");
+  EXPECT_EQ(PosixPath(path), path);
+  EXPECT_FALSE(FileExists(path));
+}
+
+// ---- Files that are no ordinary files ----
+
+TEST(PosixFile, ThatIsAPipeIsReadToItsEnd) {
+  const TemporaryFolder folder;
+  const std::string path = folder.HostPath("pipe");
+  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  const std::string bytes(300'000, 'p');
+  std::thread writer([&] { WriteFile(path, bytes); });
+  EXPECT_EQ(Read(path), bytes);
+  writer.join();
+}
+
+TEST(PosixFile, WithoutRightsGivesNothingButExists) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("secret", "x");
+  std::filesystem::permissions(path, std::filesystem::perms::none);
+  EXPECT_TRUE(FileExists(path));
+  if (geteuid() == 0) GTEST_SKIP() << "root may read every file";
+  EXPECT_FALSE(ReadWholeFile(path));
+  EXPECT_FALSE(ReadConfigFile().OpenConfigFile(path));
+}
+
+TEST(PosixFile, OfFourGibibytesIsRefusedWithoutBeingRead) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("huge", "");
+  std::error_code error;
+  std::filesystem::resize_file(path, std::uintmax_t{1} << 32, error);  // Sparse: takes no space.
+  if (error) GTEST_SKIP() << "the file system holds no file of this size";
+  EXPECT_FALSE(ReadWholeFile(path));
+  EXPECT_FALSE(ReadConfigFile().OpenConfigFile(path));
+}
+
+#ifndef __SANITIZE_ADDRESS__  // Which ends the program when there is no memory.
+/// Lets the program have no more than this many bytes of addresses until the end of the test.
+class ScopedMemoryLimit {
+ public:
+  explicit ScopedMemoryLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_AS, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_AS, &limit);
+  }
+  ~ScopedMemoryLimit() { setrlimit(RLIMIT_AS, &before_); }
+  ScopedMemoryLimit(const ScopedMemoryLimit&) = delete;
+  ScopedMemoryLimit& operator=(const ScopedMemoryLimit&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+TEST(PosixFile, LargerThanTheMemoryIsATableThatCanNotBeOpened) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("huge", "");
+  std::filesystem::resize_file(path, std::uintmax_t{1} << 31);
+  const ScopedMemoryLimit limit(rlim_t{1} << 30);
+  ReadConfigFile reader;
+  EXPECT_FALSE(reader.OpenConfigFile(path));
+  EXPECT_TRUE(reader.GetColumnNames().empty());
+}
+#endif
+
+int LowestFreeDescriptor() {
+  const int descriptor = open("/dev/null", O_RDONLY);
+  close(descriptor);
+  return descriptor;
+}
+
+TEST(PosixFile, IsClosedAgainWhetherItCouldBeReadOrNot) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("file", "a\n1\n");
+  const int before = LowestFreeDescriptor();
+  ReadConfigFile reader;
+  EXPECT_TRUE(reader.OpenConfigFile(path));
+  EXPECT_EQ(LowestFreeDescriptor(), before);
+  EXPECT_FALSE(reader.OpenConfigFile(folder.Path().string()));
+  EXPECT_EQ(LowestFreeDescriptor(), before);
+}
+
+}  // namespace
+}  // namespace plateconfig::test

@@ -1,0 +1,106 @@
+#include <utility>
+
+#include "plateconfig/hole_fields.h"
+#include "plateconfig/hole_reader.h"
+#include "plateconfig/json_stream.h"
+#include "plateconfig/json_values.h"
+#include "plateconfig/language.h"
+
+namespace plateconfig {
+namespace {
+
+/// Reads one hole's object; every mistake is reported, and any of them makes the hole unusable.
+class HoleObject {
+ public:
+  HoleObject(const JsonNode& object, Reporter& reporter)
+      : object_(object), values_(reporter), reporter_(reporter) {}
+
+  std::optional<HoleInput> Read() {
+    input_.place = object_.place;
+    for (const auto& [name, node] : object_.members) ReadMember(name, node);
+    Require(object_, kHoleName.json);
+    return values_.AreGood() ? std::optional(std::move(input_)) : std::nullopt;
+  }
+
+ private:
+  void ReadMember(const std::string& name, const JsonNode& node) {
+    if (name == kHoleName.json) return values_.Read(node, input_.name);
+    for (std::size_t group = 0; group < kHoleGroupCount; ++group) {
+      if (name == kHoleGroupNames[group].json)
+        return ReadSegments(node, input_.hole.*kHoleGroups[group].segments);
+    }
+    WarnOfUnknown(name, node);
+  }
+
+  void ReadSegments(const JsonNode& node, std::vector<HoleInfo>& segments) {
+    if (!values_.IsArray(node)) return;
+    for (const JsonNode& item : node.items) {
+      if (!values_.IsObject(item)) continue;
+      HoleInfo& segment = segments.emplace_back();
+      for (const auto& [name, value] : item.members) ReadSegmentMember(name, value, segment);
+      Require(item, kSegmentColor.json);
+      for (const SegmentNumberField& field : kSegmentNumbers) {
+        if (field.isRequired) Require(item, field.name.json);
+      }
+    }
+  }
+
+  void ReadSegmentMember(const std::string& name, const JsonNode& node, HoleInfo& segment) {
+    if (name == kSegmentColor.json) return values_.Read(node, segment.color);
+    if (name == kSegmentOrigin) return ReadOrigin(node, segment.origin);
+    for (const SegmentNumberField& field : kSegmentNumbers) {
+      if (name == field.name.json) return values_.Read(node, segment.*field.value);
+    }
+    WarnOfUnknown(name, node);
+  }
+
+  void ReadOrigin(const JsonNode& node, NXOpen::Point3d& origin) {
+    std::vector<double> coordinates;
+    values_.Read(node, coordinates);
+    if (coordinates.size() != std::size(kCoordinates)) {
+      return values_.Refuse(node,
+                            Say("an origin has three coordinates: [x, y, z]", "原点应有三个坐标：[x, y, z]"));
+    }
+    for (std::size_t i = 0; i < coordinates.size(); ++i) origin.*kCoordinates[i].value = coordinates[i];
+  }
+
+  void WarnOfUnknown(const std::string& name, const JsonNode& node) {
+    reporter_.Warning(node.place,
+                      Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", name));
+  }
+
+  void Require(const JsonNode& object, std::string_view name) {
+    if (object.Find(name) == nullptr)
+      values_.Refuse(object, Say("\"{}\" is missing here", "这里缺少“{}”", name));
+  }
+
+  const JsonNode& object_;
+  JsonValues values_;
+  Reporter& reporter_;
+  HoleInput input_;
+};
+
+class JsonHoleReader : public HoleReader {
+ public:
+  JsonHoleReader(std::istream& in, const std::string& file, Reporter& reporter)
+      : objects_(in, file, reporter), reporter_(reporter) {}
+
+  std::optional<HoleInput> Next() override {
+    while (const std::optional<JsonNode> object = objects_.Next()) {
+      if (std::optional<HoleInput> hole = HoleObject(*object, reporter_).Read()) return hole;
+    }
+    return std::nullopt;
+  }
+
+ private:
+  JsonStream objects_;
+  Reporter& reporter_;
+};
+
+}  // namespace
+
+std::unique_ptr<HoleReader> ReadHolesFromJson(std::istream& in, const std::string& file, Reporter& reporter) {
+  return std::make_unique<JsonHoleReader>(in, file, reporter);
+}
+
+}  // namespace plateconfig

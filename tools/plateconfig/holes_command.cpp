@@ -1,0 +1,103 @@
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <optional>
+
+#include "plateconfig/command.h"
+#include "plateconfig/hole_answer.h"
+#include "plateconfig/hole_output.h"
+#include "plateconfig/hole_reader.h"
+#include "plateconfig/input_file.h"
+#include "plateconfig/json_output.h"
+#include "plateconfig/language.h"
+
+namespace plateconfig {
+namespace {
+
+struct HoleJob {
+  std::vector<std::string> typeFiles;  ///< UTF-8; "-" is standard input.
+  std::vector<std::string> files;      ///< UTF-8; "-" is standard input.
+  bool explains = false;
+};
+
+std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Session& session) {
+  std::vector<HoleTypeInput> types;
+  for (const std::string& file : job.typeFiles) {
+    const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
+      std::vector<HoleTypeInput> more = ReadHoleTypes(in, shownAs, session.reporter);
+      std::move(more.begin(), more.end(), std::back_inserter(types));
+      return more.size();
+    };
+    VisitInput(file, session, read,
+               Say("no hole type was read from this file", "没有从此文件读到任何孔类型"));
+  }
+  return types;
+}
+
+class HoleLoop {
+ public:
+  HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Session& session)
+      : job_(job), types_(types), session_(session) {
+    if (session.format == Format::kJson) array_.emplace(session.streams.out);
+  }
+
+  void VisitFile(const std::string& file) {
+    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+      const auto holes = ReadHoles(in, shownAs, session_.reporter);
+      std::size_t count = 0;
+      for (; const std::optional<HoleInput> hole = holes->Next(); ++count) {
+        progress.Step();
+        Visit(*hole);
+      }
+      return count;
+    };
+    VisitInput(file, session_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
+  }
+
+ private:
+  void Visit(const HoleInput& hole) {
+    const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
+    if (answer.BestCount() != 1) session_.reporter.CountFinding();
+    array_ ? array_->Add(HoleToJson(hole, answer, job_.explains))
+           : WriteHoleText(hole, answer, job_.explains, session_.streams.out);
+  }
+
+  const HoleJob& job_;
+  const std::vector<HoleTypeInput>& types_;
+  Session& session_;
+  std::optional<JsonArray> array_;
+};
+
+void RunHoles(const HoleJob& job, Session& session) {
+  const std::vector<HoleTypeInput> types = ReadTypeFiles(job, session);
+  HoleLoop loop(job, types, session);
+  for (const std::string& file : job.files) loop.VisitFile(file);
+}
+
+}  // namespace
+
+void AddHolesCommand(CLI::App& app, Verb& chosen) {
+  CLI::App* command = app.add_subcommand(
+      "holes", Say("list for each combined hole the types that it belongs to, with their scores, best first",
+                   "列出每个组合孔所属的类型及其得分，得分最高者在前"));
+  const auto job = std::make_shared<HoleJob>();
+  command
+      ->add_option("--types", job->typeFiles,
+                   Say("hole types: a CSV file (GBK or UTF-8) or a JSON file; may be given several times",
+                       "孔类型：CSV 文件（GBK 或 UTF-8）或 JSON 文件；可重复使用"))
+      ->type_name(Say("FILE", "文件"))
+      ->allow_extra_args(false)
+      ->required();
+  command->add_flag("--explain", job->explains,
+                    Say("add the verdict on each segment, and the types that refuse the hole",
+                        "同时说明每一段的判定，以及不接受此孔的类型"));
+  command
+      ->add_option("holes", job->files,
+                   Say("combined holes: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                       "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      ->type_name(Say("FILE", "文件"))
+      ->required();
+  command->callback([job, &chosen] { chosen = [job](Session& session) { RunHoles(*job, session); }; });
+}
+
+}  // namespace plateconfig
