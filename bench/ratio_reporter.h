@@ -16,6 +16,8 @@ namespace plateconfig::bench {
 
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
+  RatioReporter() : ConsoleReporter(OO_None) {}
+
   void ReportRuns(const std::vector<Run>& runs) override;
   void Finalize() override;
 

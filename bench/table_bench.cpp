@@ -130,10 +130,11 @@ void Register(const TableShape& shape, const char* wayName, Way way) {
 const bool kRegistered = [] {
   for (const TableShape& shape : TableShapes()) {
     Register(shape, "plateconfig", LoadWithReader);
-    Register(shape, "getline", LoadWithGetline);
     Register(shape, "read", Read);
     Register(shape, "scan", Scan);
   }
+  // Last of all: the memory that it gives back piece by piece would be at hand for the ways that come after it.
+  for (const TableShape& shape : TableShapes()) Register(shape, "getline", LoadWithGetline);
   return true;
 }();
 
