@@ -83,6 +83,9 @@ struct CommandLine {
     AddFolderCommand(app, verb);
     AddProcessCommand(app, verb);
     AddExplainCommand(app, verb);
+    AddShowCommand(app, verb);
+    AddSchemaCommand(app, verb);
+    AddTemplateCommand(app, verb);
   }
 
   CLI::App app;
