@@ -15,7 +15,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/file.h"
@@ -62,8 +61,14 @@ class Table {
  private:
   std::size_t LineCount() const { return rowBegins_.empty() ? 0 : rowBegins_.size() - 1; }
   void FindCells();
+  /// Notes the cells that begin behind the separators of the block at `at`; where to look on.
+  std::size_t FindCellsOfBlock(std::size_t at);
   void DropBlankLinesAtTheEnd();
   void HashColumnNames();
+  /// The slot that holds the first column of this name, or the empty one where it belongs.
+  std::size_t SlotOfColumn(std::string_view name) const;
+
+  static constexpr std::uint32_t kNoColumn = 0xFFFF'FFFF;
 
   FileBytes bytes_;
   // Where each cell begins, and one entry behind the last cell: a cell ends before the separator in front of
@@ -71,7 +76,9 @@ class Table {
   std::vector<std::uint32_t> cellBegins_;
   // The first cell of each line, and one entry behind the last line.
   std::vector<std::uint32_t> rowBegins_;
-  std::unordered_map<std::string, std::size_t> columns_;
+  // Open addressing over the header cells themselves, of each name the first: a map would copy every name. A
+  // power of two long, or empty without columns.
+  std::vector<std::uint32_t> columnSlots_;
 };
 
 }  // namespace plateconfig

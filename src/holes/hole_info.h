@@ -8,7 +8,7 @@
 
 #include <cstddef>
 
-#include "NXOpen/ugmath.hxx"
+#include <NXOpen/ugmath.hxx>
 
 struct HoleInfo {
   NXOpen::Point3d origin;       ///< Part coordinates, mm.

@@ -16,6 +16,9 @@ namespace plateconfig {
 /// Cells of one column, top to bottom (GBK).
 using Cells = std::vector<std::string>;
 
+/// What the value of a cell is, for whoever hands it on.
+enum class CellType { kNumber, kInteger, kFlag, kText };
+
 /// Kept: the letters differ from key to key, and tables in use rely on each key's own.
 enum class FlagLetters {
   kYesIfUpperY,  ///< Yes for exactly Y.

@@ -9,11 +9,11 @@
 // or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
 //
 //   std::string_view Name() const;                             what the documentation calls it
-//   void Read(Record& record, const Cells& cells) const;
-//   Cells Print(const Record& record) const;                   one cell, or those of a list
-//   Cells WhenAbsent() const;
-//   bool Accepts(const std::string& cell) const;               whether a row of several columns may hold this
-//   cell
+//   CellType kType; bool kIsList;                              what a value is, and whether the column is a
+//   list bool EmptyIsAbsent() const;                                whether an empty first cell counts as no
+//   column void Read(Record& record, const Cells& cells) const; Cells Print(const Record& record) const; one
+//   cell, or those of a list Cells WhenAbsent() const; bool Accepts(const std::string& cell) const; whether a
+//   row of several columns may hold this cell
 
 #include <span>
 #include <string>
@@ -27,14 +27,29 @@
 
 namespace plateconfig {
 
-/// What most kinds ask of a cell that decides on its row.
-struct FilledCell {
+/// What most kinds have in common.
+template <CellType type, bool isList = false>
+struct KindOf {
+  static constexpr CellType kType = type;
+  static constexpr bool kIsList = isList;
+  static bool EmptyIsAbsent() { return false; }
   static bool Accepts(const std::string& cell) { return !cell.empty(); }
 };
 
+/// What an empty first cell means.
+enum class EmptyCell {
+  kCounts,    ///< It is a cell: 0, or an empty text.
+  kIsAbsent,  ///< As if there were no column.
+};
+
+/// True when the cells say no more than an absent column.
+inline bool IsAbsent(const Cells& cells, EmptyCell emptyCell) {
+  return cells.empty() || (emptyCell == EmptyCell::kIsAbsent && cells.front().empty());
+}
+
 /// A double.
 template <typename Record>
-struct Number : FilledCell {
+struct Number : KindOf<CellType::kNumber> {
   constexpr explicit Number(double Record::*of, double absent = 0) : field(of), whenAbsent(absent) {}
 
   double Record::*field;
@@ -49,13 +64,10 @@ struct Number : FilledCell {
   Cells WhenAbsent() const { return {NumberText(whenAbsent)}; }
 };
 
-/// What an empty first cell of an integer means.
-enum class EmptyCell { kIsZero, kIsAbsent };
-
 /// An int.
 template <typename Record>
-struct Integer : FilledCell {
-  constexpr explicit Integer(int Record::*of, int absent = 0, EmptyCell empty = EmptyCell::kIsZero)
+struct Integer : KindOf<CellType::kInteger> {
+  constexpr explicit Integer(int Record::*of, int absent = 0, EmptyCell empty = EmptyCell::kCounts)
       : field(of), whenAbsent(absent), emptyCell(empty) {}
 
   int Record::*field;
@@ -63,32 +75,33 @@ struct Integer : FilledCell {
   EmptyCell emptyCell;
 
   std::string_view Name() const {
-    return emptyCell == EmptyCell::kIsZero ? "integer" : "integer; empty = no column";
+    return emptyCell == EmptyCell::kCounts ? "integer" : "integer; empty = no column";
   }
+  bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
-    record.*field = IsAbsent(cells) ? whenAbsent : ParseInt(cells.front());
+    record.*field = IsAbsent(cells, emptyCell) ? whenAbsent : ParseInt(cells.front());
   }
   Cells Print(const Record& record) const { return {std::to_string(record.*field)}; }
   Cells WhenAbsent() const { return {std::to_string(whenAbsent)}; }
-
- private:
-  bool IsAbsent(const Cells& cells) const {
-    return cells.empty() || (emptyCell == EmptyCell::kIsAbsent && cells.front().empty());
-  }
 };
 
 /// A text, the cell as it stands.
 template <typename Record>
-struct Text : FilledCell {
-  constexpr explicit Text(std::string Record::*of, std::string_view absent = {})
-      : field(of), whenAbsent(absent) {}
+struct Text : KindOf<CellType::kText> {
+  constexpr explicit Text(std::string Record::*of, std::string_view absent = {},
+                          EmptyCell empty = EmptyCell::kCounts)
+      : field(of), whenAbsent(absent), emptyCell(empty) {}
 
   std::string Record::*field;
   std::string_view whenAbsent;  // GBK
+  EmptyCell emptyCell;
 
-  static std::string_view Name() { return "text"; }
+  std::string_view Name() const {
+    return emptyCell == EmptyCell::kCounts ? "text" : "text; empty = no column";
+  }
+  bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
-    record.*field = cells.empty() ? std::string(whenAbsent) : cells.front();
+    record.*field = IsAbsent(cells, emptyCell) ? std::string(whenAbsent) : cells.front();
   }
   Cells Print(const Record& record) const { return {record.*field}; }
   Cells WhenAbsent() const { return {std::string(whenAbsent)}; }
@@ -96,7 +109,7 @@ struct Text : FilledCell {
 
 /// A yes or no, each with the letters that it knows.
 template <typename Record>
-struct Flag : FilledCell {
+struct Flag : KindOf<CellType::kFlag> {
   constexpr Flag(bool Record::*of, bool absent, FlagLetters known)
       : field(of), whenAbsent(absent), letters(known) {}
 
@@ -114,7 +127,7 @@ struct Flag : FilledCell {
 
 /// A text style; without six fields the default style.
 template <typename Record, typename NoteStyle>
-struct Style : FilledCell {
+struct Style : KindOf<CellType::kText> {
   constexpr explicit Style(NoteStyle Record::*of) : field(of) {}
 
   NoteStyle Record::*field;
@@ -129,7 +142,7 @@ struct Style : FilledCell {
 
 /// A list of numbers that runs down its column. Reading appends; nothing is sorted, duplicates stay.
 template <typename Record>
-struct IntList : FilledCell {
+struct IntList : KindOf<CellType::kInteger, true> {
   constexpr IntList(std::vector<int> Record::*of, TakenCells cells, std::span<const int> none = {})
       : field(of), taken(cells), whenNone(none) {}
 
@@ -150,7 +163,7 @@ struct IntList : FilledCell {
 
 /// A list of texts that runs down its column, one per data row, empty cells included.
 template <typename Record>
-struct TextList : FilledCell {
+struct TextList : KindOf<CellType::kText, true> {
   constexpr explicit TextList(std::vector<std::string> Record::*of) : field(of) {}
 
   std::vector<std::string> Record::*field;
@@ -163,7 +176,7 @@ struct TextList : FilledCell {
 
 /// A list of numbers inside one cell, joined by "_". Every piece counts; one that is no number is 0.
 template <typename Record>
-struct JoinedInts : FilledCell {
+struct JoinedInts : KindOf<CellType::kText> {
   constexpr explicit JoinedInts(std::vector<int> Record::*of) : field(of) {}
 
   std::vector<int> Record::*field;
@@ -178,7 +191,7 @@ struct JoinedInts : FilledCell {
 
 /// Two bounds inside one cell, min_max; any other number of pieces leaves them as they are.
 template <typename Record>
-struct Range {
+struct Range : KindOf<CellType::kText> {
   constexpr Range(double Record::*least, double Record::*most) : minimum(least), maximum(most) {}
 
   double Record::*minimum;

@@ -37,9 +37,12 @@ class Snapshot {
   template <typename AnyKey>
   static ColumnSchema Describe(const AnyKey& key, bool isRowColumn) {
     const auto describe = [&](const auto& kind) {
-      return ColumnSchema{
-          key.column, kind.Name(), key.unit, key.help, isRowColumn ? Cells() : kind.WhenAbsent(),
-          isRowColumn};
+      ColumnSchema column{std::string(key.column), kind.Name(), kind.kType, key.unit, key.help, {}};
+      if (!isRowColumn) column.whenAbsent = kind.WhenAbsent();
+      column.isList = kind.kIsList;
+      column.isRowColumn = isRowColumn;
+      column.emptyIsAbsent = kind.EmptyIsAbsent();
+      return column;
     };
     return std::visit(describe, key.kind);
   }
@@ -104,26 +107,27 @@ Snapshot FurtherTable(const std::string* path) {
 struct Role {
   std::string_view name;
   WhenUnreadable whenUnreadable;
+  bool isAlwaysRead;
   Snapshot (*take)(const std::string* path);
 };
 
 using enum WhenUnreadable;
 
 constexpr Role kRoles[] = {
-    {"layout-defaults", kChangesNothing, LayoutDefaults},
-    {"custom-settings", kCountsAsEmpty, CustomSettings},
-    {"frame-info", kCountsAsEmpty, FrameInfo},
-    {"thread-hole-chamfer", kCountsAsEmpty, ThreadHoleAndChamfer},
-    {"system-settings", kCountsAsEmpty, SystemSettings},
-    {"layers", kCountsAsEmpty, LayerLists},
-    {"texts", kCountsAsEmpty, FurtherTable<&SystemDefault::InitialText, WalkTexts>},
-    {"connect-string", kThrowsIfMissing,
+    {"layout-defaults", kChangesNothing, false, LayoutDefaults},
+    {"custom-settings", kCountsAsEmpty, true, CustomSettings},
+    {"frame-info", kCountsAsEmpty, true, FrameInfo},
+    {"thread-hole-chamfer", kCountsAsEmpty, false, ThreadHoleAndChamfer},
+    {"system-settings", kCountsAsEmpty, true, SystemSettings},
+    {"layers", kCountsAsEmpty, true, LayerLists},
+    {"texts", kCountsAsEmpty, false, FurtherTable<&SystemDefault::InitialText, WalkTexts>},
+    {"connect-string", kThrowsIfMissing, false,
      FurtherTable<&SystemDefault::InitialConnectString, WalkConnectString>},
-    {"triangle-symbol", kCountsAsEmpty,
+    {"triangle-symbol", kCountsAsEmpty, false,
      FurtherTable<&SystemDefault::InitialTriangleSymbol, WalkTriangleSymbol>},
-    {"bom", kChangesNothing, FurtherTable<&SystemDefault::InitialBomConfigFile, WalkBom>},
-    {"dwg-folder", kCountsAsEmpty, FurtherTable<&SystemDefault::InitialDwgFolder, WalkDwgFolder>},
-    {"replace-content", kCountsAsEmpty,
+    {"bom", kChangesNothing, false, FurtherTable<&SystemDefault::InitialBomConfigFile, WalkBom>},
+    {"dwg-folder", kCountsAsEmpty, false, FurtherTable<&SystemDefault::InitialDwgFolder, WalkDwgFolder>},
+    {"replace-content", kCountsAsEmpty, false,
      FurtherTable<&SystemDefault::InitialReplaceContent, WalkReplaceContent>},
 };
 
@@ -138,7 +142,7 @@ std::vector<Cells> Take(std::string_view role, const std::string* path) {
 std::vector<TableSchema> SettingsSchema() {
   std::vector<TableSchema> tables;
   for (const Role& role : kRoles)
-    tables.push_back({role.name, role.whenUnreadable, role.take(nullptr).columns});
+    tables.push_back({role.name, role.whenUnreadable, role.isAlwaysRead, role.take(nullptr).columns});
   return tables;
 }
 

@@ -16,12 +16,16 @@
 namespace plateconfig {
 
 struct ColumnSchema {
-  std::string_view column;  ///< GBK
-  std::string_view kind;    ///< What its cells hold, English.
-  std::string_view unit;    ///< UTF-8; empty when there is none.
-  std::string_view help;    ///< English
-  Cells whenAbsent;         ///< Cells (GBK) that say what an absent column says; none for an empty list.
-  bool isRowColumn;         ///< One field of the records that run down the rows.
+  std::string column;          ///< GBK
+  std::string_view kind;       ///< What its cells hold, English.
+  CellType type;               ///< What one value is.
+  std::string_view unit;       ///< UTF-8; empty when there is none.
+  std::string_view help;       ///< English
+  Cells whenAbsent;            ///< Cells (GBK) that say what an absent column says; none for an empty list.
+  bool isList = false;         ///< One setting whose values run down the rows.
+  bool isRowColumn = false;    ///< One field of the records that run down the rows.
+  bool emptyIsAbsent = false;  ///< An empty first cell counts as no column.
+  bool isPlaceholder = false;  ///< Stands for columns whose names the user chooses.
 };
 
 /// What a table that can not be opened does.
@@ -34,6 +38,7 @@ enum class WhenUnreadable {
 struct TableSchema {
   std::string_view role;
   WhenUnreadable whenUnreadable;
+  bool isAlwaysRead;  ///< A constructor reads it: without a file it counts as one that is missing.
   std::vector<ColumnSchema> columns;  ///< In the order of reading.
 };
 

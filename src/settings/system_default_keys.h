@@ -113,7 +113,7 @@ inline constexpr SystemKey kBomKeys[] = {
 
 // Output folder.
 inline constexpr SystemKey kDwgFolderKeys[] = {
-    {"出图的路径"_gbk, Text{&SystemDefault::dwgOutputFolder}, "", "folder for exported drawings; empty = the user's desktop"},
+    {"出图的路径"_gbk, Text{&SystemDefault::dwgOutputFolder, {}, EmptyCell::kIsAbsent}, "", "folder for exported drawings; without one, the user's desktop"},
 };
 
 // Decimals and replaced texts.

@@ -1,30 +1,32 @@
 #include "plateconfig/cell_texts.h"
 
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
 
 namespace plateconfig {
 
 std::string NotANumber(const std::string& text) {
   return Say("\"{}\" is not a number; write it like 450 or 12.5",
-             "“{}”不是数字；请写成 450 或 12.5 这样的数字", text);
+             "“{}”不是数字；请写成 450 或 12.5 这样的数字", ShownText(text));
 }
 
 std::string NotAnInteger(const std::string& text) {
-  return Say("\"{}\" is not a whole number; write it like 12", "“{}”不是整数；请写成 12 这样的整数", text);
+  return Say("\"{}\" is not a whole number; write it like 12", "“{}”不是整数；请写成 12 这样的整数",
+             ShownText(text));
 }
 
 std::string NotIntegers(const std::string& text) {
   return Say("\"{}\" is not a list of whole numbers; write it like 36_186",
-             "“{}”不是整数列表；请写成 36_186 这样的形式", text);
+             "“{}”不是整数列表；请写成 36_186 这样的形式", ShownText(text));
 }
 
 std::string NotNumbers(const std::string& text) {
   return Say("\"{}\" is not a list of numbers; write it like 6_8.5",
-             "“{}”不是数字列表；请写成 6_8.5 这样的形式", text);
+             "“{}”不是数字列表；请写成 6_8.5 这样的形式", ShownText(text));
 }
 
 std::string NotYesNo(const std::string& text) {
-  return Say("\"{}\" is neither Y nor N", "“{}”既不是 Y 也不是 N", text);
+  return Say("\"{}\" is neither Y nor N", "“{}”既不是 Y 也不是 N", ShownText(text));
 }
 
 }  // namespace plateconfig

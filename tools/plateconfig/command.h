@@ -29,6 +29,9 @@ void AddFolderCommand(CLI::App& app, Verb& chosen);
 void AddProcessCommand(CLI::App& app, Verb& chosen);
 void AddExplainCommand(CLI::App& app, Verb& chosen);
 void AddHolesCommand(CLI::App& app, Verb& chosen);
+void AddShowCommand(CLI::App& app, Verb& chosen);
+void AddSchemaCommand(CLI::App& app, Verb& chosen);
+void AddTemplateCommand(CLI::App& app, Verb& chosen);
 
 /// What the help says of the help option.
 std::string HelpDescription();

@@ -84,6 +84,9 @@ struct CommandLine {
     AddProcessCommand(app, verb);
     AddExplainCommand(app, verb);
     AddHolesCommand(app, verb);
+    AddShowCommand(app, verb);
+    AddSchemaCommand(app, verb);
+    AddTemplateCommand(app, verb);
   }
 
   CLI::App app;

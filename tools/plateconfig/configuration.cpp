@@ -1,10 +1,14 @@
 #include "plateconfig/configuration.h"
 
+#include <algorithm>
+
 #include "config/configuration_index.h"
 #include "config/table.h"
 #include "plateconfig/console.h"
 #include "plateconfig/json_node.h"
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
@@ -15,6 +19,27 @@ constexpr const char* kManifestName = "tables.json";
 
 TableFile FromCommandLine(const std::string& path) {
   return {HostPathFromUtf8(path), path};
+}
+
+std::string_view WithoutByteOrderMark(std::string_view utf8) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  return utf8.starts_with(kMark) ? utf8.substr(kMark.size()) : utf8;
+}
+
+std::string UnknownRole(const std::string& name) {
+  const std::string similar = MostSimilarName(name, {kRoleNames.begin(), kRoleNames.end()});
+  const std::string shown = ShownText(name);
+  if (similar.empty()) return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", shown);
+  return Say("\"{}\" is no role and is ignored; did you mean \"{}\"?", "“{}”不是角色，已忽略；是否应为“{}”？",
+             shown, similar);
+}
+
+/// True for text with Chinese in UTF-8, also where the same bytes happen to be GBK of other characters.
+/// Hardly any GBK text has the form of characters of three bytes throughout.
+bool IsChineseUtf8(std::string_view bytes) {
+  constexpr unsigned char kFirstOfThree = 0xE0;
+  const auto beginsThree = [](char c) { return static_cast<unsigned char>(c) >= kFirstOfThree; };
+  return IsValidUtf8(bytes) && std::any_of(bytes.begin(), bytes.end(), beginsThree);
 }
 
 bool EndsWithSeparator(const std::string& path) {
@@ -76,8 +101,13 @@ void Configuration::ReadManifest() {
                         "无法读取此清单（它说明各个文件的角色）"));
     return;
   }
+  if (!IsValidUtf8(bytes->View())) {
+    reporter_.Error({manifest.shownAs},
+                    Say("this manifest is not UTF-8; save it as UTF-8", "此清单不是 UTF-8；请存为 UTF-8"));
+    return;
+  }
   JsonNode root;
-  if (!ParseJson(bytes->View(), {manifest.shownAs, 1, 1}, reporter_, root)) return;
+  if (!ParseJson(WithoutByteOrderMark(bytes->View()), {manifest.shownAs, 1, 1}, reporter_, root)) return;
   if (root.kind != JsonNode::Kind::kObject) {
     reporter_.Error(root.place, Say("the manifest should be an object { role: file name, … }",
                                     "清单应当是一个对象 { 角色: 文件名, … }"));
@@ -85,7 +115,7 @@ void Configuration::ReadManifest() {
   for (const auto& [name, file] : root.members) {
     const auto role = FindRole(name);
     if (!role) {
-      reporter_.Warning(file.place, Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", name));
+      reporter_.Warning(file.place, UnknownRole(name));
     } else if (file.kind != JsonNode::Kind::kString) {
       reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",
                                       "角色 {} 的文件名应当是带引号的文本", name));
@@ -105,6 +135,12 @@ void CheckTable(const TableFile& file, const std::string& consequence, Reporter&
     reporter.Error({file.shownAs}, Say("this table can not be read; {}", "无法读取此表；{}", consequence));
   } else if (table->ColumnCount() == 0) {
     reporter.Warning({file.shownAs}, Say("this table is empty; {}", "此表是空的；{}", consequence));
+  } else if (IsChineseUtf8(table->Bytes())) {
+    reporter.Warning(
+        {file.shownAs, 1, 1},
+        Say("this table is UTF-8, not GBK, so its Chinese names are not found; save it as CSV in"
+            " GBK (code page 936)",
+            "此表是 UTF-8 而不是 GBK 编码，因此找不到其中的中文名称；请存为 GBK（代码页 936）的 CSV"));
   } else if (!IsValidGbk(table->Bytes())) {
     reporter.Warning({file.shownAs, 1, 1},
                      Say("this table is not GBK, so its Chinese names are not found; save it as CSV in GBK"

@@ -5,6 +5,7 @@
 #include "config/table.h"
 #include "plateconfig/language.h"
 #include "text/gbk.h"
+#include "text/gbk_scan.h"
 
 namespace plateconfig {
 namespace {
@@ -60,9 +61,15 @@ Table AsTable(const std::string& row) {
   return Table(std::move(bytes));
 }
 
-std::size_t CountCharacters(std::string_view utf8) {
+std::size_t CountUtf8Characters(std::string_view utf8) {
   return static_cast<std::size_t>(
       std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+std::size_t CountGbkCharacters(std::string_view gbk) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < gbk.size(); at += GbkCharLength(gbk, at)) ++count;
+  return count;
 }
 
 }  // namespace
@@ -84,9 +91,8 @@ CsvStream::CsvStream(std::istream& in, const std::string& file, Reporter& report
     : in_(in), file_(file), reporter_(reporter) {}
 
 std::optional<CsvRow> CsvStream::ReadHeader() {
-  std::optional<RawRow> raw = TakeRaw();
+  const std::optional<RawRow> raw = TakeRaw();
   if (!raw) return std::nullopt;
-  if (raw->bytes.starts_with(kByteOrderMark)) raw->bytes.erase(0, kByteOrderMark.size());
   if (IsValidUtf8(raw->bytes)) return Decode(*raw);
   encoding_ = Encoding::kGbk;
   if (IsValidGbk(raw->bytes)) return Decode(*raw);
@@ -111,6 +117,7 @@ std::optional<std::string> CsvStream::TakeLine() {
   } else if (!std::getline(in_, line)) {
     return std::nullopt;
   }
+  if (line_ == 0 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
   ++line_;
   return line;
 }
@@ -139,8 +146,9 @@ std::optional<CsvStream::RawRow> CsvStream::TakeRaw() {
 
 /// Passes over the first line of a row whose quote is never closed and gives the lines behind it back.
 void CsvStream::GiveUp(RawRow& row, std::size_t quote) {
-  reporter_.Error(PlaceAt(row, quote), Say("a quote opens here and is never closed; this row is passed over",
-                                           "此处的引号没有结束；本行被跳过"));
+  const Place place = Behind({file_, row.line, 1}, std::string_view(row.bytes).substr(0, quote));
+  reporter_.Error(place, Say("a quote opens here and is never closed; this row is passed over",
+                             "此处的引号没有结束；本行被跳过"));
   const std::size_t firstEnd = row.bytes.find('\n');
   if (firstEnd == std::string::npos) return;
   std::deque<std::string> lines;
@@ -163,21 +171,26 @@ std::optional<CsvRow> CsvStream::Decode(const RawRow& raw) {
   }
   const Table table = AsTable(raw.bytes);
   CsvRow row{rowNumber_, {}};
+  Place place{file_, raw.line, 1};
+  const char* reached = table.Bytes().data();
   for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
-    const std::string_view cell = table.RawCell(0, column);
-    const auto offset = static_cast<std::size_t>(cell.data() - table.Bytes().data());
-    row.cells.push_back({ToUtf8(table.Cell(0, column)).value_or(""), PlaceAt(raw, offset)});
+    const char* const begin = table.RawCell(0, column).data();
+    place = Behind(place, {reached, static_cast<std::size_t>(begin - reached)});
+    reached = begin;
+    row.cells.push_back({ToUtf8(table.Cell(0, column)).value_or(""), place});
   }
+  if (row.cells.empty()) row.cells.push_back({"", place});
   return row;
 }
 
-Place CsvStream::PlaceAt(const RawRow& raw, std::size_t offset) const {
-  const std::string_view before = std::string_view(raw.bytes).substr(0, offset);
-  const std::size_t lineBegin = before.rfind('\n') + 1;  // 0 when there is no line feed before.
-  const std::string_view lineBefore = before.substr(lineBegin);
-  const std::string utf8 = encoding_ == Encoding::kUtf8 ? std::string(lineBefore) : GbkToUtf8(lineBefore);
-  const auto linesBefore = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-  return {file_, raw.line + linesBefore, CountCharacters(utf8) + 1};
+Place CsvStream::Behind(Place place, std::string_view bytes) const {
+  if (const std::size_t lineEnd = bytes.rfind('\n'); lineEnd != std::string_view::npos) {
+    place.line += static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+    place.column = 1;
+    bytes.remove_prefix(lineEnd + 1);
+  }
+  place.column += encoding_ == Encoding::kUtf8 ? CountUtf8Characters(bytes) : CountGbkCharacters(bytes);
+  return place;
 }
 
 std::optional<std::string> CsvStream::ToUtf8(std::string_view bytes) const {

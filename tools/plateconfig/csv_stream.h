@@ -58,7 +58,8 @@ class CsvStream {
   std::optional<RawRow> TakeRaw();
   void GiveUp(RawRow& row, std::size_t quote);
   std::optional<CsvRow> Decode(const RawRow& raw);
-  Place PlaceAt(const RawRow& raw, std::size_t offset) const;
+  /// The place behind `bytes`, which begin at `place`.
+  Place Behind(Place place, std::string_view bytes) const;
   std::optional<std::string> ToUtf8(std::string_view bytes) const;
 
   std::istream& in_;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
 
 namespace plateconfig {
 namespace {
@@ -117,9 +118,13 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
     open_.back().members.emplace_back(std::move(name), JsonNode());
     return true;
   }
-  bool parse_error(std::size_t, const std::string& near, const nlohmann::detail::exception&) override {
-    const std::string shown = near.empty() ? "" : " \"" + near + "\"";
-    reporter_.Error(tracker_.Token(), Say("this is not JSON here:{}", "这里不符合 JSON 语法：{}", shown));
+  bool parse_error(std::size_t, const std::string& near, const nlohmann::detail::exception& error) override {
+    constexpr int kNumberOverflow = 406;
+    const std::string shown = ShownText(near);
+    reporter_.Error(tracker_.Token(),
+                    error.id == kNumberOverflow
+                        ? Say("this number is too large: {}", "数字过大：{}", shown)
+                        : Say("this is not JSON here: \"{}\"", "这里不符合 JSON 语法：“{}”", shown));
     return false;
   }
 

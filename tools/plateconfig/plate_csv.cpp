@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <functional>
+#include <set>
 #include <utility>
 
 #include "plateconfig/cell_texts.h"
@@ -7,6 +7,7 @@
 #include "plateconfig/language.h"
 #include "plateconfig/plate_fields.h"
 #include "plateconfig/plate_reader.h"
+#include "plateconfig/shown_text.h"
 #include "plateconfig/strict_values.h"
 
 namespace plateconfig {
@@ -28,7 +29,7 @@ StoreCell StoreNumber(const PlateNumberField& field) {
   return [&field](const std::string& text, PlateInput& input) -> std::string {
     const auto value = StrictNumber(text);
     if (!value) return NotANumber(text);
-    if (!Allows(field, *value)) return Say("{} is too small", "{} 太小", text);
+    if (!Allows(field, *value)) return Say("{} is too small", "{} 太小", ShownText(text));
     input.plate.*field.value = *value;
     return {};
   };
@@ -132,33 +133,26 @@ class CsvPlateReader : public PlateReader {
  private:
   void TakeColumn(const CsvRow& header, std::size_t column) {
     const CsvCell& cell = header.cells[column];
-    stores_.push_back(IsFirst(header, column) ? FindStore(cell.text, vocabulary_) : StoreCell());
+    const bool isFirst = names_.insert(cell.text).second;
+    stores_.push_back(isFirst ? FindStore(cell.text, vocabulary_) : StoreCell());
     if (stores_.back() || cell.text.empty()) return;
-    reporter_.Warning(cell.place, CellName(column, header.number) + ": " + IgnoredColumn(header, column));
+    reporter_.Warning(cell.place, CellName(column, header.number) + ": " + IgnoredColumn(cell.text, isFirst));
   }
 
-  static bool IsFirst(const CsvRow& header, std::size_t column) {
-    for (std::size_t before = 0; before < column; ++before) {
-      if (header.cells[before].text == header.cells[column].text) return false;
-    }
-    return true;
-  }
-
-  std::string IgnoredColumn(const CsvRow& header, std::size_t column) const {
-    const std::string& name = header.cells[column].text;
-    if (!IsFirst(header, column))
-      return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", name);
+  std::string IgnoredColumn(const std::string& name, bool isFirst) const {
+    const std::string shown = ShownText(name);
+    if (!isFirst) return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", shown);
     const std::string similar = vocabulary_.Suggest(name, PlateColumns());
-    if (similar.empty()) return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", name);
+    if (similar.empty())
+      return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", shown);
     return Say("the column {} is not known and is ignored; did you mean {}?",
-               "未知的列 {}，已忽略；是否应为 {}？", name, similar);
+               "未知的列 {}，已忽略；是否应为 {}？", shown, similar);
   }
 
   bool HasRequiredColumns(const CsvRow& header) {
     bool hasAll = true;
     for (const std::string_view name : RequiredColumns()) {
-      const auto isName = [&](const CsvCell& cell) { return cell.text == name; };
-      if (std::any_of(header.cells.begin(), header.cells.end(), isName)) continue;
+      if (names_.contains(std::string(name))) continue;
       reporter_.Error(header.cells.front().place,
                       Say("the column {} is missing; no plate can be read without it",
                           "缺少列 {}，无法读取任何板", name));
@@ -190,6 +184,7 @@ class CsvPlateReader : public PlateReader {
   CsvStream rows_;
   const PlateVocabulary& vocabulary_;
   Reporter& reporter_;
+  std::set<std::string> names_;    ///< Of the columns.
   std::vector<StoreCell> stores_;  ///< One per column; empty for a column that is ignored.
   bool isUsable_ = false;
 };

@@ -11,6 +11,13 @@ std::vector<std::string_view> PlateColumns() {
   return columns;
 }
 
+std::vector<std::string_view> PlateMembers() {
+  std::vector<std::string_view> members = {kPlateName.json, kFaceColors.json, kFeatures, kCustomProcesses};
+  for (const auto& field : kPlateNumbers) members.push_back(field.json);
+  for (const auto& field : kPlateIntegers) members.push_back(field.json);
+  return members;
+}
+
 void NormalizeFaceColors(Plate& plate) {
   auto& colors = plate.faceColors;
   std::sort(colors.begin(), colors.end());

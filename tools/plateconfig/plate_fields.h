@@ -54,6 +54,9 @@ inline bool Allows(const PlateNumberField& field, double value) {
 /// Every field's column, for looking names up.
 std::vector<std::string_view> PlateColumns();
 
+/// Every member of a plate's object, for looking names up.
+std::vector<std::string_view> PlateMembers();
+
 /// Sorts the face colours and drops duplicates, as the evaluation wants them.
 void NormalizeFaceColors(Plate& plate);
 

@@ -1,3 +1,4 @@
+#include <set>
 #include <utility>
 
 #include "plateconfig/json_stream.h"
@@ -5,6 +6,8 @@
 #include "plateconfig/language.h"
 #include "plateconfig/plate_fields.h"
 #include "plateconfig/plate_reader.h"
+#include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
 
 namespace plateconfig {
 namespace {
@@ -17,7 +20,15 @@ class PlateObject {
 
   std::optional<PlateInput> Read() {
     plate_.place = object_.place;
-    for (const auto& [name, node] : object_.members) ReadMember(name, node);
+    std::set<std::string_view> names;
+    for (const auto& [name, node] : object_.members) {
+      if (names.insert(name).second) {
+        ReadMember(name, node);
+      } else {
+        reporter_.Warning(node.place, Say("a second member \"{}\"; the first one counts",
+                                          "重复的成员“{}”；以第一个为准", ShownText(name)));
+      }
+    }
     RequireMembers();
     NormalizeFaceColors(plate_.plate);
     return values_.AreGood() ? std::optional(std::move(plate_)) : std::nullopt;
@@ -25,13 +36,30 @@ class PlateObject {
 
  private:
   void ReadMember(const std::string& name, const JsonNode& node) {
-    if (name == kPlateName.json) return values_.Read(node, plate_.name);
+    if (name == kPlateName.json) return ReadName(node);
     if (name == kFaceColors.json) return values_.Read(node, plate_.plate.faceColors);
     if (name == kFeatures) return ReadFeatures(node);
     if (name == kCustomProcesses) return ReadCustomProcesses(node);
     if (ReadNumber(name, node) || ReadInteger(name, node)) return;
-    reporter_.Warning(node.place,
-                      Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", name));
+    WarnOfUnknownMember(name, node);
+  }
+
+  void WarnOfUnknownMember(const std::string& name, const JsonNode& node) {
+    const std::string similar = MostSimilarName(name, PlateMembers());
+    const std::string shown = ShownText(name);
+    reporter_.Warning(
+        node.place,
+        similar.empty()
+            ? Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", shown)
+            : Say("the member \"{}\" is not known and is ignored; did you mean \"{}\"?",
+                  "未知的成员“{}”，已忽略；是否应为“{}”？", shown, similar));
+  }
+
+  void ReadName(const JsonNode& node) {
+    values_.Read(node, plate_.name);
+    if (node.kind == JsonNode::Kind::kString && node.text.empty()) {
+      values_.Refuse(node, Say("the plate has no name", "板没有名称"));
+    }
   }
 
   bool ReadNumber(const std::string& name, const JsonNode& node) {
@@ -98,11 +126,19 @@ class PlateObject {
   }
 
   void WarnOfUnknown(const std::string& name, const JsonNode& node) {
+    if (const Feature* feature = vocabulary_.Find(name)) {
+      const bool isCustom = feature->kind == FeatureKind::kCustomProcess;
+      reporter_.Warning(node.place,
+                        Say("\"{}\" belongs into \"{}\" and is ignored here", "“{}”应写在“{}”中，此处已忽略",
+                            name, isCustom ? kCustomProcesses : kFeatures));
+      return;
+    }
     const std::string similar = vocabulary_.Suggest(name, {});
     reporter_.Warning(
-        node.place, similar.empty() ? Say("\"{}\" is no feature and is ignored", "“{}”不是特征，已忽略", name)
-                                    : Say("\"{}\" is no feature and is ignored; did you mean \"{}\"?",
-                                          "“{}”不是特征，已忽略；是否应为“{}”？", name, similar));
+        node.place, similar.empty()
+                        ? Say("\"{}\" is no feature and is ignored", "“{}”不是特征，已忽略", ShownText(name))
+                        : Say("\"{}\" is no feature and is ignored; did you mean \"{}\"?",
+                              "“{}”不是特征，已忽略；是否应为“{}”？", ShownText(name), similar));
   }
 
   void RequireMembers() {

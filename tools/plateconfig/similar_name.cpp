@@ -43,7 +43,11 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
   std::string best;
   std::size_t bestDistance = wanted.size() / 3 + 1;
   for (const std::string_view candidate : known) {
-    const std::size_t distance = EditDistance(wanted, Characters(candidate));
+    const std::u32string letters = Characters(candidate);
+    const std::size_t lengths =
+        std::max(wanted.size(), letters.size()) - std::min(wanted.size(), letters.size());
+    if (lengths >= bestDistance) continue;  // The distance is this large at least.
+    const std::size_t distance = EditDistance(wanted, letters);
     if (distance >= bestDistance) continue;
     bestDistance = distance;
     best = candidate;

@@ -1,4 +1,4 @@
-#include "uf.h"
+#include <uf.h>
 
 #include <string>
 

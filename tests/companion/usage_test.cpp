@@ -1,0 +1,90 @@
+#include <gmock/gmock.h>
+
+#include "support/companion.h"
+
+namespace plateconfig {
+namespace {
+
+using test::RunPlateconfig;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
+using ::testing::Not;
+
+TEST(Usage, HelpGoesToTheOutputAndIsFine) {
+  for (const char* flag : {"--help", "-h"}) {
+    const auto result = RunPlateconfig({flag});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.err, IsEmpty());
+    for (const char* word : {"folder", "process", "explain", "--format", "--lang", "Exit code"})
+      EXPECT_THAT(result.out, HasSubstr(word));
+  }
+}
+
+TEST(Usage, EveryVerbHasItsOwnHelp) {
+  for (const char* verb : {"folder", "process", "explain"}) {
+    const auto result = RunPlateconfig({verb, "--help"});
+    EXPECT_EQ(result.exitCode, 0) << verb;
+    EXPECT_THAT(result.out, HasSubstr(verb));
+  }
+  for (const char* option : {"--config", "--process-rules", "--process-settings"})
+    EXPECT_THAT(RunPlateconfig({"process", "--help"}).out, HasSubstr(option));
+}
+
+TEST(Usage, HelpSpeaksChineseWhenAskedTo) {
+  EXPECT_THAT(RunPlateconfig({"--lang", "zh", "--help"}).out, HasSubstr("返回值"));
+  EXPECT_THAT(RunPlateconfig({"--lang=zh", "--help"}).out, HasSubstr("返回值"));
+  EXPECT_THAT(RunPlateconfig({"process", "--help", "--lang", "zh"}).out,
+              HasSubstr("输出每块板的制造工艺文本"));
+  EXPECT_THAT(RunPlateconfig({"--help"}).out, Not(HasSubstr("返回值")));
+}
+
+TEST(Usage, TheVersionIsPrinted) {
+  const auto result = RunPlateconfig({"--version"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_THAT(result.out, MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST(Usage, EveryWrongCommandLineExitsWithTwoAndSaysSo) {
+  const std::vector<std::vector<std::string>> wrong = {
+      {},
+      {"proces"},
+      {"process"},
+      {"process", "--no-such-option", "a.csv"},
+      {"--format", "xml", "folder"},
+      {"--lang", "de", "folder"},
+      {"--config"},
+      {"folder", "superfluous"},
+      {"folder", "process", "a.csv"},
+      {""},
+  };
+  for (const auto& arguments : wrong) {
+    const auto result = RunPlateconfig(arguments);
+    EXPECT_EQ(result.exitCode, 2) << ::testing::PrintToString(arguments);
+    EXPECT_THAT(result.out, IsEmpty()) << ::testing::PrintToString(arguments);
+    EXPECT_THAT(result.err, Not(IsEmpty())) << ::testing::PrintToString(arguments);
+  }
+}
+
+TEST(Usage, GlobalOptionsMayStandBehindTheVerb) {
+  const test::SmallConfiguration configuration;
+  const auto result =
+      RunPlateconfig({"process", "-", "--config", configuration.Path(), "--format", "json"}, "[]");
+  EXPECT_EQ(result.out, "[]\n");
+}
+
+TEST(Usage, AnOutputThatCanNotBeWrittenIsAnError) {
+  const test::SmallConfiguration configuration;
+  std::istringstream in("名称,长度,宽度,厚度,重量,体颜色\n板,450,400,90,127.2,12\n");
+  std::ostringstream out;
+  std::ostringstream err;
+  out.setstate(std::ios::badbit);
+  const int exitCode =
+      RunCompanion({"--lang", "en", "process", "--config", configuration.Path(), "-"}, {in, out, err});
+  EnableDiagnosticFiles(true);
+  EXPECT_EQ(exitCode, 2);
+  EXPECT_EQ(err.str(), "plateconfig: error: the output could not be written\n");
+}
+
+}  // namespace
+}  // namespace plateconfig

@@ -1,0 +1,31 @@
+#pragma once
+
+// The settings that a table gives, each with where it came from.
+
+#include <optional>
+#include <vector>
+
+#include "plateconfig/configuration.h"
+#include "plateconfig/full_schema.h"
+#include "plateconfig/reporter.h"
+
+namespace plateconfig {
+
+enum class Source {
+  kTable,   ///< A cell of the table.
+  kAbsent,  ///< The value of an absent column.
+  kClass,   ///< Nobody read a table: what the class starts with.
+};
+
+struct ShownSetting {
+  ColumnSchema schema;
+  Cells value;  ///< GBK; one cell, or those of a list.
+  Source source;
+};
+
+/// What the library makes of the table of a role, or of none when `file` is empty. What is wrong with the
+/// file is reported. Of the process rules, the general parameters are the settings.
+std::vector<ShownSetting> SettingsOf(const TableSchema& table, const std::optional<TableFile>& file,
+                                     Reporter& reporter);
+
+}  // namespace plateconfig
