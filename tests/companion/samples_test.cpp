@@ -190,8 +190,8 @@ TEST_P(Samples, ThePlatesInUtf8GiveTheSameAsInGbk) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachConfiguration, Samples, ::testing::Values("标准", "精密模"),
-                         [](const auto& info) {
-                           return std::string(info.index == 0 ? "Standard" : "Precision");
+                         [](const auto& instance) {
+                           return std::string(instance.index == 0 ? "Standard" : "Precision");
                          });
 
 TEST(SampleConfiguration, TheActiveOneBelowTheVariableIsTheStandard) {
