@@ -216,8 +216,8 @@ TEST(Table, HoldsAHundredThousandColumns) {
   std::string header;
   std::string row;
   for (std::size_t column = 0; column < kColumns; ++column) {
-    header += "c" + std::to_string(column) + (column + 1 < kColumns ? "," : "\n");
-    row += std::to_string(column) + (column + 1 < kColumns ? "," : "\n");
+    header.append("c").append(std::to_string(column)).append(column + 1 < kColumns ? "," : "\n");
+    row.append(std::to_string(column)).append(column + 1 < kColumns ? "," : "\n");
   }
   const Table table = TableOf(header + row);
   ASSERT_EQ(table.ColumnCount(), kColumns);
