@@ -89,13 +89,13 @@ void OpenReadCloseFifteenTables(benchmark::State& state) {
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
 }
-BENCHMARK(OpenReadCloseFifteenTables);
+BENCHMARK(OpenReadCloseFifteenTables)->Name("Settings/fifteen-tables/read");
 
 void LoadFifteenTables(benchmark::State& state) {
   const SampleTables tables;
   for (auto _ : state) LoadEverything(tables);
 }
-BENCHMARK(LoadFifteenTables);
+BENCHMARK(LoadFifteenTables)->Name("Settings/fifteen-tables/plateconfig");
 
 }  // namespace
 }  // namespace plateconfig

@@ -16,7 +16,7 @@ function(plateconfig_included_headers result folder first)
   set(pending ${first})
   while(pending)
     list(POP_FRONT pending header)
-    if(header IN_LIST found)
+    if(header IN_LIST found OR NOT EXISTS ${folder}/${header})  # The host's headers lie elsewhere.
       continue()
     endif()
     list(APPEND found ${header})

@@ -5,6 +5,8 @@ target_compile_features(plateconfig_options INTERFACE cxx_std_20)
 if(MSVC)
   # /utf-8 because the sources are UTF-8; the GBK literals need nothing more.
   target_compile_options(plateconfig_options INTERFACE /utf-8 /permissive- /W4)
+  # windows.h must not turn std::min into a macro call, and std::fopen is no secret of another system.
+  target_compile_definitions(plateconfig_options INTERFACE NOMINMAX _CRT_SECURE_NO_WARNINGS)
 else()
   target_compile_options(plateconfig_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast

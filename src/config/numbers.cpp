@@ -26,10 +26,6 @@ SignedText TakeSign(std::string_view text) {
   return {text[0] == '-', text.substr(1)};
 }
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// True when the text begins like a hexadecimal number: "0x" and a digit, perhaps behind the point.
 bool IsHexadecimal(std::string_view text) {
   if (text.size() < 3 || text[0] != '0' || (text[1] | 0x20) != 'x') return false;
@@ -68,9 +64,7 @@ std::optional<double> Magnitude(std::string_view text) {
 
 int ParseInt(std::string_view text) {
   const auto [negative, digits] = TakeSign(text);
-  // Digits only: from_chars would take a second sign.
-  if (digits.empty() || !IsDigit(digits[0])) return 0;
-  unsigned magnitude = 0;
+  unsigned magnitude = 0;  // Unsigned: from_chars takes no second sign then.
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), magnitude);
   constexpr unsigned kMost = std::numeric_limits<int>::max();
   const bool outOfRange = error == std::errc::result_out_of_range || magnitude > kMost;

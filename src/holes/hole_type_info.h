@@ -7,7 +7,7 @@
 //   type.topColor = {{36}};       type.topDiameter = {{14}};
 //   type.throughColor = {{36, 31}};  type.throughDiameter = {{0}};   // 0: any
 //   double accuracy = 0;
-//   if (type.IsCombHoleBelongNormal(hole, accuracy)) …
+//   if (type.IsCombHoleBelongNormal(hole, accuracy)) ...
 
 #include <cstdint>
 #include <string>

@@ -6,7 +6,7 @@
 //
 //   ProcessRule rule(0, ProcessRule::RoundHoleDiameter, name, "6_8.5");
 //   rule.SetValue(diameters);
-//   if (rule.IsValid()) …
+//   if (rule.IsValid()) ...
 
 #include <string>
 #include <vector>

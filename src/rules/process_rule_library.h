@@ -5,7 +5,7 @@
 //
 //   ProcessRuleLibrary library(ruleTablePath, settingsPath);
 //   std::vector<ProcessRule> rules = library.GetProcessRules();
-//   // … feed each rule what is known of the plate …
+//   // ... feed each rule what is known of the plate ...
 //   std::string text = library.GetProcessInfo(&plate, weight, rules);
 
 #include <string>

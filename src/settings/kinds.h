@@ -8,12 +8,13 @@
 // Every kind has these members; `cells` are the column's, top to bottom, and empty when the column is absent
 // or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
 //
-//   std::string_view Name() const;                             what the documentation calls it
-//   CellType kType; bool kIsList;                              what a value is, and whether the column is a
-//   list bool EmptyIsAbsent() const;                                whether an empty first cell counts as no
-//   column void Read(Record& record, const Cells& cells) const; Cells Print(const Record& record) const; one
-//   cell, or those of a list Cells WhenAbsent() const; bool Accepts(const std::string& cell) const; whether a
-//   row of several columns may hold this cell
+// - `Name()`: what the documentation calls it.
+// - `kType`, `kIsList`: what a value is, and whether the column is a list.
+// - `EmptyIsAbsent()`: whether an empty first cell counts as no column.
+// - `Read(record, cells)`: puts the cells' value into the record's field.
+// - `Print(record)`: the field as one cell, or as those of a list.
+// - `WhenAbsent()`: what an absent column gives.
+// - `Accepts(cell)`: whether a row of several columns may hold this cell.
 
 #include <span>
 #include <string>

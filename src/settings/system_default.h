@@ -13,7 +13,7 @@
 #include "plateconfig_export.h"
 
 /// A plain value: the host reads the public fields. Lengths are mm, layers NX layer numbers, colours colour
-/// indices, texts GBK. The fields start empty (0, false, no text). The constructor and each `Initial…` fill
+/// indices, texts GBK. The fields start empty (0, false, no text). The constructor and each `Initial...` fill
 /// their own fields, as said there: an int, double or text is the first cell of its column (no number: 0), or
 /// the column's own value when the column is missing or has no rows. Lists of texts are whole columns, one
 /// text per data row, empty cells included; lists that belong together need not be equally long.
@@ -119,7 +119,7 @@ class PLATECONFIG_API SystemDefault {
   std::vector<std::string> cadRegistryPaths;
   int noDocWaitTime = 0;
   int cadVersion = 0;
-  double density = 0;  ///< By `InitialBomConfigFile`, g/cm³.
+  double density = 0;  ///< By `InitialBomConfigFile`, g/cm^3.
   std::string configFilePath;
 
   /// Reads the system settings table and the five layer lists of the layer table (host paths; a table that

@@ -103,7 +103,7 @@ TEST_F(ProcessCommand, AFileThatCanNotBeReadDoesNotStopTheOthers) {
       {"process", "--config", configuration_.Path(), Path("missing.csv"), Path("folder"), Path("甲.csv")});
   EXPECT_EQ(result.out, kTexts);
   EXPECT_EQ(result.err, Path("missing.csv") + ": error: this file can not be opened\n" + Path("folder") +
-                            ": error: this is a folder, not a file of plates\n");
+                            ": error: this is a folder, not a file\n");
   EXPECT_EQ(result.exitCode, 2);
 }
 

@@ -51,7 +51,7 @@ TEST(Progress, TheBarShowsHowMuchOfTheFileIsRead) {
   screen.in.seekg(250);  // A quarter of the bar's 40 marks.
   Progress progress(screen.err, true, screen.in, 1000);
   Step(progress, kFirstDrawn);
-  EXPECT_EQ(screen.err.str(), "\r[" + std::string(10, '#') + std::string(30, ' ') + "] 301 plates");
+  EXPECT_EQ(screen.err.str(), "\r[" + std::string(10, '#') + std::string(30, ' ') + "] 301 read");
 }
 
 TEST(Progress, WithoutAKnownSizeItCountsAlone) {
@@ -59,7 +59,7 @@ TEST(Progress, WithoutAKnownSizeItCountsAlone) {
   Screen screen;
   Progress progress(screen.err, true, screen.in, 0);
   Step(progress, kFirstDrawn);
-  EXPECT_EQ(screen.err.str(), "\r301 plates");
+  EXPECT_EQ(screen.err.str(), "\r301 read");
 }
 
 TEST(Progress, AFileThatGrewMeanwhileDoesNotOverflowTheBar) {
@@ -78,7 +78,7 @@ TEST(Progress, DisappearsAtTheEnd) {
     Progress progress(screen.err, true, screen.in, 0);
     Step(progress, kFirstDrawn);
   }
-  EXPECT_EQ(screen.err.str(), "\r301 plates\r" + std::string(10, ' ') + "\r");
+  EXPECT_EQ(screen.err.str(), "\r301 read\r" + std::string(8, ' ') + "\r");
 }
 
 TEST(Progress, AfterAClearTheLineIsFreeAndClearingAgainWritesNothing) {
@@ -113,7 +113,7 @@ TEST(Progress, DoesNotMixWithMessagesOrResults) {
       RunCompanion({"--lang", "en", "process", "--config", configuration.Path(), "-"}, {in, out, err, true});
   EnableDiagnosticFiles(true);
   EXPECT_EQ(exitCode, 2);
-  EXPECT_THAT(err.str(), HasSubstr("plates"));
+  EXPECT_THAT(err.str(), HasSubstr("301 read"));
   EXPECT_THAT(err.str(), HasSubstr(" \rstandard input:402:3: error: B402: \"x\" is not a number"));
   EXPECT_THAT(out.str(), Not(HasSubstr("\r")));
 }

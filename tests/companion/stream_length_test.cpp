@@ -69,14 +69,14 @@ std::string JsonPiece(int plate) {
          "\", \"length\": 450, \"width\": 400, \"thickness\": 90, \"weight\": 127.2, \"color\": 12}";
 }
 
-struct Run {
+struct Outcome {
   int exitCode;
   int printed;
   int largestLead;
 };
 
-Run RunOn(int plates, const std::string& verb, const std::string& format,
-          const std::function<std::string(int)>& piece) {
+Outcome RunOn(int plates, const std::string& verb, const std::string& format,
+              const std::function<std::string(int)>& piece) {
   const test::SmallConfiguration configuration;
   // The P of a plate's name stands nowhere else in either output.
   CountingOutput output('P');
@@ -95,11 +95,11 @@ TEST(StreamLength, NoMoreThanOnePlateIsAheadOfTheOutputHoweverManyThereAre) {
   for (const char* verb : {"process", "explain"}) {
     for (const char* format : {"text", "json"}) {
       for (const int plates : {1000, 10000}) {
-        const Run csv = RunOn(plates, verb, format, CsvPiece);
+        const Outcome csv = RunOn(plates, verb, format, CsvPiece);
         EXPECT_EQ(csv.exitCode, 0);
         EXPECT_EQ(csv.printed, plates);
         EXPECT_LE(csv.largestLead, 1) << verb << " " << format << " csv";
-        const Run json = RunOn(plates, verb, format, JsonPiece);
+        const Outcome json = RunOn(plates, verb, format, JsonPiece);
         EXPECT_EQ(json.exitCode, 0);
         EXPECT_EQ(json.printed, plates);
         EXPECT_LE(json.largestLead, 1) << verb << " " << format << " json";

@@ -80,6 +80,7 @@ TEST_F(ConfigFile, NeverFindsTheHeaderAsAValue) {
   const ReadConfigFile reader = Open("a,b\n1,a\n");
   EXPECT_EQ(reader.GetItemIndex("a", "a"), -1);
   EXPECT_EQ(reader.GetItemIndex("b", "a"), 0);
+  EXPECT_EQ(Open("a\n1\na\n").GetItemIndex("a", "a"), 1);
 }
 
 TEST_F(ConfigFile, FindsNoValueInAnUnknownColumn) {

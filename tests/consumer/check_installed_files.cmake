@@ -6,7 +6,7 @@ function(expect_file path)
 endfunction()
 
 set(headers ${INCLUDE}/plateconfig)
-foreach(header plateconfig.h plateconfig_export.h config/read_config_file.h host/body_info.h rules/process_rule.h
+foreach(header plateconfig.h plateconfig_export.h config/read_config_file.h host/body_info.h rules/process_rule.h holes/hole_type_info.h settings/system_default.h
         host/standin/NXOpen/Body.hxx)
   expect_file(${headers}/${header})
 endforeach()
@@ -29,3 +29,13 @@ file(GLOB_RECURSE inside RELATIVE ${PREFIX} ${PREFIX}/${headers}/text/* ${PREFIX
 if(inside)
   message(SEND_ERROR "installed, but none of the interface's: ${inside}")
 endif()
+
+# A Chinese compiler reads a header without a mark as GBK. Two bytes of another encoding at the end of a comment would
+# take the line's end, and with it the next line, into the comment.
+file(GLOB_RECURSE public ${PREFIX}/${headers}/*.h)
+foreach(header IN LISTS public)
+  file(STRINGS ${header} foreign REGEX "[^\t -~]")
+  if(foreign)
+    message(SEND_ERROR "${header} holds more than ASCII: ${foreign}")
+  endif()
+endforeach()

@@ -1,8 +1,10 @@
-// A program of somebody else's that uses the installed library: each class, over the library's border and back.
+// A program of somebody else's that uses the installed library: each class, over the library's border and
+// back.
 #include <plateconfig.h>
 
 #include <NXOpen/Body.hxx>
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -46,11 +48,32 @@ void EvaluatesPlates() {
   Expect(library.GetProcessInfo(&plate, 1, rules).empty(), "a library without rows has no text");
 }
 
+void LoadsSettings() {
+  const DefaultManager layout;
+  const CustomDefault custom("no settings.csv", "no frame.csv");
+  SystemDefault system("no settings.csv", "no layers.csv");
+  Expect(layout.GetMaxRow() == DefaultManager(layout).GetMaxRow(), "settings are copied");
+  Expect(custom.StringToNoteStyle("a|1|2|3|4|5").fontName == "a", "a style is read");
+  bool wasCaught = false;
+  try {
+    system.InitialConnectString("no connectors.csv");
+  } catch (const std::exception& error) {
+    wasCaught = std::string(error.what()).find("no connectors.csv") != std::string::npos;
+  }
+  Expect(wasCaught, "the library's exception arrives here");
+}
+
+void ClassifiesHoles() {
+  Expect(HoleTypeInfo::SubDecal({1.23456}, 2) == std::vector<double>{1.23}, "decimals are cut");
+}
+
 }  // namespace
 
 int main() {
   ReadsTables();
   EvaluatesPlates();
+  LoadsSettings();
+  ClassifiesHoles();
   Expect(CommonConfig().GetConfigFolderPath() == "consumer root\\config", "the root leads to its folder");
   if (failures == 0) std::printf("the consumer is content\n");
   return failures;

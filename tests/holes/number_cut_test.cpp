@@ -11,6 +11,7 @@
 #include <random>
 #include <string>
 
+#include "config/numbers.h"
 #include "holes/hole_type_info.h"
 #include "support/allocation_count.h"
 
@@ -24,7 +25,7 @@ double CutText(double value, int decimals) {
   std::string kept = text;
   const std::size_t point = kept.find('.');
   if (point != std::string::npos) kept = kept.substr(0, point + 1 + static_cast<std::size_t>(decimals));
-  return std::atof(kept.c_str());
+  return ParseDouble(kept);  // As atof reads, except that Windows' does not know "nan".
 }
 
 std::uint64_t Bits(double value) {

@@ -145,6 +145,12 @@ TEST(PosixFile, LargerThanTheMemoryIsATableThatCanNotBeOpened) {
 }
 #endif
 
+TEST(PosixFile, WhoseReadingFailsGivesNothing) {
+  const std::string unreadable = "/proc/self/mem";  // Opens, but nothing can be read at its begin.
+  if (!FileExists(unreadable)) GTEST_SKIP() << "no such file here";
+  EXPECT_FALSE(ReadWholeFile(unreadable));
+}
+
 int LowestFreeDescriptor() {
   const int descriptor = open("/dev/null", O_RDONLY);
   close(descriptor);

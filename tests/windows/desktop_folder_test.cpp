@@ -4,6 +4,7 @@
 
 #include <shlobj.h>
 
+#include "settings/system_default.h"
 #include "support/temporary_folder.h"
 #include "windows/system_text.h"
 
@@ -60,6 +61,12 @@ TEST(DesktopFolder, IsAnExistingFolderWithoutATrailingSeparator) {
   ASSERT_FALSE(desktop.empty());
   EXPECT_NE(desktop.back(), '\\');
   EXPECT_NE(GetFileAttributesA(desktop.c_str()) & FILE_ATTRIBUTE_DIRECTORY, 0u);
+}
+
+TEST(DesktopFolder, TakesTheDrawingsForWhichNoFolderIsNamed) {
+  SystemDefault system("none.csv", "none.csv");
+  system.InitialDwgFolder("none.csv");
+  EXPECT_EQ(system.dwgOutputFolder, DesktopFolder());
 }
 
 TEST(DesktopFolder, AChineseNameIsGivenInGbk) {

@@ -4,6 +4,7 @@
 
 #include "platform/diagnostic_file.h"
 #include "support/temporary_folder.h"
+#include "windows/hole_scene.h"
 #include "windows/plate_scene.h"
 #include "windows/system_text.h"
 
@@ -58,10 +59,10 @@ TEST_F(DiagnosticDrive, FeedingColoursIsTraced) {
   EXPECT_EQ(ReadBytes(kRulesLog), "strRuleValue:114_118\r\neType:17\r\nvecRuleValues:114118\r\n");
 }
 
-TEST_F(DiagnosticDrive, TheHolesHaveAFileOfTheirOwn) {
-  DiagnosticFile(Diagnostic::kHoles).Append(SystemGbk("孔类型：圆孔\n"));
-  DiagnosticFile(Diagnostic::kHoles).Append("2\n");
-  EXPECT_EQ(ReadBytes(kHolesLog), SystemGbk("孔类型：圆孔\r\n2\r\n"));
+TEST_F(DiagnosticDrive, TheTraceOfAHoleHasAFileOfItsOwn) {
+  WriteLog(kHolesLog, "kept\r\n");
+  EXPECT_TRUE(test::HoleScene().IsOfTheType());
+  EXPECT_EQ(ReadBytes(kHolesLog), "kept\r\n" + SystemGbk(test::HoleScene::kTrace));
   EXPECT_EQ(ReadBytes(kRulesLog), "");
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/diagnostic_file.h"
+#include "windows/hole_scene.h"
 #include "windows/plate_scene.h"
 #include "windows/system_text.h"
 
@@ -23,6 +24,10 @@ TEST_F(WithoutDriveD, NoDiagnosticFileOpens) {
 TEST_F(WithoutDriveD, APlateGetsTheSameText) {
   test::PlateScene scene;
   EXPECT_EQ(scene.ProcessText(), test::SystemGbk(test::PlateScene::kProcessText));
+}
+
+TEST_F(WithoutDriveD, AHoleIsOfTheSameType) {
+  EXPECT_TRUE(test::HoleScene().IsOfTheType());
 }
 
 TEST_F(WithoutDriveD, RulesAreFedAsEver) {

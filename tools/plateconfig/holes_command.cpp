@@ -77,9 +77,10 @@ void RunHoles(const HoleJob& job, Session& session) {
 }  // namespace
 
 void AddHolesCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = app.add_subcommand(
-      "holes", Say("list for each combined hole the types that it belongs to, with their scores, best first",
-                   "列出每个组合孔所属的类型及其得分，得分最高者在前"));
+  CLI::App* command =
+      AddVerb(app, "holes",
+              Say("list for each combined hole the types that it belongs to, with their scores, best first",
+                  "列出每个组合孔所属的类型及其得分，得分最高者在前"));
   const auto job = std::make_shared<HoleJob>();
   command
       ->add_option("--types", job->typeFiles,
