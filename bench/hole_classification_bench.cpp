@@ -90,14 +90,14 @@ bool Classify(const CombHole& hole, const HoleTypeInfo& type) {
 void HoleAgainstTypesBareComparison(benchmark::State& state) {
   Run(state, BareComparison);
 }
-BENCHMARK(HoleAgainstTypesBareComparison);
+BENCHMARK(HoleAgainstTypesBareComparison)->Name("ClassifyHole/1000-types/bare-comparison");
 
 void HoleAgainstTypesWithoutLog(benchmark::State& state) {
   EnableDiagnosticFiles(false);
   Run(state, Classify);
   EnableDiagnosticFiles(true);
 }
-BENCHMARK(HoleAgainstTypesWithoutLog);
+BENCHMARK(HoleAgainstTypesWithoutLog)->Name("ClassifyHole/1000-types/plateconfig");
 
 void HoleAgainstTypesWithLog(benchmark::State& state) {
   const auto folder = std::filesystem::temp_directory_path() / "plateconfig-bench";
@@ -108,7 +108,7 @@ void HoleAgainstTypesWithLog(benchmark::State& state) {
   std::error_code ignored;
   std::filesystem::remove_all(folder, ignored);
 }
-BENCHMARK(HoleAgainstTypesWithLog);
+BENCHMARK(HoleAgainstTypesWithLog)->Name("ClassifyHole/1000-types/with-log");
 
 }  // namespace
 }  // namespace plateconfig

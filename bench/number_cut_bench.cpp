@@ -43,15 +43,15 @@ void Run(benchmark::State& state, Cut cut) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(diameters.size()));
 }
 
-void NumberCut(benchmark::State& state) {
+void Cut(benchmark::State& state) {
   Run(state, CutDecimals);
 }
-BENCHMARK(NumberCut);
+BENCHMARK(Cut)->Name("CutNumber/plateconfig");
 
-void NumberCutByPrintingAndReading(benchmark::State& state) {
+void CutByPrintingAndReading(benchmark::State& state) {
   Run(state, CutText);
 }
-BENCHMARK(NumberCutByPrintingAndReading);
+BENCHMARK(CutByPrintingAndReading)->Name("CutNumber/print-and-read");
 
 }  // namespace
 }  // namespace plateconfig

@@ -210,6 +210,27 @@ TEST_F(HoleReading, UnknownJsonMembersAreWarnedOf) {
   EXPECT_THAT(err_.str(), HasSubstr("warning: the member \"r\" is not known and is ignored"));
 }
 
+TEST_F(HoleReading, ASecondJsonMemberIsWarnedOfAndTheFirstCounts) {
+  const auto holes =
+      ReadJson(R"({"name": "K1", "name": "K2", "top": [{"diameter": 8, "diameter": 9, "color": 1}]})");
+  EXPECT_THAT(NamesOf(holes), ElementsAre("K1"));
+  EXPECT_EQ(holes[0].hole.topHoles[0].diameter, 8);
+  EXPECT_THAT(err_.str(),
+              HasSubstr("h.json:1:24: warning: a second member \"name\"; the first one counts\n"));
+}
+
+TEST_F(HoleReading, ASimilarJsonMemberIsSuggested) {
+  EXPECT_EQ(ReadJson(R"({"name": "K1", "bottoms": []})").size(), 1U);
+  EXPECT_THAT(err_.str(), HasSubstr("\"bottoms\" is not known and is ignored; did you mean \"bottom\"?\n"));
+}
+
+TEST_F(HoleReading, AnEmptyJsonNameIsNone) {
+  EXPECT_THAT(ReadJson(R"({"name": "", "top": []})"), IsEmpty());
+  EXPECT_THAT(ReadTypes(R"({"name": "", "structure": "0_0_0"})", "t.json"), IsEmpty());
+  EXPECT_THAT(err_.str(), HasSubstr("h.json:1:10: error: the hole has no name"));
+  EXPECT_THAT(err_.str(), HasSubstr("t.json:1:10: error: the type has no name"));
+}
+
 constexpr const char* kTypeHeader = "名称,结构,顶颜色,通颜色,底颜色,顶直径,通直径,底直径,说明\n";
 
 TEST_F(HoleReading, ACsvTypeHasOneListPerSegment) {

@@ -15,6 +15,7 @@
 
 #include "plateconfig/csv_stream.h"
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
 #include "plateconfig/similar_name.h"
 
 namespace plateconfig {
@@ -83,16 +84,17 @@ class CsvRecords {
   }
 
   static std::string SecondColumn(const std::string& name) {
-    return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", name);
+    return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", ShownText(name));
   }
 
   std::string UnknownColumn(const std::string& name) const {
     std::vector<std::string_view> known;
     for (const Field& field : fields_) known.push_back(field.column);
     const std::string similar = MostSimilarName(name, known);
-    if (similar.empty()) return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", name);
+    if (similar.empty())
+      return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", ShownText(name));
     return Say("the column {} is not known and is ignored; did you mean {}?",
-               "未知的列 {}，已忽略；是否应为 {}？", name, similar);
+               "未知的列 {}，已忽略；是否应为 {}？", ShownText(name), similar);
   }
 
   bool HasRequiredColumns(const CsvRow& header) {

@@ -5,6 +5,7 @@
 #include "plateconfig/csv_records.h"
 #include "plateconfig/hole_fields.h"
 #include "plateconfig/hole_reader.h"
+#include "plateconfig/shown_text.h"
 #include "plateconfig/strict_values.h"
 
 namespace plateconfig {
@@ -33,7 +34,7 @@ SegmentField GroupField() {
               return {};
             }
             return Say("\"{}\" is none of 顶 (top), 通 (through) and 底 (bottom)", "“{}”不是 顶、通、底 之一",
-                       text);
+                       ShownText(text));
           }};
 }
 
@@ -110,14 +111,14 @@ class CsvHoleReader : public HoleReader {
     if (!names_.insert(input.name).second) {
       reporter_.Warning(input.place,
                         Say("a hole {} stood further up; the rows of one hole must stand together",
-                            "前面已有孔 {}；同一个孔的各行必须连在一起", input.name));
+                            "前面已有孔 {}；同一个孔的各行必须连在一起", ShownText(input.name)));
     }
     return true;
   }
 
   void ReportPassedOver(const HoleInput& input) {
     reporter_.Error(input.place, Say("the hole {} is passed over because not all of its rows can be used",
-                                     "孔 {} 有无法使用的行，被跳过", input.name));
+                                     "孔 {} 有无法使用的行，被跳过", ShownText(input.name)));
   }
 
   CsvRecords<SegmentRow> rows_;

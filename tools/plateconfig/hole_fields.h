@@ -3,6 +3,7 @@
 // What holes and hole types consist of, with the names in both forms of input and in the output.
 
 #include <string_view>
+#include <vector>
 
 #include "holes/classification.h"
 
@@ -59,6 +60,11 @@ inline constexpr CoordinateField kCoordinates[] = {
     {"Y", &NXOpen::Point3d::Y},
     {"Z", &NXOpen::Point3d::Z},
 };
+
+/// The JSON members of a hole, a segment and a type, for looking names up.
+std::vector<std::string_view> HoleMembers();
+std::vector<std::string_view> SegmentMembers();
+std::vector<std::string_view> HoleTypeMembers();
 
 inline constexpr HoleFieldName kTypeName = {"name", "名称"};
 inline constexpr HoleFieldName kTypeStructure = {"structure", "结构"};

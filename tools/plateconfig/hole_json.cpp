@@ -2,6 +2,7 @@
 
 #include "plateconfig/hole_fields.h"
 #include "plateconfig/hole_reader.h"
+#include "plateconfig/json_members.h"
 #include "plateconfig/json_stream.h"
 #include "plateconfig/json_values.h"
 #include "plateconfig/language.h"
@@ -17,19 +18,29 @@ class HoleObject {
 
   std::optional<HoleInput> Read() {
     input_.place = object_.place;
-    for (const auto& [name, node] : object_.members) ReadMember(name, node);
+    ReadMembers(object_, HoleMembers(), reporter_,
+                [this](const std::string& name, const JsonNode& node) { return ReadMember(name, node); });
     Require(object_, kHoleName.json);
     return values_.AreGood() ? std::optional(std::move(input_)) : std::nullopt;
   }
 
  private:
-  void ReadMember(const std::string& name, const JsonNode& node) {
-    if (name == kHoleName.json) return values_.Read(node, input_.name);
+  bool ReadMember(const std::string& name, const JsonNode& node) {
+    if (name == kHoleName.json) return ReadName(node);
     for (std::size_t group = 0; group < kHoleGroupCount; ++group) {
-      if (name == kHoleGroupNames[group].json)
-        return ReadSegments(node, input_.hole.*kHoleGroups[group].segments);
+      if (name != kHoleGroupNames[group].json) continue;
+      ReadSegments(node, input_.hole.*kHoleGroups[group].segments);
+      return true;
     }
-    WarnOfUnknown(name, node);
+    return false;
+  }
+
+  bool ReadName(const JsonNode& node) {
+    values_.Read(node, input_.name);
+    if (node.kind == JsonNode::Kind::kString && node.text.empty()) {
+      values_.Refuse(node, Say("the hole has no name", "孔没有名称"));
+    }
+    return true;
   }
 
   void ReadSegments(const JsonNode& node, std::vector<HoleInfo>& segments) {
@@ -37,7 +48,10 @@ class HoleObject {
     for (const JsonNode& item : node.items) {
       if (!values_.IsObject(item)) continue;
       HoleInfo& segment = segments.emplace_back();
-      for (const auto& [name, value] : item.members) ReadSegmentMember(name, value, segment);
+      ReadMembers(item, SegmentMembers(), reporter_,
+                  [this, &segment](const std::string& name, const JsonNode& value) {
+                    return ReadSegmentMember(name, value, segment);
+                  });
       Require(item, kSegmentColor.json);
       for (const SegmentNumberField& field : kSegmentNumbers) {
         if (field.isRequired) Require(item, field.name.json);
@@ -45,28 +59,29 @@ class HoleObject {
     }
   }
 
-  void ReadSegmentMember(const std::string& name, const JsonNode& node, HoleInfo& segment) {
-    if (name == kSegmentColor.json) return values_.Read(node, segment.color);
+  bool ReadSegmentMember(const std::string& name, const JsonNode& node, HoleInfo& segment) {
     if (name == kSegmentOrigin) return ReadOrigin(node, segment.origin);
-    for (const SegmentNumberField& field : kSegmentNumbers) {
-      if (name == field.name.json) return values_.Read(node, segment.*field.value);
+    if (name == kSegmentColor.json) {
+      values_.Read(node, segment.color);
+      return true;
     }
-    WarnOfUnknown(name, node);
+    for (const SegmentNumberField& field : kSegmentNumbers) {
+      if (name != field.name.json) continue;
+      values_.Read(node, segment.*field.value);
+      return true;
+    }
+    return false;
   }
 
-  void ReadOrigin(const JsonNode& node, NXOpen::Point3d& origin) {
+  bool ReadOrigin(const JsonNode& node, NXOpen::Point3d& origin) {
     std::vector<double> coordinates;
     values_.Read(node, coordinates);
-    if (coordinates.size() != std::size(kCoordinates)) {
-      return values_.Refuse(node,
-                            Say("an origin has three coordinates: [x, y, z]", "原点应有三个坐标：[x, y, z]"));
+    if (coordinates.size() == std::size(kCoordinates)) {
+      for (std::size_t i = 0; i < coordinates.size(); ++i) origin.*kCoordinates[i].value = coordinates[i];
+    } else {
+      values_.Refuse(node, Say("an origin has three coordinates: [x, y, z]", "原点应有三个坐标：[x, y, z]"));
     }
-    for (std::size_t i = 0; i < coordinates.size(); ++i) origin.*kCoordinates[i].value = coordinates[i];
-  }
-
-  void WarnOfUnknown(const std::string& name, const JsonNode& node) {
-    reporter_.Warning(node.place,
-                      Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", name));
+    return true;
   }
 
   void Require(const JsonNode& object, std::string_view name) {

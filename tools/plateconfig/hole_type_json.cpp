@@ -3,6 +3,7 @@
 
 #include "plateconfig/hole_fields.h"
 #include "plateconfig/hole_type_reader.h"
+#include "plateconfig/json_members.h"
 #include "plateconfig/json_stream.h"
 #include "plateconfig/json_values.h"
 #include "plateconfig/language.h"
@@ -18,27 +19,36 @@ class HoleTypeObject {
 
   std::optional<HoleTypeInput> Read() {
     input_.place = object_.place;
-    for (const auto& [name, node] : object_.members) ReadMember(name, node);
+    ReadMembers(object_, HoleTypeMembers(), reporter_, [this](const std::string& name, const JsonNode& node) {
+      return ReadText(name, node) || ReadLists(name, node);
+    });
     Require(kTypeName.json);
     Require(kTypeStructure.json);
     return values_.AreGood() ? std::optional(std::move(input_)) : std::nullopt;
   }
 
  private:
-  void ReadMember(const std::string& name, const JsonNode& node) {
-    if (name == kTypeName.json) return values_.Read(node, input_.name);
-    if (name == kTypeStructure.json) return values_.Read(node, input_.type.countKey);
-    if (name == kTypeContent.json) return values_.Read(node, input_.content);
-    for (std::size_t i = 0; i < kHoleGroupCount; ++i) {
-      if (name == kHoleGroupNames[i].colors.json) {
-        return values_.Read(node, input_.type.*kHoleGroups[i].colors);
-      }
-      if (name == kHoleGroupNames[i].diameters.json) {
-        return values_.Read(node, input_.type.*kHoleGroups[i].diameters);
-      }
+  bool ReadText(const std::string& name, const JsonNode& node) {
+    const bool isName = name == kTypeName.json;
+    if (!isName && name != kTypeStructure.json && name != kTypeContent.json) return false;
+    values_.Read(node, isName                        ? input_.name
+                       : name == kTypeStructure.json ? input_.type.countKey
+                                                     : input_.content);
+    if (isName && node.kind == JsonNode::Kind::kString && node.text.empty()) {
+      values_.Refuse(node, Say("the type has no name", "类型没有名称"));
     }
-    reporter_.Warning(node.place,
-                      Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", name));
+    return true;
+  }
+
+  bool ReadLists(const std::string& name, const JsonNode& node) {
+    for (std::size_t i = 0; i < kHoleGroupCount; ++i) {
+      const bool areColors = name == kHoleGroupNames[i].colors.json;
+      if (areColors) values_.Read(node, input_.type.*kHoleGroups[i].colors);
+      const bool areDiameters = name == kHoleGroupNames[i].diameters.json;
+      if (areDiameters) values_.Read(node, input_.type.*kHoleGroups[i].diameters);
+      if (areColors || areDiameters) return true;
+    }
+    return false;
   }
 
   void Require(std::string_view name) {

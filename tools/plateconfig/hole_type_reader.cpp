@@ -6,6 +6,7 @@
 #include "plateconfig/hole_fields.h"
 #include "plateconfig/input_form.h"
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
 #include "plateconfig/strict_values.h"
 
 namespace plateconfig {
@@ -21,7 +22,7 @@ void CheckColors(const HoleTypeInput& input, Reporter& reporter) {
                      Say("the type {0} refuses every hole: {1} ({2}) has {3} lists for {4} segments; write 0 "
                          "for any colour",
                          "类型 {0} 不接受任何孔：{1}（{2}）只有 {3} 个列表，而有 {4} 段；任意颜色请写 0",
-                         input.name, name.json, name.column, lists, counts[group]));
+                         ShownText(input.name), name.json, name.column, lists, counts[group]));
   }
 }
 
@@ -31,8 +32,8 @@ void CheckType(const HoleTypeInput& input, Reporter& reporter) {
       input.place,
       Say("no hole has the structure \"{1}\" of the type {0}; write the numbers of top, through and bottom "
           "segments like 1_1_0",
-          "类型 {0} 的结构“{1}”不对应任何孔；请将顶、通、底的段数写成 1_1_0 这样的形式", input.name,
-          input.type.countKey));
+          "类型 {0} 的结构“{1}”不对应任何孔；请将顶、通、底的段数写成 1_1_0 这样的形式",
+          ShownText(input.name), ShownText(input.type.countKey)));
 }
 
 }  // namespace

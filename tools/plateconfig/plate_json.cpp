@@ -1,13 +1,12 @@
-#include <set>
 #include <utility>
 
+#include "plateconfig/json_members.h"
 #include "plateconfig/json_stream.h"
 #include "plateconfig/json_values.h"
 #include "plateconfig/language.h"
 #include "plateconfig/plate_fields.h"
 #include "plateconfig/plate_reader.h"
 #include "plateconfig/shown_text.h"
-#include "plateconfig/similar_name.h"
 
 namespace plateconfig {
 namespace {
@@ -20,39 +19,27 @@ class PlateObject {
 
   std::optional<PlateInput> Read() {
     plate_.place = object_.place;
-    std::set<std::string_view> names;
-    for (const auto& [name, node] : object_.members) {
-      if (names.insert(name).second) {
-        ReadMember(name, node);
-      } else {
-        reporter_.Warning(node.place, Say("a second member \"{}\"; the first one counts",
-                                          "重复的成员“{}”；以第一个为准", ShownText(name)));
-      }
-    }
+    ReadMembers(object_, PlateMembers(), reporter_,
+                [this](const std::string& name, const JsonNode& node) { return ReadMember(name, node); });
     RequireMembers();
     NormalizeFaceColors(plate_.plate);
     return values_.AreGood() ? std::optional(std::move(plate_)) : std::nullopt;
   }
 
  private:
-  void ReadMember(const std::string& name, const JsonNode& node) {
-    if (name == kPlateName.json) return ReadName(node);
-    if (name == kFaceColors.json) return values_.Read(node, plate_.plate.faceColors);
-    if (name == kFeatures) return ReadFeatures(node);
-    if (name == kCustomProcesses) return ReadCustomProcesses(node);
-    if (ReadNumber(name, node) || ReadInteger(name, node)) return;
-    WarnOfUnknownMember(name, node);
-  }
-
-  void WarnOfUnknownMember(const std::string& name, const JsonNode& node) {
-    const std::string similar = MostSimilarName(name, PlateMembers());
-    const std::string shown = ShownText(name);
-    reporter_.Warning(
-        node.place,
-        similar.empty()
-            ? Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", shown)
-            : Say("the member \"{}\" is not known and is ignored; did you mean \"{}\"?",
-                  "未知的成员“{}”，已忽略；是否应为“{}”？", shown, similar));
+  bool ReadMember(const std::string& name, const JsonNode& node) {
+    if (name == kPlateName.json) {
+      ReadName(node);
+    } else if (name == kFaceColors.json) {
+      values_.Read(node, plate_.plate.faceColors);
+    } else if (name == kFeatures) {
+      ReadFeatures(node);
+    } else if (name == kCustomProcesses) {
+      ReadCustomProcesses(node);
+    } else {
+      return ReadNumber(name, node) || ReadInteger(name, node);
+    }
+    return true;
   }
 
   void ReadName(const JsonNode& node) {

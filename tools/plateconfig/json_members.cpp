@@ -1,0 +1,36 @@
+#include "plateconfig/json_members.h"
+
+#include <set>
+
+#include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
+
+namespace plateconfig {
+namespace {
+
+std::string UnknownMember(const std::string& name, const std::vector<std::string_view>& known) {
+  const std::string similar = MostSimilarName(name, known);
+  const std::string shown = ShownText(name);
+  if (similar.empty())
+    return Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", shown);
+  return Say("the member \"{}\" is not known and is ignored; did you mean \"{}\"?",
+             "未知的成员“{}”，已忽略；是否应为“{}”？", shown, similar);
+}
+
+}  // namespace
+
+void ReadMembers(const JsonNode& object, const std::vector<std::string_view>& known, Reporter& reporter,
+                 const std::function<bool(const std::string& name, const JsonNode& node)>& read) {
+  std::set<std::string_view> names;
+  for (const auto& [name, node] : object.members) {
+    if (!names.insert(name).second) {
+      reporter.Warning(node.place, Say("a second member \"{}\"; the first one counts",
+                                       "重复的成员“{}”；以第一个为准", ShownText(name)));
+    } else if (!read(name, node)) {
+      reporter.Warning(node.place, UnknownMember(name, known));
+    }
+  }
+}
+
+}  // namespace plateconfig
