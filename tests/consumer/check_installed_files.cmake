@@ -34,7 +34,7 @@ endif()
 # take the line's end, and with it the next line, into the comment.
 file(GLOB_RECURSE public ${PREFIX}/${headers}/*.h)
 foreach(header IN LISTS public)
-  file(STRINGS ${header} foreign REGEX "[^\t -~]")
+  file(STRINGS ${header} foreign ENCODING UTF-8 REGEX "[^\t -~]")
   if(foreign)
     message(SEND_ERROR "${header} holds more than ASCII: ${foreign}")
   endif()
