@@ -115,7 +115,7 @@ TEST_F(HoleReading, AMistakeInARowPassesItsWholeHoleOver) {
                   "h.csv:2:1: error: the hole K1 is passed over because not all of its rows can be used",
                   "h.csv:4:4: error: B4: \"侧\" is none of 顶 (top), 通 (through) and 底 (bottom)",
                   "h.csv:4:1: error: the hole K2 is passed over because not all of its rows can be used",
-                  "h.csv:5:8: error: D5: \"\" is not a whole number; write it like 12",
+                  "h.csv:5:8: error: D5: an empty cell is not a whole number; write it like 12",
                   "h.csv:5:1: error: the hole K3 is passed over because not all of its rows can be used"));
 }
 

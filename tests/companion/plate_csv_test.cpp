@@ -141,7 +141,7 @@ TEST(PlateCsv, EveryMistakeOfARowIsReportedAndTheOtherRowsAreRead) {
 TEST(PlateCsv, AShortRowLacksItsLastCells) {
   CsvPlates file(std::string(kHeader) + ",孔数量\n甲,1,1,1,1,1\n乙,1,1,1,1\n");
   EXPECT_THAT(file.Names(), ElementsAre("甲"));
-  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:3:9: error: F3: \"\" is not a whole number"));
+  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:3:9: error: F3: an empty cell is not a whole number"));
 }
 
 TEST(PlateCsv, CellsBeyondTheHeaderAreIgnored) {

@@ -27,7 +27,8 @@ void WriteText(const PlateInput& plate, std::optional<int> line, const std::stri
         << "\n";
     return;
   }
-  out << plate.name << Say(" (line {}): ", "（第 {} 行）：", *line) << text << "\n";
+  out << plate.name << Say(" (line {}): ", "（第 {} 行）：", *line)
+      << (text.empty() ? Say("no process of this row applies", "此行没有适用的工艺") : text) << "\n";
 }
 
 nlohmann::ordered_json ToJson(const PlateInput& plate, std::optional<int> line, const std::string& text) {
