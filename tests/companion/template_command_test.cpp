@@ -10,6 +10,7 @@
 #include "plateconfig/output_file.h"
 #include "plateconfig/role.h"
 #include "plateconfig/shown_settings.h"
+#include "plateconfig/table_template.h"
 #include "rules/rule_tables.h"
 #include "support/companion.h"
 #include "support/environment.h"
@@ -148,6 +149,12 @@ TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
   Write("config/standard.csv", "index");
   const std::string root = folder_.HostPath("");
   EXPECT_EQ(ReadConfigurationIndex(root).activeFolder, root + "\\config");
+}
+
+TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
+  ColumnSchema column{"a,b", "text", CellType::kText, "", "", {"say \"hi\"", "plain"}};
+  const TableSchema table{"bom", WhenUnreadable::kCountsAsEmpty, true, {column}};
+  EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
 }
 
 // ---- Writing files ----
