@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
-#include "companion/run_companion.h"
 #include "plateconfig/full_schema.h"
 #include "plateconfig/role.h"
 #include "rules/rule_columns.h"
+#include "support/companion.h"
 #include "support/temporary_folder.h"
 #include "text/gbk.h"
 
@@ -56,7 +56,7 @@ TEST(FullSchema, AnUnknownRoleHasNoTable) {
 }
 
 TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
-  const CompanionRun run = RunInEnglish({"schema"});
+  const CompanionResult run = RunPlateconfig({"schema"});
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_THAT(run.out, HasSubstr("bom: Density of the material.\n"
                                  "  密度(g/cm): density of the material [g/cm³]; number; when absent 0\n"));
@@ -64,7 +64,7 @@ TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
 }
 
 TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
-  const Json columns = Json::parse(RunInEnglish({"schema", "--format", "json"}).out);
+  const Json columns = Json::parse(RunPlateconfig({"schema", "--format", "json"}).out);
   std::size_t count = 0;
   for (const TableSchema& table : FullSchema()) count += table.columns.size();
   EXPECT_EQ(columns.size(), count);
@@ -80,29 +80,29 @@ TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
 }
 
 TEST(SchemaCommand, TheFormatInFrontOfTheVerbCountsToo) {
-  EXPECT_EQ(RunInEnglish({"--format", "json", "schema"}).out,
-            RunInEnglish({"schema", "--format", "json"}).out);
+  EXPECT_EQ(RunPlateconfig({"--format", "json", "schema"}).out,
+            RunPlateconfig({"schema", "--format", "json"}).out);
 }
 
 TEST(SchemaCommand, MarkdownEscapesTheSeparatorOfStyles) {
   EXPECT_THAT(
-      RunInEnglish({"schema", "--format", "markdown"}).out,
+      RunPlateconfig({"schema", "--format", "markdown"}).out,
       HasSubstr(
           "| `代号注释的样式` | style of the code |  | style | `chinesef_fs\\|3\\|0.5\\|0.5\\|0.5\\|1` |\n"));
 }
 
 TEST(SchemaCommand, TheTablesPageIsUpToDate) {
-  const auto page = std::filesystem::path(PLATECONFIG_SAMPLES_DIR).parent_path() / "docs" / "tables.md";
-  EXPECT_EQ(ReadBytes(page), RunInEnglish({"schema", "--format", "markdown"}).out)
+  EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.md"),
+            RunPlateconfig({"schema", "--format", "markdown"}).out)
       << "write it anew: plateconfig schema --format markdown --lang en --output docs/tables.md";
 }
 
 TEST(SchemaCommand, AFileIsWrittenWholeAndReplaced) {
   const TemporaryFolder folder;
   folder.WriteBytes("表.md", "old");
-  const std::string path = (folder.Path() / "表.md").string();
-  EXPECT_EQ(RunInEnglish({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
-  EXPECT_EQ(ReadBytes(folder.Path() / "表.md"), RunInEnglish({"schema", "--format", "markdown"}).out);
+  const std::string path = ArgumentPath(folder, "表.md");
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
+  EXPECT_EQ(ReadBytes(folder.Path() / "表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "companion/run_companion.h"
+#include "support/companion.h"
 #include "support/environment.h"
 #include "support/temporary_folder.h"
 
@@ -19,17 +19,17 @@ class ShowCommand : public ::testing::Test {
  protected:
   void Configure(const std::string& manifest) { folder_.WriteBytes("tables.json", manifest); }
 
-  CompanionRun Show(std::vector<std::string> roles, std::vector<std::string> options = {}) {
+  CompanionResult Show(std::vector<std::string> roles, std::vector<std::string> options = {}) {
     std::vector<std::string> arguments = {"show"};
     arguments.insert(arguments.end(), roles.begin(), roles.end());
-    arguments.insert(arguments.end(), {"--config", folder_.Path().string()});
+    arguments.insert(arguments.end(), {"--config", ArgumentPath(folder_, "")});
     arguments.insert(arguments.end(), options.begin(), options.end());
-    return RunInEnglish(arguments);
+    return RunPlateconfig(arguments);
   }
 
   /// The JSON object of a column.
   Json Setting(const std::string& role, const std::string& column) {
-    const CompanionRun run = Show({role}, {"--format", "json"});
+    const CompanionResult run = Show({role}, {"--format", "json"});
     for (const Json& setting : Json::parse(run.out)) {
       if (setting["column"] == column) return setting;
     }
@@ -43,10 +43,10 @@ class ShowCommand : public ::testing::Test {
 TEST_F(ShowCommand, ASettingIsShownWithItsValueAndUnitBelowItsFile) {
   Configure(R"({"layout-defaults": "布局.csv"})");
   folder_.WriteTable("布局.csv", "图层间距,代号注释的样式\n4000,仿宋|5|0.1|0.2|0.3|2\n");
-  const CompanionRun run = Show({"layout-defaults"});
+  const CompanionResult run = Show({"layout-defaults"});
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_THAT(run.err, IsEmpty());
-  EXPECT_THAT(run.out, HasSubstr("layout-defaults  " + (folder_.Path() / "布局.csv").string() + "\n"));
+  EXPECT_THAT(run.out, HasSubstr("layout-defaults  " + ArgumentPath(folder_, "布局.csv") + "\n"));
   EXPECT_THAT(run.out, HasSubstr("  图层间距 = 4000  [mm]\n"));
   EXPECT_THAT(run.out, HasSubstr("  代号注释的样式 = 仿宋|5|0.1|0.2|0.3|2\n"));
 }
@@ -81,7 +81,7 @@ TEST_F(ShowCommand, JsonNamesRoleFileUnitAndSource) {
   Configure(R"({"bom": "a.csv"})");
   folder_.WriteTable("a.csv", "密度(g/cm)\n7.85\n");
   EXPECT_EQ(Setting("bom", "密度(g/cm)"), Json({{"role", "bom"},
-                                                {"file", (folder_.Path() / "a.csv").string()},
+                                                {"file", ArgumentPath(folder_, "a.csv")},
                                                 {"column", "密度(g/cm)"},
                                                 {"value", 7.85},
                                                 {"unit", "g/cm³"},
@@ -141,6 +141,12 @@ TEST_F(ShowCommand, ProcessSettingsAndGeneralParametersAreShown) {
               HasSubstr("  软料（体颜色） = 12, 87  [colour index]\n  硬料（体颜色） = none  (default)\n"));
 }
 
+TEST_F(ShowCommand, ACellOfTwoLinesIsShownOnOne) {
+  Configure(R"({"texts": "a.csv"})");
+  folder_.WriteTable("a.csv", "代号文字\n\"代号\n：\t\"\n");
+  EXPECT_THAT(Show({"texts"}).out, HasSubstr("  代号文字 = 代号\\n：\uFFFD\n"));
+}
+
 TEST_F(ShowCommand, OnlyTheRolesThatAreNamedAreShown) {
   Configure("{}");
   const std::string out = Show({"bom", "dwg-folder"}).out;
@@ -159,9 +165,9 @@ TEST_F(ShowCommand, AFileOnTheCommandLineTakesThePlaceOfTheConfigurations) {
 
 TEST_F(ShowCommand, TheLibrarysExceptionIsShownInUtf8) {
   Configure(R"({"connect-string": "没有.csv"})");
-  const CompanionRun run = Show({"connect-string"});
+  const CompanionResult run = Show({"connect-string"});
   EXPECT_EQ(run.exitCode, 2);
-  const std::string path = (folder_.Path() / "没有.csv").string();
+  const std::string path = ArgumentPath(folder_, "没有.csv");
   EXPECT_EQ(run.err, path + ": error: 配置文件：" + path + " 不存在！\n");
   EXPECT_THAT(run.out, HasSubstr("  连接字符 = \"\"  (not read)\n"));
 }
@@ -182,7 +188,7 @@ class SampleSettings : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(SampleSettings, EveryColumnOfEveryTableIsFilledIn) {
   const std::string folder = std::string(PLATECONFIG_SAMPLES_DIR) + "/config/" + GetParam();
-  const CompanionRun run = RunInEnglish({"show", "--config", folder, "--format", "json"});
+  const CompanionResult run = RunPlateconfig({"show", "--config", folder, "--format", "json"});
   EXPECT_EQ(run.exitCode, 0) << run.err;
   std::size_t count = 0;
   for (const Json& setting : Json::parse(run.out)) {
@@ -199,8 +205,8 @@ INSTANTIATE_TEST_SUITE_P(Folders, SampleSettings, ::testing::Values("标准", "�
 
 TEST(SampleTables, TheTwoConfigurationsDiffer) {
   const std::string folder = std::string(PLATECONFIG_SAMPLES_DIR) + "/config/";
-  EXPECT_NE(RunInEnglish({"show", "bom", "--config", folder + "标准", "--format", "json"}).out,
-            RunInEnglish({"show", "bom", "--config", folder + "精密模", "--format", "json"}).out);
+  EXPECT_NE(RunPlateconfig({"show", "bom", "--config", folder + "标准", "--format", "json"}).out,
+            RunPlateconfig({"show", "bom", "--config", folder + "精密模", "--format", "json"}).out);
 }
 
 }  // namespace

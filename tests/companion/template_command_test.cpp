@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "companion/run_companion.h"
 #include "config/column_width_manager.h"
 #include "config/configuration_index.h"
 #include "config/read_config_file.h"
@@ -11,7 +10,9 @@
 #include "plateconfig/output_file.h"
 #include "plateconfig/role.h"
 #include "plateconfig/shown_settings.h"
+#include "plateconfig/table_template.h"
 #include "rules/rule_tables.h"
+#include "support/companion.h"
 #include "support/environment.h"
 #include "support/gbk_text.h"
 #include "support/temporary_folder.h"
@@ -29,7 +30,7 @@ class Template : public ::testing::TestWithParam<std::string_view> {
  protected:
   /// The template of the role as a file.
   std::string WriteTemplate() {
-    return folder_.WriteBytes("table.csv", RunInEnglish({"template", std::string(GetParam())}).out);
+    return folder_.WriteBytes("table.csv", RunPlateconfig({"template", std::string(GetParam())}).out);
   }
 
   TemporaryFolder folder_;
@@ -108,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(EveryRole, SettingsTemplate, ::testing::ValuesIn(Settin
 class OtherTemplate : public ::testing::Test {
  protected:
   std::string Write(const std::string& name, const std::string& role) {
-    return folder_.WriteBytes(name, RunInEnglish({"template", role}).out);
+    return folder_.WriteBytes(name, RunPlateconfig({"template", role}).out);
   }
 
   TemporaryFolder folder_;
@@ -150,12 +151,18 @@ TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
   EXPECT_EQ(ReadConfigurationIndex(root).activeFolder, root + "\\config");
 }
 
+TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
+  ColumnSchema column{"a,b", "text", CellType::kText, "", "", {"say \"hi\"", "plain"}};
+  const TableSchema table{"bom", WhenUnreadable::kCountsAsEmpty, true, {column}};
+  EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
+}
+
 // ---- Writing files ----
 
 TEST(TemplateCommand, WritesTheSameBytesIntoAFile) {
   const TemporaryFolder folder;
-  const std::string path = (folder.Path() / "密度.csv").string();
-  const CompanionRun run = RunInEnglish({"template", "bom", "--output", path});
+  const std::string path = ArgumentPath(folder, "密度.csv");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
   EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_THAT(run.out, IsEmpty());
   EXPECT_EQ(ReadBytes(folder.Path() / "密度.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
@@ -164,12 +171,12 @@ TEST(TemplateCommand, WritesTheSameBytesIntoAFile) {
 TEST(TemplateCommand, AnExistingFileIsKeptUnlessForced) {
   const TemporaryFolder folder;
   folder.WriteBytes("a.csv", "mine");
-  const std::string path = (folder.Path() / "a.csv").string();
-  const CompanionRun run = RunInEnglish({"template", "bom", "--output", path});
+  const std::string path = ArgumentPath(folder, "a.csv");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_EQ(run.err, path + ": error: this file exists already; --force replaces it\n");
   EXPECT_EQ(ReadBytes(folder.Path() / "a.csv"), "mine");
-  EXPECT_EQ(RunInEnglish({"template", "bom", "--output", path, "--force"}).exitCode, 0);
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "--output", path, "--force"}).exitCode, 0);
   EXPECT_EQ(ReadBytes(folder.Path() / "a.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
 }
 
@@ -177,18 +184,17 @@ TEST(TemplateCommand, AFileThatCanNotBeWrittenIsReportedAndLeavesNothingBehind) 
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "a.csv");
   folder.WriteBytes("a.csv/inside", "");
-  const CompanionRun run =
-      RunInEnglish({"template", "bom", "--force", "--output", (folder.Path() / "a.csv").string()});
+  const CompanionResult run =
+      RunPlateconfig({"template", "bom", "--force", "--output", ArgumentPath(folder, "a.csv")});
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_THAT(run.err, HasSubstr("this file can not be written"));
   const std::filesystem::directory_iterator files(folder.Path());
   EXPECT_EQ(std::distance(files, std::filesystem::directory_iterator()), 1);
-  EXPECT_EQ(RunInEnglish({"template", "bom", "--output", (folder.Path() / "none/a.csv").string()}).exitCode,
-            2);
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "--output", ArgumentPath(folder, "none/a.csv")}).exitCode, 2);
 }
 
 TEST(TemplateCommand, AnUnknownRoleIsWrongUsage) {
-  EXPECT_EQ(RunInEnglish({"template", "bogus"}).exitCode, 2);
+  EXPECT_EQ(RunPlateconfig({"template", "bogus"}).exitCode, 2);
 }
 
 }  // namespace

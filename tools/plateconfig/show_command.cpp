@@ -34,18 +34,28 @@ std::string SourceText(Source source) {
   return {};
 }
 
+/// A cell on one line, whatever it holds.
+std::string OneLine(const std::string& gbk) {
+  std::string text;
+  for (const char c : GbkToUtf8(gbk)) {
+    const bool isControl = static_cast<unsigned char>(c) < 0x20;
+    text += c == '\n' ? "\\n" : isControl ? "\xEF\xBF\xBD" : std::string(1, c);  // U+FFFD
+  }
+  return text;
+}
+
 std::string ValueText(const ShownSetting& setting) {
   if (setting.value.empty()) return Say("none", "无");
   std::string text;
   for (const std::string& cell : setting.value) {
     if (!text.empty()) text += ", ";
-    text += cell.empty() ? "\"\"" : GbkToUtf8(cell);
+    text += cell.empty() ? "\"\"" : OneLine(cell);
   }
   return text;
 }
 
 void WriteText(const ShownSetting& setting, std::ostream& out) {
-  out << "  " << GbkToUtf8(setting.schema.column) << " = " << ValueText(setting);
+  out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
   if (!setting.schema.unit.empty() && !setting.value.empty()) out << "  [" << setting.schema.unit << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
