@@ -24,16 +24,24 @@ std::filesystem::path StateFolder() {
 
 constexpr mode_t kOwnerOnly = 0600;
 
+int OpenForAppending(const std::filesystem::path& path) {
+  return open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, kOwnerOnly);
+}
+
 }  // namespace
 
 std::FILE* OpenPlatformDiagnosticFile(Diagnostic which) {
   const std::filesystem::path state = StateFolder();
   if (state.empty()) return nullptr;
   const std::filesystem::path folder = state / "plateconfig";
-  std::error_code ignored;  // A folder that can not be made shows below, when the file can not be opened.
-  std::filesystem::create_directories(folder, ignored);
   const std::filesystem::path path = folder / DiagnosticFileName(which);
-  const int descriptor = open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, kOwnerOnly);
+  int descriptor = OpenForAppending(path);
+  if (descriptor < 0) {
+    // The folder is missing only once, while the file is opened for each line of some traces.
+    std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
+    std::filesystem::create_directories(folder, ignored);
+    descriptor = OpenForAppending(path);
+  }
   if (descriptor < 0) return nullptr;
   std::FILE* file = fdopen(descriptor, "a");
   if (file == nullptr) close(descriptor);
