@@ -17,13 +17,13 @@ namespace plateconfig {
 enum class Format { kText, kJson };
 
 /// What a verb works with.
-struct Session {
+struct Context {
   const Streams& streams;
   Reporter& reporter;
   Format format;
 };
 
-using Verb = std::function<void(Session&)>;
+using Verb = std::function<void(Context&)>;
 
 void AddFolderCommand(CLI::App& app, Verb& chosen);
 void AddProcessCommand(CLI::App& app, Verb& chosen);

@@ -118,8 +118,8 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
   int exitCode = kFine;
   if (!Parse(line, arguments, streams, exitCode)) return exitCode;
   Reporter reporter(streams.err);
-  Session session{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
-  line.verb(session);
+  Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
+  line.verb(context);
   streams.out.flush();
   if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
   return reporter.Result();

@@ -154,16 +154,16 @@ Json ToJson(const PlateInput& input, const ExplanationSink& explanation, const s
           {"refusedRows", rows}};
 }
 
-void RunExplain(const PlateJob& job, Session& session) {
+void RunExplain(const PlateJob& job, Context& context) {
   std::optional<JsonArray> array;
-  if (session.format == Format::kJson) array.emplace(session.streams.out);
-  VisitPlates(job, session,
+  if (context.format == Format::kJson) array.emplace(context.streams.out);
+  VisitPlates(job, context,
               [&](const PlateInput& plate, const RuleTables& tables, const std::vector<ProcessRule>& rules) {
                 ExplanationSink explanation;
                 const std::string text = GbkToUtf8(EvaluatePlate(tables, plate.plate, rules, explanation));
-                if (!explanation.MatchedLine()) session.reporter.CountFinding();
+                if (!explanation.MatchedLine()) context.reporter.CountFinding();
                 array ? array->Add(ToJson(plate, explanation, text))
-                      : WriteText(plate, explanation, text, session.streams.out);
+                      : WriteText(plate, explanation, text, context.streams.out);
               });
 }
 
@@ -175,7 +175,7 @@ void AddExplainCommand(CLI::App& app, Verb& chosen) {
                                   "说明每块板符合哪一规则行，以及之前各行为何不符合"));
   const auto job = std::make_shared<PlateJob>();
   AddPlateOptions(*command, *job);
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunExplain(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunExplain(*job, context); }; });
 }
 
 }  // namespace plateconfig

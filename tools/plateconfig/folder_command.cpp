@@ -62,17 +62,17 @@ void ReportIndex(const ConfigurationIndex& index, Reporter& reporter) {
   }
 }
 
-void RunFolder(Session& session) {
+void RunFolder(Context& context) {
   const auto root = ConfigurationRoot();
   if (!root) {
-    session.reporter.Error({"plateconfig"}, Say("{} is not set; the library then has no configuration folder",
+    context.reporter.Error({"plateconfig"}, Say("{} is not set; the library then has no configuration folder",
                                                 "没有设置 {}；库因此没有配置文件夹", kRootVariable));
     return;
   }
   const ConfigurationIndex index = ReadConfigurationIndex(*root);
-  session.format == Format::kJson ? WriteJson(*root, index, session.streams.out)
-                                  : WriteText(*root, index, session.streams.out);
-  ReportIndex(index, session.reporter);
+  context.format == Format::kJson ? WriteJson(*root, index, context.streams.out)
+                                  : WriteText(*root, index, context.streams.out);
+  ReportIndex(index, context.reporter);
 }
 
 }  // namespace

@@ -20,15 +20,15 @@ struct HoleJob {
   bool explains = false;
 };
 
-std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Session& session) {
+std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
   std::vector<HoleTypeInput> types;
   for (const std::string& file : job.typeFiles) {
     const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
-      std::vector<HoleTypeInput> more = ReadHoleTypes(in, shownAs, session.reporter);
+      std::vector<HoleTypeInput> more = ReadHoleTypes(in, shownAs, context.reporter);
       std::move(more.begin(), more.end(), std::back_inserter(types));
       return more.size();
     };
-    VisitInput(file, session, read,
+    VisitInput(file, context, read,
                Say("no hole type was read from this file", "没有从此文件读到任何孔类型"));
   }
   return types;
@@ -36,14 +36,14 @@ std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Session& session) {
 
 class HoleLoop {
  public:
-  HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Session& session)
-      : job_(job), types_(types), session_(session) {
-    if (session.format == Format::kJson) array_.emplace(session.streams.out);
+  HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Context& context)
+      : job_(job), types_(types), context_(context) {
+    if (context.format == Format::kJson) array_.emplace(context.streams.out);
   }
 
   void VisitFile(const std::string& file) {
     const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
-      const auto holes = ReadHoles(in, shownAs, session_.reporter);
+      const auto holes = ReadHoles(in, shownAs, context_.reporter);
       std::size_t count = 0;
       for (; const std::optional<HoleInput> hole = holes->Next(); ++count) {
         progress.Step();
@@ -51,26 +51,26 @@ class HoleLoop {
       }
       return count;
     };
-    VisitInput(file, session_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
+    VisitInput(file, context_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
   }
 
  private:
   void Visit(const HoleInput& hole) {
     const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
-    if (answer.BestCount() != 1) session_.reporter.CountFinding();
+    if (answer.BestCount() != 1) context_.reporter.CountFinding();
     array_ ? array_->Add(HoleToJson(hole, answer, job_.explains))
-           : WriteHoleText(hole, answer, job_.explains, session_.streams.out);
+           : WriteHoleText(hole, answer, job_.explains, context_.streams.out);
   }
 
   const HoleJob& job_;
   const std::vector<HoleTypeInput>& types_;
-  Session& session_;
+  Context& context_;
   std::optional<JsonArray> array_;
 };
 
-void RunHoles(const HoleJob& job, Session& session) {
-  const std::vector<HoleTypeInput> types = ReadTypeFiles(job, session);
-  HoleLoop loop(job, types, session);
+void RunHoles(const HoleJob& job, Context& context) {
+  const std::vector<HoleTypeInput> types = ReadTypeFiles(job, context);
+  HoleLoop loop(job, types, context);
   for (const std::string& file : job.files) loop.VisitFile(file);
 }
 
@@ -98,7 +98,7 @@ void AddHolesCommand(CLI::App& app, Verb& chosen) {
                        "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
       ->required();
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunHoles(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunHoles(*job, context); }; });
 }
 
 }  // namespace plateconfig

@@ -19,7 +19,7 @@ using ReadInput =
 
 /// Opens the input (UTF-8; "-" is standard input) and has it read. One that can not be opened or read is an
 /// error; `nothingRead` is the warning for one that holds nothing.
-void VisitInput(const std::string& file, Session& session, const ReadInput& read,
+void VisitInput(const std::string& file, Context& context, const ReadInput& read,
                 const std::string& nothingRead);
 
 }  // namespace plateconfig

@@ -11,32 +11,32 @@
 namespace plateconfig {
 namespace {
 
-std::optional<RuleTables> LoadTables(const PlateJob& job, Session& session) {
-  Configuration configuration(job.configuration, session.reporter);
+std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
+  Configuration configuration(job.configuration, context.reporter);
   const auto rules = configuration.Find(Role::kProcessRules);
   const auto settings = configuration.Find(Role::kProcessSettings);
   if (!rules || !settings) return std::nullopt;
   CheckTable(*rules,
              Say("the library then has no rule rows and every process text is empty",
                  "库因此没有任何规则行，所有工艺文本都为空"),
-             session.reporter);
+             context.reporter);
   CheckTable(*settings,
              Say("the library then joins the processes with nothing between them",
                  "库因此在各工艺之间不加任何连接符号"),
-             session.reporter);
+             context.reporter);
   return LoadRuleTables(rules->hostPath, settings->hostPath);
 }
 
 class PlateLoop {
  public:
-  PlateLoop(const PlateJob& job, const RuleTables& tables, Session& session, const PlateVisitor& visit)
-      : job_(job), tables_(tables), vocabulary_(tables.processRules), session_(session), visit_(visit) {}
+  PlateLoop(const PlateJob& job, const RuleTables& tables, Context& context, const PlateVisitor& visit)
+      : job_(job), tables_(tables), vocabulary_(tables.processRules), context_(context), visit_(visit) {}
 
   void VisitFiles() {
     for (const std::string& file : job_.files) VisitFile(file);
     for (const std::string& name : job_.names) {
       if (!found_.contains(name)) {
-        session_.reporter.Warning({"plateconfig"}, Say("no plate has the name {}", "没有名为 {} 的板", name));
+        context_.reporter.Warning({"plateconfig"}, Say("no plate has the name {}", "没有名为 {} 的板", name));
       }
     }
   }
@@ -44,7 +44,7 @@ class PlateLoop {
  private:
   void VisitFile(const std::string& file) {
     VisitInput(
-        file, session_,
+        file, context_,
         [this](std::istream& in, const std::string& shownAs, Progress& progress) {
           return Visit(in, shownAs, progress);
         },
@@ -52,7 +52,7 @@ class PlateLoop {
   }
 
   std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {
-    const auto plates = ReadPlates(in, file, vocabulary_, session_.reporter);
+    const auto plates = ReadPlates(in, file, vocabulary_, context_.reporter);
     std::size_t count = 0;
     while (const std::optional<PlateInput> plate = plates->Next()) {
       ++count;
@@ -76,7 +76,7 @@ class PlateLoop {
   std::set<std::string> found_;  ///< Those of the wanted names that were met.
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
-  Session& session_;
+  Context& context_;
   const PlateVisitor& visit_;
 };
 
@@ -98,10 +98,10 @@ void AddPlateOptions(CLI::App& command, PlateJob& job) {
       ->required();
 }
 
-void VisitPlates(const PlateJob& job, Session& session, const PlateVisitor& visit) {
-  const std::optional<RuleTables> tables = LoadTables(job, session);
+void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit) {
+  const std::optional<RuleTables> tables = LoadTables(job, context);
   if (!tables) return;
-  PlateLoop(job, *tables, session, visit).VisitFiles();
+  PlateLoop(job, *tables, context, visit).VisitFiles();
 }
 
 }  // namespace plateconfig

@@ -26,6 +26,6 @@ using PlateVisitor = std::function<void(const PlateInput& plate, const RuleTable
                                         const std::vector<ProcessRule>& rules)>;
 
 /// Loads the tables and visits every plate of every file; mistakes are reported and passed over.
-void VisitPlates(const PlateJob& job, Session& session, const PlateVisitor& visit);
+void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit);
 
 }  // namespace plateconfig

@@ -35,16 +35,16 @@ nlohmann::ordered_json ToJson(const PlateInput& plate, std::optional<int> line, 
   return {{"name", plate.name}, {"line", line ? nlohmann::ordered_json(*line) : nullptr}, {"text", text}};
 }
 
-void RunProcess(const PlateJob& job, Session& session) {
+void RunProcess(const PlateJob& job, Context& context) {
   std::optional<JsonArray> array;
-  if (session.format == Format::kJson) array.emplace(session.streams.out);
-  VisitPlates(job, session,
+  if (context.format == Format::kJson) array.emplace(context.streams.out);
+  VisitPlates(job, context,
               [&](const PlateInput& plate, const RuleTables& tables, const std::vector<ProcessRule>& rules) {
                 MatchSink match;
                 const std::string text = GbkToUtf8(EvaluatePlate(tables, plate.plate, rules, match));
-                if (!match.line) session.reporter.CountFinding();
+                if (!match.line) context.reporter.CountFinding();
                 array ? array->Add(ToJson(plate, match.line, text))
-                      : WriteText(plate, match.line, text, session.streams.out);
+                      : WriteText(plate, match.line, text, context.streams.out);
               });
 }
 
@@ -55,7 +55,7 @@ void AddProcessCommand(CLI::App& app, Verb& chosen) {
       app, "process", Say("print the manufacturing-process text of each plate", "输出每块板的制造工艺文本"));
   const auto job = std::make_shared<PlateJob>();
   AddPlateOptions(*command, *job);
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunProcess(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunProcess(*job, context); }; });
 }
 
 }  // namespace plateconfig

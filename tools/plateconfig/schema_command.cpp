@@ -115,15 +115,15 @@ std::string Written(const std::string& format) {
   return out.str();
 }
 
-void RunSchema(const SchemaJob& job, Session& session) {
+void RunSchema(const SchemaJob& job, Context& context) {
   const std::string format = !job.format.empty()               ? job.format
-                             : session.format == Format::kJson ? std::string("json")
+                             : context.format == Format::kJson ? std::string("json")
                                                                : std::string("text");
   const std::string text = Written(format);
   if (job.output.empty()) {
-    session.streams.out << text;
+    context.streams.out << text;
   } else {
-    WriteOutputFile(job.output, text, IfPresent::kReplace, session.reporter);
+    WriteOutputFile(job.output, text, IfPresent::kReplace, context.reporter);
   }
 }
 
@@ -139,7 +139,7 @@ void AddSchemaCommand(CLI::App& app, Verb& chosen) {
       ->type_name("text|json|markdown");
   command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunSchema(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunSchema(*job, context); }; });
 }
 
 }  // namespace plateconfig

@@ -111,16 +111,16 @@ bool IsWanted(const ShowJob& job, std::string_view role) {
   return job.roles.empty() || std::find(job.roles.begin(), job.roles.end(), role) != job.roles.end();
 }
 
-void RunShow(const ShowJob& job, Session& session) {
-  Configuration configuration(job.configuration, session.reporter);
+void RunShow(const ShowJob& job, Context& context) {
+  Configuration configuration(job.configuration, context.reporter);
   std::optional<JsonArray> array;
-  if (session.format == Format::kJson) array.emplace(session.streams.out);
+  if (context.format == Format::kJson) array.emplace(context.streams.out);
   for (const TableSchema& table : FullSchema()) {
     const auto role = FindRole(table.role);
     if (!role || !IsWanted(job, table.role)) continue;
     const std::optional<TableFile> file = configuration.FindOptional(*role);
-    const std::vector<ShownSetting> settings = SettingsOf(table, file, session.reporter);
-    if (!array) WriteText(table, file, settings, session.streams.out);
+    const std::vector<ShownSetting> settings = SettingsOf(table, file, context.reporter);
+    if (!array) WriteText(table, file, settings, context.streams.out);
     for (const ShownSetting& setting : settings) {
       if (array) array->Add(ToJson(table, file, setting));
     }
@@ -144,7 +144,7 @@ void AddShowCommand(CLI::App& app, Verb& chosen) {
   command->add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
       ->check(CLI::IsMember(std::vector<std::string>(kRoleNames.begin(), kRoleNames.end())).description(""));
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunShow(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunShow(*job, context); }; });
 }
 
 }  // namespace plateconfig

@@ -15,12 +15,12 @@ struct TemplateJob {
   bool force = false;
 };
 
-void RunTemplate(const TemplateJob& job, Session& session) {
+void RunTemplate(const TemplateJob& job, Context& context) {
   const std::string table = TableTemplate(*FindTableSchema(job.role));
   if (job.output.empty()) {
-    session.streams.out << table;
+    context.streams.out << table;
   } else {
-    WriteOutputFile(job.output, table, job.force ? IfPresent::kReplace : IfPresent::kKeep, session.reporter);
+    WriteOutputFile(job.output, table, job.force ? IfPresent::kReplace : IfPresent::kKeep, context.reporter);
   }
 }
 
@@ -43,7 +43,7 @@ void AddTemplateCommand(CLI::App& app, Verb& chosen) {
   command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));
   command->add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
-  command->callback([job, &chosen] { chosen = [job](Session& session) { RunTemplate(*job, session); }; });
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunTemplate(*job, context); }; });
 }
 
 }  // namespace plateconfig
