@@ -102,7 +102,7 @@ TEST(SchemaCommand, AFileIsWrittenWholeAndReplaced) {
   folder.WriteBytes("表.md", "old");
   const std::string path = ArgumentPath(folder, "表.md");
   EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
-  EXPECT_EQ(ReadBytes(folder.Path() / "表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
 }
 
 }  // namespace

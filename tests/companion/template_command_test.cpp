@@ -165,7 +165,7 @@ TEST(TemplateCommand, WritesTheSameBytesIntoAFile) {
   const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
   EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_THAT(run.out, IsEmpty());
-  EXPECT_EQ(ReadBytes(folder.Path() / "密度.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"密度.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
 }
 
 TEST(TemplateCommand, AnExistingFileIsKeptUnlessForced) {

@@ -11,7 +11,6 @@
 #include <random>
 #include <string>
 
-#include "config/numbers.h"
 #include "holes/hole_type_info.h"
 #include "support/allocation_count.h"
 
@@ -25,11 +24,12 @@ double CutText(double value, int decimals) {
   std::string kept = text;
   const std::size_t point = kept.find('.');
   if (point != std::string::npos) kept = kept.substr(0, point + 1 + static_cast<std::size_t>(decimals));
-  return ParseDouble(kept);  // As atof reads, except that Windows' does not know "nan".
+  return std::strtod(kept.c_str(), nullptr);  // As atof should read; on Windows it knows no "nan".
 }
 
+/// All that is no number counts as the same: its sign is not printed on every system.
 std::uint64_t Bits(double value) {
-  return std::bit_cast<std::uint64_t>(value);
+  return std::bit_cast<std::uint64_t>(std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value);
 }
 
 /// Numbers of every sort that matters, from a fixed seed.

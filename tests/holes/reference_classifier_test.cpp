@@ -18,7 +18,7 @@ double NaiveCut(double value) {
   char text[400];
   std::snprintf(text, sizeof text, "%.9f", value);
   const std::string whole = text;
-  return std::atof(whole.substr(0, whole.find('.') + 5).c_str());
+  return std::strtod(whole.substr(0, whole.find('.') + 5).c_str(), nullptr);
 }
 
 struct NaiveAnswer {

@@ -140,7 +140,7 @@ class Evaluation {
   Range RangeOf(std::size_t line, std::string_view column) const {
     const auto pieces = Pieces(CellOf(table_, line, column));
     if (pieces.size() != 2) return {};
-    return {std::atof(pieces[0].c_str()), std::atof(pieces[1].c_str())};
+    return {std::strtod(pieces[0].c_str(), nullptr), std::strtod(pieces[1].c_str(), nullptr)};
   }
 
   bool HasRows() const {
@@ -251,7 +251,7 @@ void FeedDiameters(ReferenceRule& rule, const std::vector<double>& diameters) {
   rule.valid = false;
   for (const std::string& piece : Pieces(rule.value)) {
     for (const double diameter : diameters) {
-      if (std::abs(diameter - std::atof(piece.c_str())) < 0.0001) rule.valid = true;
+      if (std::abs(diameter - std::strtod(piece.c_str(), nullptr)) < 0.0001) rule.valid = true;
     }
   }
 }

@@ -28,7 +28,8 @@ inline CompanionResult RunPlateconfig(std::vector<std::string> arguments, const 
   const ScopedVariable locale("LC_ALL", "C.UTF-8");
 #ifdef _WIN32
   // The last one counts, and there the language is not a variable's.
-  if (std::find(arguments.begin(), arguments.end(), "--lang") == arguments.end())
+  const auto isLanguage = [](const std::string& argument) { return argument.starts_with("--lang"); };
+  if (std::none_of(arguments.begin(), arguments.end(), isLanguage))
     arguments.insert(arguments.begin(), {"--lang", "en"});
 #endif
   std::istringstream input(in);

@@ -69,6 +69,7 @@ struct CommandLine {
                 "在 CAD 系统之外运行绘图工具的规则，并解释每一个决定。"),
             "plateconfig") {
     TranslateLabels(app);
+    app.allow_windows_style_options(false);  // A leading slash is a path everywhere.
     app.set_help_flag("-h,--help", HelpDescription());
     app.set_version_flag("--version", PLATECONFIG_VERSION, Say("print the version and stop", "显示版本"));
     app.require_subcommand(1);
