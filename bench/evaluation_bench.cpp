@@ -1,5 +1,5 @@
-// What the evaluation of forty plates costs against a small and a large rule table, and how much the trace adds. The
-// ratios come from the same run, so that they hold on a busy machine too.
+// What the evaluation of forty plates costs against a small and a large rule table, and how much the trace
+// adds. The ratios come from the same run, so that they hold on a busy machine too.
 
 #include <benchmark/benchmark.h>
 
@@ -31,11 +31,14 @@ std::string ProcessName(int process) {
 
 /// Rows run from small plates to large ones, as a shop orders them.
 std::string RuleTableText(int rows) {
-  std::string text("通用要求,通用参数,排工艺顺序,模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,材质要求"_gbk);
+  std::string text(
+      "通用要求,通用参数,排工艺顺序,模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,材质要求"_gbk);
   for (int process = 0; process < kProcesses; ++process) text += "," + ProcessName(process);
   for (int row = 0; row < rows; ++row) {
     text += "\n";
-    text += row == 0 ? std::string("软料（体颜色）,12_87_130"_gbk) : row == 1 ? std::string("有型面,186_190"_gbk) : ",";
+    text += row == 0   ? std::string("软料（体颜色）,12_87_130"_gbk)
+            : row == 1 ? std::string("有型面,186_190"_gbk)
+                       : ",";
     text += "," + (row < kProcesses ? ProcessName(row) : std::string());
     text += ",12," + std::to_string(row * 1000 / rows) + "_" + std::to_string((row + 1) * 1000 / rows);
     text += ",50_1200,10_400,0_2500,,";
@@ -46,7 +49,8 @@ std::string RuleTableText(int rows) {
 }
 
 RuleTables LoadTables(int rows) {
-  const auto path = std::filesystem::temp_directory_path() / ("evaluation_bench_" + std::to_string(rows) + ".csv");
+  const auto path =
+      std::filesystem::temp_directory_path() / ("evaluation_bench_" + std::to_string(rows) + ".csv");
   std::ofstream(path, std::ios::binary) << RuleTableText(rows);
   RuleTables tables = plateconfig::LoadRuleTables(path.string(), "");
   std::filesystem::remove(path);
@@ -101,7 +105,12 @@ void EvaluateFortyPlates(benchmark::State& state) {
   state.counters["us_per_plate_traced"] = on / evaluations * 1e6;
   state.counters["traced_over_silent"] = on / off;
 }
-BENCHMARK(EvaluateFortyPlates)->ArgName("rows")->Arg(70)->Arg(2000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(EvaluateFortyPlates)
+    ->ArgName("rows")
+    ->Arg(70)
+    ->Arg(2000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
 
 /// How the time grows with the table: 1 would be in step with the number of rows.
 void LargeTableOverSmall(benchmark::State& state) {

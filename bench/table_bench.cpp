@@ -133,7 +133,8 @@ const bool kRegistered = [] {
     Register(shape, "read", Read);
     Register(shape, "scan", Scan);
   }
-  // Last of all: the memory that it gives back piece by piece would be at hand for the ways that come after it.
+  // Last of all: the memory that it gives back piece by piece would be at hand for the ways that come after
+  // it.
   for (const TableShape& shape : TableShapes()) Register(shape, "getline", LoadWithGetline);
   return true;
 }();

@@ -28,8 +28,8 @@ class PLATECONFIG_API ReadConfigFile {
   virtual ~ReadConfigFile();
 
   /// Reads the whole file. `path` is a host path (GBK on a Chinese Windows). False when the file can not be
-  /// opened or read (missing, a directory, no rights, 4 GiB or more, no memory): the reader is empty then. An empty file
-  /// is true and has no columns. A second call replaces the table.
+  /// opened or read (missing, a directory, no rights, 4 GiB or more, no memory): the reader is empty then. An
+  /// empty file is true and has no columns. A second call replaces the table.
   bool OpenConfigFile(const std::string& path);
 
   /// Has nothing left to release: the file is closed as soon as it was read. The table stays, and the call is

@@ -3,8 +3,8 @@
 // One segment of a combined hole: a coaxial piece of one diameter.
 //
 // The drawing tool fills these records, and a hole's lists cross the library's border as they lie in memory.
-// The members that the library reads therefore keep their places; the `caller...` members belong to the drawing
-// tool, and nothing here reads them.
+// The members that the library reads therefore keep their places; the `caller...` members belong to the
+// drawing tool, and nothing here reads them.
 
 #include <cstddef>
 

@@ -40,8 +40,8 @@ class TraceSink : public EvaluationSink {
   std::string text_;
 };
 
-/// The sink of one evaluation: the trace when `file` is open, else one that ignores every step, so that nothing is
-/// formatted for a file that is not there.
+/// The sink of one evaluation: the trace when `file` is open, else one that ignores every step, so that
+/// nothing is formatted for a file that is not there.
 std::unique_ptr<EvaluationSink> MakeTraceSink(DiagnosticFile& file);
 
 }  // namespace plateconfig

@@ -10,7 +10,7 @@
 #include "settings/system_default_keys.h"
 
 using plateconfig::Loader;
-using plateconfig::literals::operator""_gbk;
+using namespace plateconfig::literals;
 
 SystemDefault::SystemDefault(const std::string& systemTablePath, const std::string& layerTablePath)
     : configFilePath(systemTablePath) {

@@ -117,7 +117,16 @@ TEST(PosixFile, OfFourGibibytesIsRefusedWithoutBeingRead) {
   EXPECT_FALSE(ReadConfigFile().OpenConfigFile(path));
 }
 
-#ifndef __SANITIZE_ADDRESS__  // Which ends the program when there is no memory.
+// The address sanitizer ends the program when there is no memory. Each compiler has its own way of telling.
+#if defined(__SANITIZE_ADDRESS__)
+#define HAS_ADDRESS_SANITIZER 1
+#elif defined(__has_feature)
+#define HAS_ADDRESS_SANITIZER __has_feature(address_sanitizer)
+#else
+#define HAS_ADDRESS_SANITIZER 0
+#endif
+
+#if !HAS_ADDRESS_SANITIZER
 /// Lets the program have no more than this many bytes of addresses until the end of the test.
 class ScopedMemoryLimit {
  public:

@@ -210,7 +210,8 @@ TEST(EvaluationSteps, TheFirstFailingConditionEndsTheRow) {
   EXPECT_EQ(Steps(tables, MakePlate(15)), "row2 length+ width-");
   EXPECT_EQ(Steps(tables, MakePlate(15, 15)), "row2 length+ width+ height-");
   EXPECT_EQ(Steps(tables, MakePlate(15, 15, 15)), "row2 length+ width+ height+ weight-");
-  EXPECT_EQ(Steps(tables, MakePlate(15, 15, 15, 15)), "row2 length+ width+ height+ weight+ material+ profile-");
+  EXPECT_EQ(Steps(tables, MakePlate(15, 15, 15, 15)),
+            "row2 length+ width+ height+ weight+ material+ profile-");
 }
 
 TEST(EvaluationSteps, MaterialComesBeforeProfileBeforeWireCutting) {

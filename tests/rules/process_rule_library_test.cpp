@@ -1,7 +1,7 @@
 #include "rules/process_rule_library.h"
 
-#include <NXOpen/Body.hxx>
 #include <gtest/gtest.h>
+#include <NXOpen/Body.hxx>
 
 #include <string>
 #include <vector>
@@ -25,12 +25,14 @@ class ProcessRuleLibraryTest : public testing::Test {
 constexpr std::string_view kRules =
     "通用要求,通用参数,排工艺顺序,排顺序工艺类型,顺序工艺参数值,"
     "模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,有无线割,材质要求,钻孔,攻牙,磨平\n"
-    "软料（体颜色）,12,钻孔,圆孔直径,6_8.5,3,100_200,50_100,10_30,5_20,有型面,有线割,软料（体颜色）,钻,攻,磨\n"
+    "软料（体颜色）,12,钻孔,圆孔直径,6_8.5,3,100_200,50_100,10_30,5_20,有型面,有线割,软料（体颜色）,钻,攻,"
+    "磨\n"
     "有型面,186,攻牙,圆孔颜色,6_7,4,100_200,50_100,10_30,5_20,,,,drill,tap,grind\n"
     "有线割,103,磨平,自定义追加工艺,,,,,,,,,,,,\n";
 
 constexpr std::string_view kSettings =
-    "连接符号,输入文字方式,制造流程左边距,制造流程顶边距,制造流程CAD图层,制造流程文字样式,输出行号,追加到材料信息后面\n"
+    "连接符号,输入文字方式,制造流程左边距,制造流程顶边距,制造流程CAD图层,制造流程文字样式,输出行号,"
+    "追加到材料信息后面\n"
     "→,Y,12.5,8,201,仿宋,N,Y\n";
 
 /// The three rules, all of which apply.

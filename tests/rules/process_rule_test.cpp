@@ -59,17 +59,28 @@ TEST(ProcessRule, KeepsItsNameAndType) {
 
 TEST(ProcessRule, TypesKeepTheirNumbers) {
   const std::vector<std::pair<ProcessRule::RuleType, int>> types = {
-      {ProcessRule::CustomProcess, 0},           {ProcessRule::HasRoundHole, 1},
-      {ProcessRule::HasIrregularSlot, 2},        {ProcessRule::HasThroughSlot, 3},
-      {ProcessRule::HasThroughVerticalSlot, 4},  {ProcessRule::HasThroughSpecialSlot, 5},
-      {ProcessRule::HasBlindSlot, 6},            {ProcessRule::HasBlindNormalSlot, 7},
-      {ProcessRule::HasBlindSpecialSlot4, 8},    {ProcessRule::HasBlindSpecialSlot5, 9},
-      {ProcessRule::MachiningColor, 10},         {ProcessRule::RoundHoleColor, 11},
-      {ProcessRule::RoundHoleDiameter, 12},      {ProcessRule::HoleCountAtLeast, 13},
-      {ProcessRule::HoleCountBelow, 14},         {ProcessRule::ThroughSlotColor, 15},
-      {ProcessRule::ThroughVerticalSlotColor, 16}, {ProcessRule::ThroughSpecialSlotColor, 17},
-      {ProcessRule::BlindSlotColor, 18},         {ProcessRule::BlindNormalSlotColor, 19},
-      {ProcessRule::BlindSpecialSlotColor4, 20}, {ProcessRule::BlindSpecialSlotColor5, 21}};
+      {ProcessRule::CustomProcess, 0},
+      {ProcessRule::HasRoundHole, 1},
+      {ProcessRule::HasIrregularSlot, 2},
+      {ProcessRule::HasThroughSlot, 3},
+      {ProcessRule::HasThroughVerticalSlot, 4},
+      {ProcessRule::HasThroughSpecialSlot, 5},
+      {ProcessRule::HasBlindSlot, 6},
+      {ProcessRule::HasBlindNormalSlot, 7},
+      {ProcessRule::HasBlindSpecialSlot4, 8},
+      {ProcessRule::HasBlindSpecialSlot5, 9},
+      {ProcessRule::MachiningColor, 10},
+      {ProcessRule::RoundHoleColor, 11},
+      {ProcessRule::RoundHoleDiameter, 12},
+      {ProcessRule::HoleCountAtLeast, 13},
+      {ProcessRule::HoleCountBelow, 14},
+      {ProcessRule::ThroughSlotColor, 15},
+      {ProcessRule::ThroughVerticalSlotColor, 16},
+      {ProcessRule::ThroughSpecialSlotColor, 17},
+      {ProcessRule::BlindSlotColor, 18},
+      {ProcessRule::BlindNormalSlotColor, 19},
+      {ProcessRule::BlindSpecialSlotColor4, 20},
+      {ProcessRule::BlindSpecialSlotColor5, 21}};
   for (const auto& [type, number] : types) EXPECT_EQ(static_cast<int>(type), number);
 }
 

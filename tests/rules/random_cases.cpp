@@ -29,9 +29,10 @@ Texts InGbk(std::initializer_list<std::string_view> utf8) {
 std::string RangeCell(Random& random) {
   static const Texts minima = InGbk({"0", "10", "20.5", " 0", "x", "-5", "", "10mm", "0x10"});
   static const Texts maxima = InGbk({"100", "200", "1e3", "300mm", "100.25", "+150", "999999"});
-  static const Texts oddities = InGbk({"_",     "10",        "10_20_30", "__",      "200_10",  "10_",   "_10",
-                                 "10-90", "乢5_90", "乢90",  "nan_100", "0_inf",   "-inf_9", "1e-5_1234567",
-                                 "a_b",   "10_20_",    " ",        "0_1e400", "0_0.001", "5_5"});
+  static const Texts oddities =
+      InGbk({"_",     "10",     "10_20_30", "__",      "200_10",  "10_",    "_10",
+             "10-90", "乢5_90", "乢90",     "nan_100", "0_inf",   "-inf_9", "1e-5_1234567",
+             "a_b",   "10_20_", " ",        "0_1e400", "0_0.001", "5_5"});
   if (random.Chance(25)) return "";
   if (random.Chance(10)) return random.Pick(oddities);
   return random.Pick(minima) + "_" + random.Pick(maxima);
@@ -56,7 +57,8 @@ std::string ConditionTextCell(Random& random) {
 }
 
 std::string ConditionValueCell(Random& random) {
-  static const Texts values = InGbk({"", "3", "1_5", "6_8.5_10", "x_2", "10.00005", "2", "-1", "乢7", "8.5", "3_4_"});
+  static const Texts values =
+      InGbk({"", "3", "1_5", "6_8.5_10", "x_2", "10.00005", "2", "-1", "乢7", "8.5", "3_4_"});
   return random.Chance(30) ? ColorList(random, 3) : random.Pick(values);
 }
 
@@ -72,14 +74,14 @@ std::string ProcessNameCell(Random& random) {
 }
 
 std::string ProcessTextCell(Random& random) {
-  static const Texts texts = InGbk({"钻5", "攻牙,有效牙深2D", "\"x\"", "one\ntwo", "one\r\ntwo", " ",
-                              "→",   "5\" drill",           "0",     "乢"});
+  static const Texts texts =
+      InGbk({"钻5", "攻牙,有效牙深2D", "\"x\"", "one\ntwo", "one\r\ntwo", " ", "→", "5\" drill", "0", "乢"});
   return random.Chance(15) ? "" : random.Pick(texts);
 }
 
 std::string MaterialCell(Random& random) {
-  static const Texts cells = InGbk({"软料（体颜色）", "软料（体颜色）", "硬料（体颜色）", "",
-                              "软料（体颜色） ", "P20"});
+  static const Texts cells =
+      InGbk({"软料（体颜色）", "软料（体颜色）", "硬料（体颜色）", "", "软料（体颜色） ", "P20"});
   return random.Pick(cells);
 }
 
@@ -111,9 +113,9 @@ std::string CellFor(std::string_view column, Random& random) {
 // ---- tables ----
 
 std::vector<std::string> Header(Random& random) {
-  static const Texts columns = InGbk({"通用要求", "通用参数", "排工艺顺序", "排顺序工艺类型",
-                                "顺序工艺参数值", "模板所在图层", "长度范围", "宽度范围",
-                                "厚度范围", "重量范围", "有无型面", "有无线割", "材质要求"});
+  static const Texts columns =
+      InGbk({"通用要求", "通用参数", "排工艺顺序", "排顺序工艺类型", "顺序工艺参数值", "模板所在图层",
+             "长度范围", "宽度范围", "厚度范围", "重量范围", "有无型面", "有无线割", "材质要求"});
   std::vector<std::string> header;
   for (const std::string& column : columns) {
     if (!random.Chance(2)) header.push_back(column);
@@ -135,7 +137,8 @@ Cells Table(Random& random) {
   for (int row = 0; row < rows; ++row) {
     std::vector<std::string> cells;
     for (const std::string& column : table[0]) cells.push_back(CellFor(column, random));
-    if (random.Chance(5)) cells.resize(static_cast<std::size_t>(random.Below(static_cast<int>(cells.size()) + 1)));
+    if (random.Chance(5))
+      cells.resize(static_cast<std::size_t>(random.Below(static_cast<int>(cells.size()) + 1)));
     if (random.Chance(3)) cells.emplace_back("beyond the header");
     table.push_back(cells);
   }
@@ -162,9 +165,15 @@ double NearABound(const Cells& table, std::string_view column, Random& random) {
   const double minimum = std::strtod(cell.c_str(), nullptr);
   const double maximum = separator == std::string::npos ? 999999 : std::strtod(cell.c_str() + separator + 1, nullptr);
   const double top = maximum + 0.001;
-  const double values[] = {minimum,       minimum - 0.0005, std::nextafter(minimum, minimum - 1),
-                           maximum,       maximum + 0.0005, maximum + 0.002,
-                           top,           std::nextafter(top, top + 1), std::nextafter(top, top - 1)};
+  const double values[] = {minimum,
+                           minimum - 0.0005,
+                           std::nextafter(minimum, minimum - 1),
+                           maximum,
+                           maximum + 0.0005,
+                           maximum + 0.002,
+                           top,
+                           std::nextafter(top, top + 1),
+                           std::nextafter(top, top - 1)};
   const double value = random.Pick(values);
   return std::isfinite(value) ? value : 50;
 }

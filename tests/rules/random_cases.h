@@ -1,7 +1,7 @@
 #pragma once
 
-// Random rule tables and plates: small enough to meet often, wide enough to hold every oddity of a table that people
-// keep by hand.
+// Random rule tables and plates: small enough to meet often, wide enough to hold every oddity of a table that
+// people keep by hand.
 
 #include <cstddef>
 #include <cstdint>

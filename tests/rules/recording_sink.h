@@ -21,7 +21,8 @@ class RecordingSink : public EvaluationSink {
     Note(passed ? "material+" : "material-");
   }
   void OnFaces(Condition condition, bool wanted, bool present) override {
-    Note(std::string(condition == Condition::kProfile ? "profile" : "wire") + (wanted == present ? "+" : "-"));
+    Note(std::string(condition == Condition::kProfile ? "profile" : "wire") +
+         (wanted == present ? "+" : "-"));
   }
   void OnMatch(const RuleRow& row, const std::string&) override { matchedLine = row.lineNumber; }
   bool WantsEveryCondition() const override { return everyCondition_; }

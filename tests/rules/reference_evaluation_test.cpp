@@ -1,8 +1,8 @@
-// The real evaluation against the naive one, on random tables and plates: from the files on the disk to the text, the
-// matching line and every byte of the trace.
+// The real evaluation against the naive one, on random tables and plates: from the files on the disk to the
+// text, the matching line and every byte of the trace.
 
-#include <NXOpen/Body.hxx>
 #include <gtest/gtest.h>
+#include <NXOpen/Body.hxx>
 
 #include <array>
 #include <cstdlib>
@@ -70,7 +70,13 @@ void Feed(ProcessRule& rule, const ReferenceFeature& feature) {
 
 Plate MeasuredPlate(const ReferencePlate& plate) {
   const std::set<int> faces(plate.faceColors.begin(), plate.faceColors.end());
-  return {plate.length, plate.width, plate.height, plate.weight, plate.layer, plate.color, {faces.begin(), faces.end()}};
+  return {plate.length,
+          plate.width,
+          plate.height,
+          plate.weight,
+          plate.layer,
+          plate.color,
+          {faces.begin(), faces.end()}};
 }
 
 /// Writes the trace and notes the matching line.
@@ -131,7 +137,7 @@ class Batch {
   static constexpr std::size_t kCasesPerLibrary = 10;
 
   static void FeedAndCompare(std::vector<ProcessRule>& rules, const std::vector<ReferenceRule>& naive,
-                           const RandomCase& item) {
+                             const RandomCase& item) {
     ASSERT_EQ(rules.size(), naive.size()) << GbkToUtf8(item.csv);
     for (std::size_t i = 0; i < rules.size(); ++i) {
       Feed(rules[i], item.features[i]);

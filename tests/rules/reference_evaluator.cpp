@@ -107,9 +107,13 @@ int TypeNumber(const std::string& text) {
 class Evaluation {
  public:
   Evaluation(const Cells& table, const Cells& settings, const ReferencePlate& plate)
-      : table_(table), settings_(settings), plate_(plate), faces_(plate.faceColors.begin(), plate.faceColors.end()) {
+      : table_(table),
+        settings_(settings),
+        plate_(plate),
+        faces_(plate.faceColors.begin(), plate.faceColors.end()) {
     trace_.imbue(std::locale::classic());
-    for (const std::string_view name : {"软料（体颜色）"_gbk, "硬料（体颜色）"_gbk, "有线割"_gbk, "有型面"_gbk}) {
+    for (const std::string_view name :
+         {"软料（体颜色）"_gbk, "硬料（体颜色）"_gbk, "有线割"_gbk, "有型面"_gbk}) {
       parameters_[name] = Parameter(table, name);
     }
   }

@@ -1,7 +1,8 @@
 #pragma once
 
-// A second, naive evaluation of plates against rule tables: straight from cells, every lookup a search, every row
-// tested in one plain function. It shares no code with the real one, so that an error would have to be made twice.
+// A second, naive evaluation of plates against rule tables: straight from cells, every lookup a search, every
+// row tested in one plain function. It shares no code with the real one, so that an error would have to be
+// made twice.
 
 #include <array>
 #include <string>
@@ -40,8 +41,9 @@ struct ReferenceRule {
 
 struct ReferenceResult {
   std::string text;
-  int line = 0;                   ///< Line of the matching row, 0 when there is none.
-  std::array<int, 7> refusals{};  ///< Rows refused by length, width, height, weight, material, profile, wire cutting.
+  int line = 0;  ///< Line of the matching row, 0 when there is none.
+  std::array<int, 7>
+      refusals{};  ///< Rows refused by length, width, height, weight, material, profile, wire cutting.
   std::string trace;
 };
 

@@ -27,7 +27,8 @@ RuleTables LoadSettings(std::string_view settings) {
 
 TEST(RuleTableSettings, EachKeyIsReadFromTheFirstDataRow) {
   const RuleTables tables = LoadSettings(
-      "连接符号,输入文字方式,制造流程左边距,制造流程顶边距,制造流程CAD图层,制造流程文字样式,输出行号,追加到材料信息后面\n"
+      "连接符号,输入文字方式,制造流程左边距,制造流程顶边距,制造流程CAD图层,制造流程文字样式,输出行号,"
+      "追加到材料信息后面\n"
       "→,Y,12.5,8,201,仿宋,Y,Y\n"
       "+,N,1,2,3,Arial,N,N\n");
   EXPECT_EQ(tables.connectText, Gbk("→"));
@@ -64,8 +65,8 @@ TEST(RuleTableSettings, MissingKeysAndMissingRowsReadTheSame) {
 
 TEST(RuleTableSettings, OnlyTheUpperCaseLetterAloneIsYes) {
   for (const std::string_view cell : {"y", "Y ", " Y", "YES", "N", "是", "1", ""}) {
-    const RuleTables tables = LoadSettings("输入文字方式,输出行号,追加到材料信息后面\n" + std::string(cell) + "," +
-                                           std::string(cell) + "," + std::string(cell) + "\n");
+    const RuleTables tables = LoadSettings("输入文字方式,输出行号,追加到材料信息后面\n" + std::string(cell) +
+                                           "," + std::string(cell) + "," + std::string(cell) + "\n");
     EXPECT_FALSE(tables.singleLine) << cell;
     EXPECT_FALSE(tables.outputLineNumber) << cell;
     EXPECT_FALSE(tables.appendAttribute) << cell;
@@ -79,8 +80,7 @@ TEST(RuleTableSettings, EachFlagHasItsOwnKey) {
 }
 
 TEST(RuleTableSettings, NumbersAreReadUpToTheirFirstStrangeCharacter) {
-  const RuleTables tables =
-      LoadSettings("制造流程左边距,制造流程顶边距,制造流程CAD图层\n12.5mm,x,201.9\n");
+  const RuleTables tables = LoadSettings("制造流程左边距,制造流程顶边距,制造流程CAD图层\n12.5mm,x,201.9\n");
   EXPECT_EQ(tables.leftMargin, 12.5);
   EXPECT_EQ(tables.topMargin, 0.0);
   EXPECT_EQ(tables.textLayer, 201);
@@ -139,7 +139,9 @@ bool HasNumber(const ProcessRule& rule, int number) {
 }
 
 ProcessRule::RuleType TypeOf(std::string_view text) {
-  return LoadTexts("排工艺顺序,排顺序工艺类型\n钻孔," + std::string(text) + "\n").processRules.at(0).GetRuleType();
+  return LoadTexts("排工艺顺序,排顺序工艺类型\n钻孔," + std::string(text) + "\n")
+      .processRules.at(0)
+      .GetRuleType();
 }
 
 TEST(RuleTableProcesses, StandInTheOrderOfTheList) {
@@ -202,7 +204,8 @@ TEST(RuleTableProcesses, OneNameMayComeTwice) {
 // ---- rule rows ----
 
 RuleRow LoadRow(std::string_view column, std::string_view cell) {
-  const RuleTables tables = LoadTexts(std::string("模板所在图层,") + std::string(column) + "\n1," + std::string(cell) + "\n");
+  const RuleTables tables =
+      LoadTexts(std::string("模板所在图层,") + std::string(column) + "\n1," + std::string(cell) + "\n");
   return tables.ruleRows.at(0);
 }
 
@@ -231,7 +234,7 @@ TEST(RuleTableRanges, AnyOtherCountOfPiecesKeepsTheDefaults) {
 
 TEST(RuleTableRanges, PiecesThatAreNoNumbersReadAsZero) {
   const std::pair<std::string_view, Range> cells[] = {
-      {"10_", {10, 0}}, {"_200", {0, 200}},      {"_", {0, 0}},
+      {"10_", {10, 0}}, {"_200", {0, 200}},       {"_", {0, 0}},
       {"a_b", {0, 0}},  {"10mm_1e3", {10, 1000}}, {"200_10", {200, 10}}};
   for (const auto& [cell, range] : cells) {
     const RuleRow row = LoadRow("长度范围", cell);
@@ -269,7 +272,8 @@ TEST(RuleTableRows, ALayerThatIsNoNumberIsARowOnLayerZero) {
   EXPECT_EQ(LoadTexts("模板所在图层\nx\n").ruleRows.at(0).layer, 0);
 }
 
-constexpr std::string_view kMaterials = "通用要求,通用参数,模板所在图层,材质要求\n软料（体颜色）,12,,\n硬料（体颜色）,42,,\n";
+constexpr std::string_view kMaterials =
+    "通用要求,通用参数,模板所在图层,材质要求\n软料（体颜色）,12,,\n硬料（体颜色）,42,,\n";
 
 TEST(RuleTableRows, TheSoftMaterialSelectsTheSoftColors) {
   const RuleTables tables = LoadTexts(Joined(kMaterials, ",,1,软料（体颜色）\n"));
@@ -300,8 +304,7 @@ TEST(RuleTableRows, ProfileAndWireCuttingAreWantedByTheirExactTexts) {
 }
 
 TEST(RuleTableRows, EveryRowHoldsTheTablesFaceColors) {
-  const RuleTables tables =
-      LoadTexts("模板所在图层,通用要求,通用参数\n1,有型面,186_190\n2,有线割,103\n");
+  const RuleTables tables = LoadTexts("模板所在图层,通用要求,通用参数\n1,有型面,186_190\n2,有线割,103\n");
   ASSERT_EQ(tables.ruleRows.size(), 2u);
   for (const RuleRow& row : tables.ruleRows) {
     EXPECT_THAT(row.profileColors, ElementsAre(186, 190));

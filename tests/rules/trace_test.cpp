@@ -1,8 +1,8 @@
 // The rules' diagnostic file, byte for byte.
 
+#include <gtest/gtest.h>
 #include <NXOpen/Body.hxx>
 #include <NXOpen/Face.hxx>
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <locale>
@@ -19,7 +19,8 @@ namespace plateconfig::test {
 namespace {
 
 constexpr std::string_view kColors =
-    "通用要求,通用参数,模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,有无线割,材质要求,钻孔,磨平\n"
+    "通用要求,通用参数,模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,有无线割,材质要求,钻孔,"
+    "磨平\n"
     "软料（体颜色）,12_87,,,,,,,,,,\n"
     "有型面,186_108,,,,,,,,,,\n"
     "有线割,103,,,,,,,,,,\n";
@@ -129,30 +130,30 @@ TEST(Trace, ShowsAnEmptyTextAsAnEmptyLine) {
 
 TEST(Trace, ShowsALengthThatDoesNotFit) {
   EXPECT_EQ(TraceOf(LibraryOf(",,3,451_500,,,,,,,,\n"), {}), Gbk(Head() + "当前行号:5\n"
-                                                                         "长度不符合此规则！\n"
-                                                                         "最小长度：451\n"
-                                                                         "最大长度：500\n"));
+                                                                          "长度不符合此规则！\n"
+                                                                          "最小长度：451\n"
+                                                                          "最大长度：500\n"));
 }
 
 TEST(Trace, ShowsAWidthThatDoesNotFit) {
   EXPECT_EQ(TraceOf(LibraryOf(",,3,,401_500,,,,,,,\n"), {}), Gbk(Head() + "当前行号:5\n"
-                                                                         "宽度不符合此规则！\n"
-                                                                         "最小宽度：401\n"
-                                                                         "最大宽度：500\n"));
+                                                                          "宽度不符合此规则！\n"
+                                                                          "最小宽度：401\n"
+                                                                          "最大宽度：500\n"));
 }
 
 TEST(Trace, ShowsAHeightThatDoesNotFit) {
   EXPECT_EQ(TraceOf(LibraryOf(",,3,,,10_89.5,,,,,,\n"), {}), Gbk(Head() + "当前行号:5\n"
-                                                                         "高度不符合此规则！\n"
-                                                                         "最小高度：10\n"
-                                                                         "最大高度：89.5\n"));
+                                                                          "高度不符合此规则！\n"
+                                                                          "最小高度：10\n"
+                                                                          "最大高度：89.5\n"));
 }
 
 TEST(Trace, ShowsAWeightThatDoesNotFit) {
   EXPECT_EQ(TraceOf(LibraryOf(",,3,,,,0_127,,,,,\n"), {}), Gbk(Head() + "当前行号:5\n"
-                                                                       "重量不符合此规则！\n"
-                                                                       "最小重量：0\n"
-                                                                       "最大重量：127\n"));
+                                                                        "重量不符合此规则！\n"
+                                                                        "最小重量：0\n"
+                                                                        "最大重量：127\n"));
 }
 
 TEST(Trace, ShowsAMaterialThatDoesNotFit) {
@@ -160,16 +161,16 @@ TEST(Trace, ShowsAMaterialThatDoesNotFit) {
       "通用要求,通用参数,模板所在图层,材质要求\n"
       "硬料（体颜色）,42_55,,\n"
       ",,3,硬料（体颜色）\n");
-  EXPECT_EQ(TraceOf(library, {}), Gbk(Joined(kBodyLines, kNoFaceLines) +
-                                      "======================型面颜色===================\n"
-                                      "======================型面颜色===================\n"
-                                      "======================线割颜色===================\n"
-                                      "======================线割颜色===================\n"
-                                      "当前行号:3\n"
-                                      "材料颜色不符合此规则！\n"
-                                      "材料颜色:12\n"
-                                      "材料颜色配置:42\n"
-                                      "材料颜色配置:55\n"));
+  EXPECT_EQ(TraceOf(library, {}),
+            Gbk(Joined(kBodyLines, kNoFaceLines) + "======================型面颜色===================\n"
+                                                   "======================型面颜色===================\n"
+                                                   "======================线割颜色===================\n"
+                                                   "======================线割颜色===================\n"
+                                                   "当前行号:3\n"
+                                                   "材料颜色不符合此规则！\n"
+                                                   "材料颜色:12\n"
+                                                   "材料颜色配置:42\n"
+                                                   "材料颜色配置:55\n"));
 }
 
 TEST(Trace, ShowsAProfileThatTheRowDoesNotWant) {

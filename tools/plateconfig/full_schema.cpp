@@ -12,8 +12,6 @@
 namespace plateconfig {
 namespace {
 
-using literals::operator""_gbk;
-
 ColumnSchema Single(std::string_view column, std::string_view kind, CellType type,
                     const std::string& whenAbsent) {
   return {std::string(column), kind, type, {}, {}, {whenAbsent}};

@@ -60,8 +60,8 @@ std::size_t StructureDistance(const CombHole& hole, const HoleTypeInfo& type) {
 
 std::vector<const HoleTypeInput*> NearestStructures(const CombHole& hole,
                                                     const std::vector<HoleTypeInput>& types) {
-  std::vector<const HoleTypeInput*> nearest;
-  for (const HoleTypeInput& type : types) nearest.push_back(&type);
+  std::vector<const HoleTypeInput*> nearest(types.size());
+  std::transform(types.begin(), types.end(), nearest.begin(), [](const auto& type) { return &type; });
   std::stable_sort(nearest.begin(), nearest.end(), [&](const auto* a, const auto* b) {
     return StructureDistance(hole, a->type) < StructureDistance(hole, b->type);
   });

@@ -128,8 +128,9 @@ void RunShow(const ShowJob& job, Context& context) {
 }
 
 std::vector<Role> AllRoles() {
-  std::vector<Role> roles;
-  for (const std::string_view name : kRoleNames) roles.push_back(*FindRole(name));
+  std::vector<Role> roles(kRoleNames.size());
+  std::transform(kRoleNames.begin(), kRoleNames.end(), roles.begin(),
+                 [](std::string_view name) { return *FindRole(name); });
   return roles;
 }
 
