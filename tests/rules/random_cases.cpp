@@ -163,7 +163,8 @@ double NearABound(const Cells& table, std::string_view column, Random& random) {
   const std::string cell = at < line.size() ? line[at] : "";
   const std::size_t separator = cell.find('_');
   const double minimum = std::strtod(cell.c_str(), nullptr);
-  const double maximum = separator == std::string::npos ? 999999 : std::strtod(cell.c_str() + separator + 1, nullptr);
+  const double maximum =
+      separator == std::string::npos ? 999999 : std::strtod(cell.c_str() + separator + 1, nullptr);
   const double top = maximum + 0.001;
   const double values[] = {minimum,
                            minimum - 0.0005,
