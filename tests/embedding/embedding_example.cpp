@@ -1,5 +1,4 @@
-// How a module of the host gets the process text of a plate: from the configuration folder to the finished
-// text.
+// How a module of the host gets the process text of a plate, from the configuration folder on.
 #include "embedding_example.h"
 
 #include <plateconfig.h>
@@ -40,14 +39,12 @@ void Feed(ProcessRule& rule, const PlateFeatures& plate) {
 }  // namespace
 
 std::optional<PlateNote> WriteProcessNote(const PlateFeatures& plate, BodyInfo& body, double weight) {
-  // 1. The host's variable TQConfig leads to the active folder. Empty: it is not set, and there is no
-  // configuration.
+  // 1. The host's variable TQConfig leads to the active folder. Not set, there is no configuration.
   const std::string folder = CommonConfig().GetConfigFolderPath();
   if (folder.empty()) return std::nullopt;
 
-  // 2. The tables. Nothing is reported: a missing table gives a library that never has a text. Loading takes
-  // the time,
-  //    so a module keeps the library for all plates of a drawing.
+  // 2. The tables. Nothing is reported: a missing table gives a library that never has a text. A module with
+  //    many plates keeps this object, because loading takes more time than asking.
   const ProcessRuleLibrary library(folder + kRuleTable, folder + kSettingsTable);
 
   // 3. Fresh rules for each plate, in the order of the text, fed with what this plate has.
