@@ -15,6 +15,19 @@ std::vector<std::string> ParameterList(const std::string& value) {
   return SplitString(value, "_");
 }
 
+void Trace(ProcessRule::RuleType type, const std::string& value, const std::vector<int>& configured) {
+  plateconfig::DiagnosticFile log(plateconfig::Diagnostic::kRules);
+  if (!log.IsOpen()) return;
+  std::string text = "strRuleValue:" + value + "\neType:" + IntToString(type) + "\n";
+  // Kept: only this type shows its values, in one line with nothing between them.
+  if (type == ProcessRule::ThroughSpecialSlotColor) {
+    text += "vecRuleValues:";
+    for (const int number : configured) text += IntToString(number);
+    text += "\n";
+  }
+  log.Append(text);
+}
+
 }  // namespace
 
 ProcessRule::ProcessRule(int number, RuleType type, const std::string& name, const std::string& value)
@@ -22,7 +35,7 @@ ProcessRule::ProcessRule(int number, RuleType type, const std::string& name, con
 
 void ProcessRule::SetValue(const std::vector<int>& values) {
   const std::vector<int> configured = VectorToInt(ParameterList(value_));
-  Trace(configured);
+  Trace(type_, value_, configured);
   valid_ =
       std::find_first_of(values.begin(), values.end(), configured.begin(), configured.end()) != values.end();
 }
@@ -43,17 +56,4 @@ void ProcessRule::SetHoleCount(int count) {
   // Kept: the bound itself is valid, although the table's text for this type says greater than.
   if (type_ == HoleCountAtLeast) valid_ = count >= parameter;
   if (type_ == HoleCountBelow) valid_ = count > 0 && count < parameter;
-}
-
-void ProcessRule::Trace(const std::vector<int>& configured) const {
-  plateconfig::DiagnosticFile log(plateconfig::Diagnostic::kRules);
-  if (!log.IsOpen()) return;
-  std::string text = "strRuleValue:" + value_ + "\neType:" + IntToString(type_) + "\n";
-  // Kept: only this type shows its values, in one line with nothing between them.
-  if (type_ == ThroughSpecialSlotColor) {
-    text += "vecRuleValues:";
-    for (const int value : configured) text += IntToString(value);
-    text += "\n";
-  }
-  log.Append(text);
 }

@@ -68,8 +68,6 @@ class PLATECONFIG_API ProcessRule {
   bool operator<(const ProcessRule& other) const { return number_ < other.number_; }
 
  private:
-  void Trace(const std::vector<int>& configured) const;
-
   int number_;
   std::string name_;
   std::string value_;
