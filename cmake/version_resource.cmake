@@ -1,0 +1,20 @@
+if(WIN32)
+  enable_language(RC)
+endif()
+
+# Gives a DLL or program what Windows shows of it under Properties, Details: an administrator sees there which version
+# lies in the host's folder. Elsewhere it does nothing.
+function(plateconfig_add_version_resource target FILE_DESCRIPTION)
+  if(NOT WIN32)
+    return()
+  endif()
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    set(FILE_TYPE VFT_APP)
+  else()
+    set(FILE_TYPE VFT_DLL)
+  endif()
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${resource} @ONLY)
+  target_sources(${target} PRIVATE ${resource})
+endfunction()
