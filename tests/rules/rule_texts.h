@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "rules/process_rule.h"
 #include "rules/process_rule_library.h"
@@ -41,6 +42,13 @@ inline ProcessRule ValidRule(std::string_view name) {
 
 inline ProcessRule InvalidRule(std::string_view name) {
   return {0, ProcessRule::CustomProcess, Gbk(name), ""};
+}
+
+/// The process list, in its order.
+inline std::vector<std::string> NamesOf(const RuleTables& tables) {
+  std::vector<std::string> names;
+  for (const ProcessRule& rule : tables.processRules) names.push_back(rule.GetRuleName());
+  return names;
 }
 
 }  // namespace plateconfig::test
