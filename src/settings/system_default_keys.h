@@ -108,7 +108,8 @@ inline constexpr SystemKey kTriangleSymbolKeys[] = {
 
 // Bill of materials.
 inline constexpr SystemKey kBomKeys[] = {
-    {"密度(g/cm)"_gbk, Number{&SystemDefault::density}, "g/cm³", "density of the material"},
+    // The unit's last character by its UTF-8 bytes: GBK lacks it, and units are UTF-8 whatever the compiler writes.
+    {"密度(g/cm)"_gbk, Number{&SystemDefault::density}, "g/cm\xC2\xB3", "density of the material"},
 };
 
 // Output folder.
