@@ -180,6 +180,14 @@ TEST(TemplateCommand, AnExistingFileIsKeptUnlessForced) {
   EXPECT_EQ(ReadBytes(folder.Path() / "a.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
 }
 
+TEST(TemplateCommand, AFolderIsNoFileThatForceReplaces) {
+  const TemporaryFolder folder;
+  const std::string path = ArgumentPath(folder, "");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_EQ(run.err, path + ": error: this is a folder, not a file\n");
+}
+
 TEST(TemplateCommand, AFileThatCanNotBeWrittenIsReportedAndLeavesNothingBehind) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "a.csv");
@@ -187,7 +195,7 @@ TEST(TemplateCommand, AFileThatCanNotBeWrittenIsReportedAndLeavesNothingBehind) 
   const CompanionResult run =
       RunPlateconfig({"template", "bom", "--force", "--output", ArgumentPath(folder, "a.csv")});
   EXPECT_EQ(run.exitCode, 2);
-  EXPECT_THAT(run.err, HasSubstr("this file can not be written"));
+  EXPECT_THAT(run.err, HasSubstr("this is a folder, not a file"));
   const std::filesystem::directory_iterator files(folder.Path());
   EXPECT_EQ(std::distance(files, std::filesystem::directory_iterator()), 1);
   EXPECT_EQ(RunPlateconfig({"template", "bom", "--output", ArgumentPath(folder, "none/a.csv")}).exitCode, 2);

@@ -29,27 +29,49 @@ bool WriteBytes(const fs::path& path, std::string_view bytes) {
   return !file.fail();
 }
 
+bool WriteWhole(const fs::path& target, std::string_view bytes) {
+  const fs::path temporary = TemporaryNameFor(target);
+  std::error_code error;
+  bool isDone = WriteBytes(temporary, bytes);
+  if (isDone) {
+    fs::rename(temporary, target, error);
+    isDone = !error;
+  }
+  if (!isDone) fs::remove(temporary, error);
+  return isDone;
+}
+
+/// True for a device or a pipe: it is written into, because a rename would put a file in its place.
+bool IsStream(const fs::file_status& status) {
+  return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+}
+
+/// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
+fs::path BehindLinks(const fs::path& path) {
+  std::error_code error;
+  const fs::path target = fs::canonical(path, error);
+  return error ? path : target;
+}
+
 }  // namespace
 
 bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent ifPresent,
                      Reporter& reporter) {
   const fs::path target = PathFromUtf8(path);
   std::error_code error;
-  if (ifPresent == IfPresent::kKeep && fs::exists(target, error)) {
+  const fs::file_status status = fs::status(target, error);
+  if (fs::is_directory(status)) {
+    reporter.Error({path}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
+    return false;
+  }
+  const bool isStream = IsStream(status);
+  if (ifPresent == IfPresent::kKeep && fs::exists(status) && !isStream) {
     reporter.Error({path},
                    Say("this file exists already; --force replaces it", "此文件已存在；用 --force 覆盖"));
     return false;
   }
-  const fs::path temporary = TemporaryNameFor(target);
-  bool isDone = WriteBytes(temporary, bytes);
-  if (isDone) {
-    fs::rename(temporary, target, error);
-    isDone = !error;
-  }
-  if (!isDone) {
-    fs::remove(temporary, error);
-    reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
-  }
+  const bool isDone = isStream ? WriteBytes(target, bytes) : WriteWhole(BehindLinks(target), bytes);
+  if (!isDone) reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
   return isDone;
 }
 
