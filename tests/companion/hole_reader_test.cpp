@@ -163,9 +163,10 @@ TEST_F(HoleReading, UnknownAndRepeatedColumnsAreWarnedOf) {
   const auto holes = ReadCsv("孔名称,位置,直径,颜色,R高度值,颜色\nK1,通,8,31,5,99\n");
   ASSERT_EQ(holes.size(), 1U);
   EXPECT_EQ(holes[0].hole.throughHoles[0].color, 31);
-  EXPECT_EQ(err_.str(),
-            "h.csv:1:14: warning: E1: the column R高度值 is not known and is ignored; did you mean R高度?\n"
-            "h.csv:1:19: warning: F1: a second column 颜色; the first one counts\n");
+  EXPECT_EQ(
+      err_.str(),
+      "h.csv:1:14: warning: E1: the column \"R高度值\" is not known and is ignored; did you mean \"R高度\"?\n"
+      "h.csv:1:19: warning: F1: a second column \"颜色\"; the first one counts\n");
 }
 
 TEST_F(HoleReading, AJsonObjectIsOneHole) {

@@ -162,11 +162,19 @@ TEST(PlateCsv, AnUnknownColumnIsIgnoredWithAWarning) {
   const auto plates = file.All();
   ASSERT_EQ(plates.size(), 1u);
   EXPECT_EQ(plates[0].plate.length, 1);
-  EXPECT_EQ(
-      file.messages.Text(),
-      "板.csv:1:20: warning: G1: the column 备注 is not known and is ignored\n"
-      "板.csv:1:23: warning: H1: the column 圆孔颜包 is not known and is ignored; did you mean 圆孔颜色?\n"
-      "板.csv:1:28: warning: I1: a second column 长度; the first one counts\n");
+  EXPECT_EQ(file.messages.Text(),
+            "板.csv:1:20: warning: G1: the column \"备注\" is not known and is ignored\n"
+            "板.csv:1:23: warning: H1: the column \"圆孔颜包\" is not known and is ignored; did you mean "
+            "\"圆孔颜色\"?\n"
+            "板.csv:1:28: warning: I1: a second column \"长度\"; the first one counts\n");
+}
+
+TEST(PlateCsv, ABlankBehindAColumnsNameIsSeen) {
+  CsvPlates file(std::string(kHeader) + ",圆孔颜色 \n甲,1,1,1,1,1,36\n");
+  EXPECT_THAT(file.Names(), ElementsAre("甲"));
+  EXPECT_EQ(file.messages.Text(),
+            "板.csv:1:20: warning: G1: the column \"圆孔颜色 \" is not known and is ignored; did you mean "
+            "\"圆孔颜色\"?\n");
 }
 
 TEST(PlateCsv, AColumnWithoutNameIsIgnoredInSilence) {
@@ -194,7 +202,7 @@ TEST(PlateCsv, AHundredThousandUnknownColumnsAreNamedInNoLongTime) {
   for (int i = 0; i < 100000; ++i) header += ",备注" + std::to_string(i);
   CsvPlates file(header + "\n甲,1,1,1,1,1\n");
   EXPECT_THAT(file.Names(), ElementsAre("甲"));
-  EXPECT_THAT(file.messages.Text(), HasSubstr("the column 备注99999 is not known"));
+  EXPECT_THAT(file.messages.Text(), HasSubstr("the column \"备注99999\" is not known"));
 }
 
 TEST(PlateCsv, AColumnNameOfAMegabyteIsNoName) {

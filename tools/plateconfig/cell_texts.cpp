@@ -37,4 +37,17 @@ std::string NotYesNo(const std::string& text) {
   return Say("{} is neither Y nor N", "{}既不是 Y 也不是 N", Offending(text));
 }
 
+// In quotes, because a blank at the end of a name would not be seen.
+std::string UnknownColumn(const std::string& name, const std::string& similar) {
+  const std::string shown = ShownText(name);
+  if (similar.empty())
+    return Say("the column \"{}\" is not known and is ignored", "未知的列“{}”，已忽略", shown);
+  return Say("the column \"{}\" is not known and is ignored; did you mean \"{}\"?",
+             "未知的列“{}”，已忽略；是否应为“{}”？", shown, similar);
+}
+
+std::string SecondColumn(const std::string& name) {
+  return Say("a second column \"{}\"; the first one counts", "重复的列“{}”；以第一列为准", ShownText(name));
+}
+
 }  // namespace plateconfig

@@ -13,9 +13,9 @@
 #include <utility>
 #include <vector>
 
+#include "plateconfig/cell_texts.h"
 #include "plateconfig/csv_stream.h"
 #include "plateconfig/language.h"
-#include "plateconfig/shown_text.h"
 #include "plateconfig/similar_name.h"
 
 namespace plateconfig {
@@ -80,21 +80,14 @@ class CsvRecords {
     columns_.push_back(isKnown && !isSecond ? &*field : nullptr);
     if (columns_.back() != nullptr || cell.text.empty()) return;
     reporter_.Warning(cell.place, CellName(column, header.number) + ": " +
-                                      (isSecond ? SecondColumn(cell.text) : UnknownColumn(cell.text)));
+                                      (isSecond ? SecondColumn(cell.text)
+                                                : UnknownColumn(cell.text, SimilarColumn(cell.text))));
   }
 
-  static std::string SecondColumn(const std::string& name) {
-    return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", ShownText(name));
-  }
-
-  std::string UnknownColumn(const std::string& name) const {
+  std::string SimilarColumn(const std::string& name) const {
     std::vector<std::string_view> known;
     for (const Field& field : fields_) known.push_back(field.column);
-    const std::string similar = MostSimilarName(name, known);
-    if (similar.empty())
-      return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", ShownText(name));
-    return Say("the column {} is not known and is ignored; did you mean {}?",
-               "未知的列 {}，已忽略；是否应为 {}？", ShownText(name), similar);
+    return MostSimilarName(name, known);
   }
 
   bool HasRequiredColumns(const CsvRow& header) {

@@ -136,17 +136,10 @@ class CsvPlateReader : public PlateReader {
     const bool isFirst = names_.insert(cell.text).second;
     stores_.push_back(isFirst ? FindStore(cell.text, vocabulary_) : StoreCell());
     if (stores_.back() || cell.text.empty()) return;
-    reporter_.Warning(cell.place, CellName(column, header.number) + ": " + IgnoredColumn(cell.text, isFirst));
-  }
-
-  std::string IgnoredColumn(const std::string& name, bool isFirst) const {
-    const std::string shown = ShownText(name);
-    if (!isFirst) return Say("a second column {}; the first one counts", "重复的列 {}；以第一列为准", shown);
-    const std::string similar = vocabulary_.Suggest(name, PlateColumns());
-    if (similar.empty())
-      return Say("the column {} is not known and is ignored", "未知的列 {}，已忽略", shown);
-    return Say("the column {} is not known and is ignored; did you mean {}?",
-               "未知的列 {}，已忽略；是否应为 {}？", shown, similar);
+    const std::string wrong = isFirst
+                                  ? UnknownColumn(cell.text, vocabulary_.Suggest(cell.text, PlateColumns()))
+                                  : SecondColumn(cell.text);
+    reporter_.Warning(cell.place, CellName(column, header.number) + ": " + wrong);
   }
 
   bool HasRequiredColumns(const CsvRow& header) {
