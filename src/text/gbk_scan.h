@@ -34,4 +34,11 @@ constexpr std::size_t GbkCharLength(std::string_view text, std::size_t at) {
   return IsGbkTrailByte(text[at + 1]) ? 2 : 1;
 }
 
+/// Characters of the text, every byte that belongs to none counting as one.
+constexpr std::size_t CountGbkCharacters(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < text.size(); at += GbkCharLength(text, at)) ++count;
+  return count;
+}
+
 }  // namespace plateconfig

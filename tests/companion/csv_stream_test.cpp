@@ -151,6 +151,15 @@ TEST(CsvStream, AHeaderThatIsNeitherUtf8NorGbkIsRefused) {
             "f.csv:1:1: error: the header is neither UTF-8 nor GBK; save the file as CSV in one of them\n");
 }
 
+TEST(CsvStream, AHeaderThatIsNotSeparatedByCommasIsReportedOnce) {
+  CsvFile file("名称;长度\nA板;450\n");
+  EXPECT_EQ(file.rows.ReadHeader(), std::nullopt);
+  EXPECT_EQ(file.messages.Text(),
+            "f.csv:1:1: error: the columns are separated by semicolons, not by commas, so none of them is "
+            "found; save "
+            "the file as CSV with commas\n");
+}
+
 TEST(CsvStream, ARowThatDoesNotDecodeAsTheHeaderIsPassedOver) {
   CsvFile file(test::Gbk("名称,长度\n甲,1\n") + "\xFF,2\n" + test::Gbk("乙,3\n"));
   file.Header();

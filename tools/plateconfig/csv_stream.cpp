@@ -4,6 +4,7 @@
 
 #include "config/table.h"
 #include "plateconfig/language.h"
+#include "plateconfig/separator.h"
 #include "text/gbk.h"
 #include "text/gbk_scan.h"
 
@@ -66,12 +67,6 @@ std::size_t CountUtf8Characters(std::string_view utf8) {
       std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-std::size_t CountGbkCharacters(std::string_view gbk) {
-  std::size_t count = 0;
-  for (std::size_t at = 0; at < gbk.size(); at += GbkCharLength(gbk, at)) ++count;
-  return count;
-}
-
 }  // namespace
 
 bool CsvRow::IsBlank() const {
@@ -93,12 +88,21 @@ CsvStream::CsvStream(std::istream& in, const std::string& file, Reporter& report
 std::optional<CsvRow> CsvStream::ReadHeader() {
   const std::optional<RawRow> raw = TakeRaw();
   if (!raw) return std::nullopt;
-  if (IsValidUtf8(raw->bytes)) return Decode(*raw);
+  if (IsValidUtf8(raw->bytes)) return DecodeHeader(*raw);
   encoding_ = Encoding::kGbk;
-  if (IsValidGbk(raw->bytes)) return Decode(*raw);
+  if (IsValidGbk(raw->bytes)) return DecodeHeader(*raw);
   reporter_.Error({file_, 1, 1},
                   Say("the header is neither UTF-8 nor GBK; save the file as CSV in one of them",
                       "表头既不是 UTF-8 也不是 GBK；请将文件存为其中一种编码的 CSV"));
+  return std::nullopt;
+}
+
+std::optional<CsvRow> CsvStream::DecodeHeader(const RawRow& raw) {
+  std::optional<CsvRow> header = Decode(raw);
+  if (!header || header->cells.size() != 1) return header;
+  const std::string complaint = OtherSeparator(header->cells.front().text);
+  if (complaint.empty()) return header;
+  reporter_.Error(header->cells.front().place, complaint);
   return std::nullopt;
 }
 

@@ -36,7 +36,8 @@ class CsvStream {
  public:
   CsvStream(std::istream& in, const std::string& file, Reporter& reporter);
 
-  /// The header row; nothing when the file is empty or its header does not decode, which is reported.
+  /// The header row; nothing when the file is empty, or its header does not decode or is not separated by
+  /// commas, which is reported.
   std::optional<CsvRow> ReadHeader();
 
   /// The next row that can be read; blank lines are rows of one empty cell. Nothing at the end.
@@ -57,6 +58,7 @@ class CsvStream {
   std::optional<std::string> TakeLine();
   std::optional<RawRow> TakeRaw();
   void GiveUp(RawRow& row, std::size_t quote);
+  std::optional<CsvRow> DecodeHeader(const RawRow& raw);
   std::optional<CsvRow> Decode(const RawRow& raw);
   /// The place behind `bytes`, which begin at `place`.
   Place Behind(Place place, std::string_view bytes) const;
