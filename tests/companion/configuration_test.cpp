@@ -149,57 +149,5 @@ TEST(Configuration, WithNeitherFolderNorVariableItSaysSo) {
             "plateconfig: error: TQConfig is not set, and no configuration folder was given with --config\n");
 }
 
-/// What CheckTable says of a table of these bytes.
-std::string Check(const std::string& bytes) {
-  const test::TemporaryFolder files;
-  test::Messages messages;
-  CheckTable({files.WriteBytes("t.csv", bytes), "t.csv"}, "so be it", messages.reporter);
-  return messages.Text();
-}
-
-TEST(CheckTable, AGoodTableIsPassedInSilence) {
-  EXPECT_EQ(Check(test::Gbk("模板所在图层,长度范围\n12,\n")), "");
-  EXPECT_EQ(Check("ascii,only\n1,2\n"), "");
-}
-
-TEST(CheckTable, SaysWhatIsMissingAndWhatFollows) {
-  test::Messages messages;
-  CheckTable({"no-such-file.csv", "规则.csv"}, "so be it", messages.reporter);
-  EXPECT_EQ(messages.Text(), "规则.csv: error: this table does not exist; so be it\n");
-}
-
-TEST(CheckTable, AFolderCanNotBeRead) {
-  const test::TemporaryFolder files;
-  files.WriteBytes("t.csv/x", "");
-  test::Messages messages;
-  CheckTable({files.HostPath("t.csv"), "t.csv"}, "so be it", messages.reporter);
-  EXPECT_EQ(messages.Text(), "t.csv: error: this table can not be read; so be it\n");
-}
-
-TEST(CheckTable, AnEmptyTableIsAWarning) {
-  EXPECT_EQ(Check(""), "t.csv: warning: this table is empty; so be it\n");
-}
-
-TEST(CheckTable, ATableInUtf8IsNamedAsSuch) {
-  EXPECT_THAT(Check("模板所在图层,长度范围条\n12,\n"),
-              HasSubstr("t.csv:1:1: warning: this table is UTF-8, not GBK"));
-  EXPECT_THAT(Check("\xEF\xBB\xBF通用要求\n"), HasSubstr("this table is UTF-8, not GBK"));
-  // Every cell has an even number of characters, so the bytes happen to be GBK of other characters.
-  ASSERT_TRUE(IsValidGbk("长度范围,宽度范围\n"));
-  EXPECT_THAT(Check("长度范围,宽度范围\n"), HasSubstr("this table is UTF-8, not GBK"));
-}
-
-TEST(CheckTable, ATableInNeitherEncodingIsSaidNotToBeGbk) {
-  EXPECT_THAT(Check("\xFF\xFE"
-                    "a\n"),
-              HasSubstr("t.csv:1:1: warning: this table is not GBK"));
-}
-
-TEST(CheckTable, AGbkTableWhoseBytesAreAlsoShortUtf8IsTakenAsGbk) {
-  const std::string gbk = test::Gbk("陆\n");  // C2 BD, which is also a character of two bytes in UTF-8.
-  ASSERT_TRUE(IsValidUtf8(gbk));
-  EXPECT_EQ(Check(gbk), "");
-}
-
 }  // namespace
 }  // namespace plateconfig

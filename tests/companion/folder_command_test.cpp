@@ -111,6 +111,17 @@ TEST(FolderCommand, AnIndexWithoutItsColumnsOrRowsLeadsToTheConfigFolder) {
   }
 }
 
+TEST(FolderCommand, SaysWhyTheColumnsOfTheIndexAreNotFound) {
+  const Root root;
+  root.files.WriteTable("config/standard.csv", "文件夹名字,有效配置\n标准,Y\n");
+  EXPECT_THAT(RunPlateconfig({"folder"}).err,
+              HasSubstr(root.Index() +
+                        ":1:1: warning: A1: the column \"文件夹名字\" is not known and is ignored; did "
+                        "you mean \"文件夹名称\"?\n"));
+  root.files.WriteBytes("config/standard.csv", "文件夹名称,有效配置\n标准,Y\n");
+  EXPECT_THAT(RunPlateconfig({"folder"}).err, HasSubstr("this table is UTF-8, not GBK"));
+}
+
 TEST(FolderCommand, OnlyAFlagOfExactlyOneLetterYIsActive) {
   const Root root;
   root.WriteIndex("甲,YES\n乙,N\n丙, Y\n丁,\n,Y\n");

@@ -182,6 +182,16 @@ TEST_F(ShowCommand, AMissingTableIsReportedWithWhatTheLibraryDoes) {
   EXPECT_EQ(Setting("bom", "密度(g/cm)")["source"], "class");
 }
 
+TEST_F(ShowCommand, AnEmptyTableGivesTheValuesOfAbsentColumnsAndSaysSo) {
+  Configure(R"({"layout-defaults": "a.csv"})");
+  folder_.WriteBytes("a.csv", "");
+  const CompanionResult run = Show({"layout-defaults"});
+  EXPECT_EQ(run.err,
+            ArgumentPath(folder_, "a.csv") +
+                ": warning: this table is empty; every setting gets the value of an absent column\n");
+  EXPECT_THAT(run.out, HasSubstr("  特征代号注释角度 = 0.2  [degrees]  (default)\n"));
+}
+
 // ---- The samples ----
 
 class SampleSettings : public ::testing::TestWithParam<const char*> {};

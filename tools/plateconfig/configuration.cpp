@@ -1,9 +1,6 @@
 #include "plateconfig/configuration.h"
 
-#include <algorithm>
-
 #include "config/configuration_index.h"
-#include "config/table.h"
 #include "plateconfig/console.h"
 #include "plateconfig/json_node.h"
 #include "plateconfig/language.h"
@@ -32,14 +29,6 @@ std::string UnknownRole(const std::string& name) {
   if (similar.empty()) return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", shown);
   return Say("\"{}\" is no role and is ignored; did you mean \"{}\"?", "“{}”不是角色，已忽略；是否应为“{}”？",
              shown, similar);
-}
-
-/// True for text with Chinese in UTF-8, also where the same bytes happen to be GBK of other characters.
-/// Hardly any GBK text has the form of characters of three bytes throughout.
-bool IsChineseUtf8(std::string_view bytes) {
-  constexpr unsigned char kFirstOfThree = 0xE0;
-  const auto beginsThree = [](char c) { return static_cast<unsigned char>(c) >= kFirstOfThree; };
-  return IsValidUtf8(bytes) && std::any_of(bytes.begin(), bytes.end(), beginsThree);
 }
 
 bool EndsWithSeparator(const std::string& path) {
@@ -122,30 +111,6 @@ void Configuration::ReadManifest() {
     } else {
       manifest_[*role] = file.text;
     }
-  }
-}
-
-void CheckTable(const TableFile& file, const std::string& consequence, Reporter& reporter) {
-  if (!FileExists(file.hostPath)) {
-    reporter.Error({file.shownAs}, Say("this table does not exist; {}", "此表不存在；{}", consequence));
-    return;
-  }
-  const std::optional<Table> table = Table::Read(file.hostPath);
-  if (!table) {
-    reporter.Error({file.shownAs}, Say("this table can not be read; {}", "无法读取此表；{}", consequence));
-  } else if (table->ColumnCount() == 0) {
-    reporter.Warning({file.shownAs}, Say("this table is empty; {}", "此表是空的；{}", consequence));
-  } else if (IsChineseUtf8(table->Bytes())) {
-    reporter.Warning(
-        {file.shownAs, 1, 1},
-        Say("this table is UTF-8, not GBK, so its Chinese names are not found; save it as CSV in"
-            " GBK (code page 936)",
-            "此表是 UTF-8 而不是 GBK 编码，因此找不到其中的中文名称；请存为 GBK（代码页 936）的 CSV"));
-  } else if (!IsValidGbk(table->Bytes())) {
-    reporter.Warning({file.shownAs, 1, 1},
-                     Say("this table is not GBK, so its Chinese names are not found; save it as CSV in GBK"
-                         " (code page 936)",
-                         "此表不是 GBK 编码，因此找不到其中的中文名称；请存为 GBK（代码页 936）的 CSV"));
   }
 }
 

@@ -48,8 +48,4 @@ class Configuration {
   std::map<Role, std::string> manifest_;
 };
 
-/// Checks that a table can be read and looks like one. What is wrong is reported together with `consequence`,
-/// what the library does then.
-void CheckTable(const TableFile& table, const std::string& consequence, Reporter& reporter);
-
 }  // namespace plateconfig

@@ -2,10 +2,13 @@
 #include <nlohmann/json.hpp>
 
 #include "config/configuration_index.h"
+#include "config/table.h"
 #include "plateconfig/command.h"
 #include "plateconfig/console.h"
+#include "plateconfig/full_schema.h"
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
+#include "plateconfig/table_check.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
@@ -35,6 +38,13 @@ void WriteJson(const std::string& root, const ConfigurationIndex& index, std::os
       << "\n";
 }
 
+/// Why the columns of the index may not have been found.
+void ReportHeader(const std::string& indexPath, Reporter& reporter) {
+  const std::optional<Table> table = Table::Read(indexPath);
+  if (!table || table->ColumnCount() == 0) return;
+  CheckHeader({indexPath, ShownPath(indexPath)}, *table, *FindTableSchema(kIndexRole), reporter);
+}
+
 /// Reports what the user would want to know of an index that leads somewhere unexpected.
 void ReportIndex(const ConfigurationIndex& index, Reporter& reporter) {
   const Place place{ShownPath(index.indexPath)};
@@ -47,6 +57,7 @@ void ReportIndex(const ConfigurationIndex& index, Reporter& reporter) {
     reporter.Warning(place, Say("the index table lacks rows or one of its columns {0} and {1}; {2}",
                                 "索引表没有数据行，或缺少列 {0} 或 {1}；{2}", GbkToUtf8(kIndexFolderColumn),
                                 GbkToUtf8(kIndexFlagColumn), consequence));
+    ReportHeader(index.indexPath, reporter);
   }
   const auto active =
       std::count_if(index.rows.begin(), index.rows.end(), [](const auto& row) { return row.isActive; });

@@ -5,25 +5,29 @@
 #include <set>
 
 #include "plateconfig/feed_rules.h"
+#include "plateconfig/full_schema.h"
 #include "plateconfig/input_file.h"
 #include "plateconfig/language.h"
+#include "plateconfig/table_check.h"
 
 namespace plateconfig {
 namespace {
+
+void Check(Role role, const TableFile& file, const std::string& consequence, Reporter& reporter) {
+  CheckTable(file, *FindTableSchema(NameOf(role)), {consequence, consequence}, reporter);
+}
 
 std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
   Configuration configuration(job.configuration, context.reporter);
   const auto rules = configuration.Find(Role::kProcessRules);
   const auto settings = configuration.Find(Role::kProcessSettings);
   if (!rules || !settings) return std::nullopt;
-  CheckTable(*rules,
-             Say("the library then has no rule rows and every process text is empty",
-                 "库因此没有任何规则行，所有工艺文本都为空"),
-             context.reporter);
-  CheckTable(*settings,
-             Say("the library then joins the processes with nothing between them",
-                 "库因此在各工艺之间不加任何连接符号"),
-             context.reporter);
+  const std::string noRows = Say("the library then has no rule rows and every process text is empty",
+                                 "库因此没有任何规则行，所有工艺文本都为空");
+  const std::string noText = Say("the library then joins the processes with nothing between them",
+                                 "库因此在各工艺之间不加任何连接符号");
+  Check(Role::kProcessRules, *rules, noRows, context.reporter);
+  Check(Role::kProcessSettings, *settings, noText, context.reporter);
   return LoadRuleTables(rules->hostPath, settings->hostPath);
 }
 

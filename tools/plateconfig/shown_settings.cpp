@@ -5,6 +5,7 @@
 #include "config/column_width_manager.h"
 #include "config/read_config_file.h"
 #include "plateconfig/language.h"
+#include "plateconfig/table_check.h"
 #include "platform/file.h"
 #include "rules/rule_columns.h"
 #include "rules/rule_tables.h"
@@ -111,7 +112,11 @@ std::vector<ShownSetting> SettingsOf(const TableSchema& table, const std::option
   const std::string path = file ? file->hostPath : std::string();
   const bool willThrow =
       file && table.whenUnreadable == WhenUnreadable::kThrowsIfMissing && !FileExists(file->hostPath);
-  if (file && !willThrow) CheckTable(*file, Consequence(table.whenUnreadable), reporter);
+  if (file && !willThrow) {
+    // A table that is there counts as read, whatever it lacks.
+    CheckTable(*file, table, {Consequence(table.whenUnreadable), Consequence(WhenUnreadable::kCountsAsEmpty)},
+               reporter);
+  }
   if (table.role == NameOf(Role::kColumnWidths)) return ColumnWidths(table, open, path);
   if (table.role == NameOf(Role::kProcessRules)) return GeneralParameters(open, path);
 
