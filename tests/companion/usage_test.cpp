@@ -66,6 +66,51 @@ TEST(Usage, EveryWrongCommandLineExitsWithTwoAndSaysSo) {
   }
 }
 
+/// The first line that a wrong command line gives.
+std::string Complaint(const std::vector<std::string>& arguments) {
+  const std::string err = RunPlateconfig(arguments).err;
+  return err.substr(0, err.find('\n'));
+}
+
+TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
+  EXPECT_EQ(Complaint({"folde"}), "plateconfig: error: there is no verb \"folde\"; did you mean \"folder\"?");
+  EXPECT_EQ(Complaint({"process", "a.csv", "--foramt", "json"}),
+            "plateconfig: error: there is no option --foramt; did you mean \"--format\"?");
+  EXPECT_EQ(Complaint({"process", "a.csv", "--proces-rules", "r.csv"}),
+            "plateconfig: error: there is no option --proces-rules; did you mean \"--process-rules\"?");
+  EXPECT_EQ(Complaint({"folder", "--format", "jsn"}),
+            "plateconfig: error: --format: \"jsn\" is none of text, json; did you mean \"json\"?");
+  EXPECT_THAT(Complaint({"template", "text"}), ::testing::EndsWith("; did you mean \"texts\"?"));
+}
+
+TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
+  EXPECT_EQ(Complaint({}),
+            "plateconfig: error: a verb is missing: one of folder, process, explain, holes, show, schema, "
+            "template");
+  EXPECT_EQ(Complaint({"process"}), "plateconfig: error: plates is required");
+  EXPECT_EQ(Complaint({"holes", "a.csv"}), "plateconfig: error: --types is required");
+  EXPECT_EQ(Complaint({"process", "--config"}), "plateconfig: error: the value behind --config is missing");
+  EXPECT_EQ(Complaint({"folder", "more"}), "plateconfig: error: \"more\" is one argument too many");
+  EXPECT_EQ(Complaint({"--format", "json", "folder", "--format", "text"}),
+            "plateconfig: error: --format is given more than once");
+  EXPECT_EQ(Complaint({"show", "--config", ""}), "plateconfig: error: --config: the value is empty");
+}
+
+TEST(Usage, AWrongCommandLineIsToldInChineseToo) {
+  EXPECT_EQ(RunPlateconfig({"--lang", "zh", "folde"}).err,
+            "plateconfig: error: 没有命令“folde”；是否应为“folder”？\n用 plateconfig --help 查看用法\n");
+  EXPECT_EQ(RunPlateconfig({"process", "--lang", "zh"}).err,
+            "plateconfig: error: 缺少必需的 plates\n用 plateconfig process --help 查看用法\n");
+  EXPECT_EQ(Complaint({"--lang", "zh", "folder", "--format", "xml"}),
+            "plateconfig: error: --format: “xml”不是 text, json 之一");
+}
+
+TEST(Usage, TheHelpListsTheRoles) {
+  for (const char* verb : {"show", "template"})
+    EXPECT_THAT(RunPlateconfig({verb, "--help"}).out,
+                HasSubstr("column-widths, process-settings, process-rules"));
+}
+
 TEST(Usage, GlobalOptionsMayStandBehindTheVerb) {
   const test::SmallConfiguration configuration;
   const auto result =
@@ -81,6 +126,17 @@ TEST(Usage, AnOutputThatCanNotBeWrittenIsAnError) {
   out.setstate(std::ios::badbit);
   const int exitCode =
       RunCompanion({"--lang", "en", "process", "--config", configuration.Path(), "-"}, {in, out, err});
+  EnableDiagnosticFiles(true);
+  EXPECT_EQ(exitCode, 2);
+  EXPECT_EQ(err.str(), "plateconfig: error: the output could not be written\n");
+}
+
+TEST(Usage, AHelpThatCanNotBeWrittenIsAnError) {
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  out.setstate(std::ios::badbit);
+  const int exitCode = RunCompanion({"--lang", "en", "--help"}, {in, out, err});
   EnableDiagnosticFiles(true);
   EXPECT_EQ(exitCode, 2);
   EXPECT_EQ(err.str(), "plateconfig: error: the output could not be written\n");

@@ -1,6 +1,7 @@
 #include "plateconfig/command.h"
 
 #include "plateconfig/language.h"
+#include "plateconfig/usage_message.h"
 
 namespace plateconfig {
 
@@ -15,12 +16,17 @@ CLI::App* AddVerb(CLI::App& app, const std::string& name, const std::string& des
   return verb;
 }
 
+void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles) {
+  command.footer(Say("Roles: {}", "角色：{}", Listed(roles)) + "\n\n" + command.get_footer());
+}
+
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options) {
   command
       .add_option("--config", options.folder,
                   Say("configuration folder; without it, the active one below TQConfig",
                       "配置文件夹；省略时使用 TQConfig 下的有效配置"))
+      ->check(NotEmpty())
       ->type_name(Say("DIR", "文件夹"));
   for (const Role role : roles) {
     const auto take = [&options, role](const std::string& file) { options.tables[role] = file; };

@@ -39,6 +39,9 @@ std::string HelpDescription();
 /// A verb with its name and its description in the help.
 CLI::App* AddVerb(CLI::App& app, const std::string& name, const std::string& description);
 
+/// Lists the roles that a verb takes below its options.
+void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
+
 /// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options);

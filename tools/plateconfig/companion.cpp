@@ -8,6 +8,7 @@
 #include "plateconfig/command.h"
 #include "plateconfig/language.h"
 #include "plateconfig/reporter.h"
+#include "plateconfig/usage_message.h"
 #include "platform/diagnostic_file.h"
 
 namespace plateconfig {
@@ -44,12 +45,8 @@ void TranslateLabels(CLI::App& app) {
   constexpr std::size_t kOptionWidth = 34;
   formatter->column_width(kOptionWidth);
   app.option_defaults()->group(Say("Options", "选项"));
-  app.failure_message([](const CLI::App* failed, const CLI::Error& error) {
-    return "plateconfig: error: " + std::string(error.what()) + "\n" +
-           Say("{} --help tells what there is", "用 {} --help 查看用法",
-               failed->get_parent() == nullptr ? "plateconfig" : "plateconfig " + failed->get_name()) +
-           "\n";
-  });
+  app.failure_message(
+      [](const CLI::App* root, const CLI::Error& error) { return UsageMessage(*root, error); });
 }
 
 std::string Footer() {
@@ -76,10 +73,10 @@ struct CommandLine {
     app.fallthrough();
     app.footer(Footer());
     app.add_option("--format", format, Say("form of the output: text or json", "输出格式：text 或 json"))
-        ->check(CLI::IsMember({"text", "json"}).description(""))
+        ->check(OneOf({"text", "json"}))
         ->type_name("text|json");
     app.add_option(kLanguageOption, language, Say("language of the output: en or zh", "输出语言：en 或 zh"))
-        ->check(CLI::IsMember({"en", "zh"}).description(""))
+        ->check(OneOf({"en", "zh"}))
         ->type_name("en|zh");
     AddFolderCommand(app, verb);
     AddProcessCommand(app, verb);
@@ -117,13 +114,14 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
   SetLanguage(ChosenLanguage(arguments));
   CommandLine line;
   int exitCode = kFine;
-  if (!Parse(line, arguments, streams, exitCode)) return exitCode;
   Reporter reporter(streams.err);
-  Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
-  line.verb(context);
+  if (Parse(line, arguments, streams, exitCode)) {
+    Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
+    line.verb(context);
+  }
   streams.out.flush();
   if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
-  return reporter.Result();
+  return std::max<int>(exitCode, reporter.Result());
 }
 
 }  // namespace plateconfig

@@ -6,6 +6,7 @@
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
 #include "plateconfig/output_file.h"
+#include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -135,7 +136,7 @@ void AddSchemaCommand(CLI::App& app, Verb& chosen) {
                                   "列出库读取的所有表和列及其默认值"));
   const auto job = std::make_shared<SchemaJob>();
   command->add_option("--format", job->format, Say("text, json or markdown", "text、json 或 markdown"))
-      ->check(CLI::IsMember({"text", "json", "markdown"}).description(""))
+      ->check(OneOf({"text", "json", "markdown"}))
       ->type_name("text|json|markdown");
   command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));

@@ -6,6 +6,7 @@
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
 #include "plateconfig/shown_settings.h"
+#include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -142,9 +143,11 @@ void AddShowCommand(CLI::App& app, Verb& chosen) {
                                   "显示配置中的每一项设置及其来源"));
   const auto job = std::make_shared<ShowJob>();
   AddConfigurationOptions(*command, AllRoles(), job->configuration);
+  const std::vector<std::string> names(kRoleNames.begin(), kRoleNames.end());
   command->add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
-      ->check(CLI::IsMember(std::vector<std::string>(kRoleNames.begin(), kRoleNames.end())).description(""));
+      ->check(OneOf(names));
+  AddRolesToHelp(*command, names);
   command->callback([job, &chosen] { chosen = [job](Context& context) { RunShow(*job, context); }; });
 }
 

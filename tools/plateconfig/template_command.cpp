@@ -5,6 +5,7 @@
 #include "plateconfig/language.h"
 #include "plateconfig/output_file.h"
 #include "plateconfig/table_template.h"
+#include "plateconfig/usage_message.h"
 
 namespace plateconfig {
 namespace {
@@ -39,7 +40,8 @@ void AddTemplateCommand(CLI::App& app, Verb& chosen) {
   command->add_option("role", job->role, Say("the role of the table", "表的角色"))
       ->type_name(Say("ROLE", "角色"))
       ->required()
-      ->check(CLI::IsMember(RoleNames()).description(""));
+      ->check(OneOf(RoleNames()));
+  AddRolesToHelp(*command, RoleNames());
   command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));
   command->add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
