@@ -64,7 +64,7 @@ TEST_F(ProcessCommand, SpeaksChinese) {
                      std::string(kPlates) + "长板,1203,300,50,140,12,12,,,,,\n坏,x,1,1,1,1,1,,,,,\n");
   EXPECT_EQ(result.out,
             "A板（第 2 行）：锯床下料→钻孔到数→检测外形\n镶件（第 4 行）：慢走丝\n"
-            "长板: 没有符合的规则行（用 plateconfig explain 查看原因）\n");
+            "长板：没有符合的规则行（用 plateconfig explain 查看原因）\n");
   EXPECT_EQ(result.err,
             "标准输入:5:3: error: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
   EXPECT_EQ(result.exitCode, 2);
@@ -129,7 +129,17 @@ TEST_F(ProcessCommand, ANameThatNoPlateHasIsAFinding) {
   const auto result = RunPlateconfig(
       {"process", "--config", configuration_.Path(), "--plate", "镶件", "--plate", "滑块", "-"}, kPlates);
   EXPECT_EQ(result.out, "镶件 (line 4): 慢走丝\n");
-  EXPECT_EQ(result.err, "plateconfig: warning: no plate has the name 滑块\n");
+  EXPECT_EQ(result.err, "plateconfig: warning: no plate has the name \"滑块\"\n");
+  EXPECT_EQ(result.exitCode, 1);
+}
+
+TEST_F(ProcessCommand, AMisspelledPlateIsAnsweredWithTheNearestOne) {
+  const std::string plates = std::string(kPlates) + "加长托板,450,400,90,127.2,12,12,36,36,4,N,Y\n";
+  const auto result =
+      RunPlateconfig({"process", "--config", configuration_.Path(), "--plate", "加长拖板", "-"}, plates);
+  EXPECT_THAT(result.out, IsEmpty());
+  EXPECT_EQ(result.err,
+            "plateconfig: warning: no plate has the name \"加长拖板\"; did you mean \"加长托板\"?\n");
   EXPECT_EQ(result.exitCode, 1);
 }
 

@@ -8,6 +8,8 @@
 #include "plateconfig/full_schema.h"
 #include "plateconfig/input_file.h"
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
 #include "plateconfig/table_check.h"
 
 namespace plateconfig {
@@ -39,9 +41,7 @@ class PlateLoop {
   void VisitFiles() {
     for (const std::string& file : job_.files) VisitFile(file);
     for (const std::string& name : job_.names) {
-      if (!found_.contains(name)) {
-        context_.reporter.Warning({"plateconfig"}, Say("no plate has the name {}", "没有名为 {} 的板", name));
-      }
+      if (!met_.contains(name)) context_.reporter.Warning({"plateconfig"}, NoPlate(name));
     }
   }
 
@@ -71,13 +71,20 @@ class PlateLoop {
 
   bool IsWanted(const PlateInput& plate) {
     if (job_.names.empty()) return true;
-    const bool isNamed = std::find(job_.names.begin(), job_.names.end(), plate.name) != job_.names.end();
-    if (isNamed) found_.insert(plate.name);
-    return isNamed;
+    met_.insert(plate.name);
+    return std::find(job_.names.begin(), job_.names.end(), plate.name) != job_.names.end();
+  }
+
+  std::string NoPlate(const std::string& name) const {
+    const std::string similar = MostSimilarName(name, {met_.begin(), met_.end()});
+    const std::string shown = ShownText(name);
+    if (similar.empty()) return Say("no plate has the name \"{}\"", "没有名为“{}”的板", shown);
+    return Say("no plate has the name \"{}\"; did you mean \"{}\"?", "没有名为“{}”的板；是否应为“{}”？",
+               shown, ShownText(similar));
   }
 
   const PlateJob& job_;
-  std::set<std::string> found_;  ///< Those of the wanted names that were met.
+  std::set<std::string> met_;  ///< The names of all plates, when only some are wanted.
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
   Context& context_;

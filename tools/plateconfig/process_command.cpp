@@ -21,9 +21,9 @@ class MatchSink : public EvaluationSink {
 
 void WriteText(const PlateInput& plate, std::optional<int> line, const std::string& text, std::ostream& out) {
   if (!line) {
-    out << plate.name << ": "
-        << Say("no rule row fits (plateconfig explain tells why)",
-               "没有符合的规则行（用 plateconfig explain 查看原因）")
+    out << plate.name
+        << Say(": no rule row fits (plateconfig explain tells why)",
+               "：没有符合的规则行（用 plateconfig explain 查看原因）")
         << "\n";
     return;
   }
