@@ -40,11 +40,19 @@ TEST(JsonValues, TakesEachTypeFromItsKind) {
 TEST(JsonValues, SaysWhatShouldStandThere) {
   constexpr const char* kPlace = "f.json:4:9: error: this should be ";
   constexpr const char* kPassed = " (this object is passed over)\n";
-  EXPECT_EQ(Taken<bool>("1").messages.Text(), std::string(kPlace) + "true or false" + kPassed);
-  EXPECT_EQ(Taken<double>("\"450\"").messages.Text(), std::string(kPlace) + "a number" + kPassed);
-  EXPECT_EQ(Taken<int>("null").messages.Text(), std::string(kPlace) + "a whole number" + kPassed);
-  EXPECT_EQ(Taken<std::string>("5").messages.Text(), std::string(kPlace) + "a text in quotes" + kPassed);
-  EXPECT_EQ(Taken<std::vector<int>>("36").messages.Text(), std::string(kPlace) + "a list [ … ]" + kPassed);
+  EXPECT_EQ(Taken<bool>("1").messages.Text(), std::string(kPlace) + "true or false, not 1" + kPassed);
+  EXPECT_EQ(Taken<double>("\"450\"").messages.Text(),
+            std::string(kPlace) + "a number, not \"450\"" + kPassed);
+  EXPECT_EQ(Taken<int>("null").messages.Text(), std::string(kPlace) + "a whole number, not null" + kPassed);
+  EXPECT_EQ(Taken<std::string>("5").messages.Text(),
+            std::string(kPlace) + "a text in quotes, not 5" + kPassed);
+  EXPECT_EQ(Taken<std::vector<int>>("36").messages.Text(),
+            std::string(kPlace) + "a list [ … ], not 36" + kPassed);
+  EXPECT_EQ(Taken<int>("1.5").messages.Text(), std::string(kPlace) + "a whole number, not 1.5" + kPassed);
+  EXPECT_EQ(Taken<bool>("[1]").messages.Text(), std::string(kPlace) + "true or false, not a list" + kPassed);
+  EXPECT_EQ(Taken<bool>("{}").messages.Text(),
+            std::string(kPlace) + "true or false, not an object" + kPassed);
+  EXPECT_EQ(Taken<double>("false").messages.Text(), std::string(kPlace) + "a number, not false" + kPassed);
 }
 
 TEST(JsonValues, AValueOfAnotherKindMakesTheObjectUnusable) {
@@ -62,11 +70,18 @@ TEST(JsonValues, AnIntIsWholeAndFits) {
     EXPECT_FALSE(Taken<int>(text).isGood) << text;
 }
 
+TEST(JsonValues, AWholeNumberThatIsNoIntIsSaidToBeOutOfRange) {
+  EXPECT_EQ(
+      Taken<int>("99999999999").messages.Text(),
+      "f.json:4:9: error: 99999999999 is out of range; whole numbers go from -2147483648 to 2147483647 (this "
+      "object is passed over)\n");
+}
+
 TEST(JsonValues, AnItemOfAListIsReportedAtItsOwnPlace) {
   const Taken<std::vector<int>> taken("[1, \"二\", 3]");
   EXPECT_FALSE(taken.isGood);
   EXPECT_EQ(taken.messages.Text(),
-            "f.json:4:13: error: this should be a whole number (this object is passed over)\n");
+            "f.json:4:13: error: this should be a whole number, not \"二\" (this object is passed over)\n");
 }
 
 TEST(JsonValues, WithoutMistakeNothingIsSaid) {

@@ -100,11 +100,21 @@ TEST(PlateCsv, AMistakeIsReportedWithItsCell) {
             "(this plate is passed over)\n");
   EXPECT_THAT(MessageAbout("面颜色", "36-186"), HasSubstr("G2: \"36-186\" is not a list of whole numbers"));
   EXPECT_THAT(MessageAbout("圆孔颜色", "36_"), HasSubstr("G2: \"36_\" is not a list of whole numbers"));
-  EXPECT_THAT(MessageAbout("圆孔直径", "6 8"), HasSubstr("G2: \"6 8\" is not a list of numbers"));
+  EXPECT_THAT(MessageAbout("圆孔直径", "6 8"),
+              HasSubstr("G2: \"6 8\" (with a blank) is not a list of numbers"));
   EXPECT_THAT(MessageAbout("有无圆孔", "有"), HasSubstr("G2: \"有\" is neither Y nor N"));
   EXPECT_THAT(MessageAbout("氮化", "1"), HasSubstr("G2: \"1\" is neither Y nor N"));
   EXPECT_THAT(MessageAbout("孔数量", "1.5"), HasSubstr("G2: \"1.5\" is not a whole number"));
-  EXPECT_THAT(MessageAbout("孔数量", "99999999999"), HasSubstr("G2: \"99999999999\" is not a whole number"));
+  EXPECT_THAT(MessageAbout("孔数量", "99999999999"), HasSubstr("G2: \"99999999999\" is out of range"));
+}
+
+TEST(PlateCsv, WhatIsEasilyOverlookedInACellIsSaid) {
+  EXPECT_THAT(MessageAbout("图层", "１２"),
+              HasSubstr("G2: \"１２\" (with full-width characters) is not a whole number"));
+  EXPECT_THAT(MessageAbout("图层", "12　"), HasSubstr("G2: \"12　\" (with full-width characters) is not"));
+  EXPECT_THAT(MessageAbout("图层", "12 "), HasSubstr("G2: \"12 \" (with a blank) is not a whole number"));
+  EXPECT_THAT(MessageAbout("有无圆孔", "Ｙ"),
+              HasSubstr("G2: \"Ｙ\" (with full-width characters) is neither"));
 }
 
 TEST(PlateCsv, SizesArePositiveAndAWeightMayBeZero) {
@@ -112,18 +122,19 @@ TEST(PlateCsv, SizesArePositiveAndAWeightMayBeZero) {
                  "\na,0,1,1,1,1\nb,1,-1,1,1,1\nc,1,1,0,1,1\nd,1,1,1,-0.1,1\ne,1,1,1,0,1\n");
   EXPECT_THAT(file.Names(), ElementsAre("e"));
   EXPECT_EQ(file.messages.Text(),
-            "板.csv:2:3: error: B2: 0 is too small (this plate is passed over)\n"
-            "板.csv:3:5: error: C3: -1 is too small (this plate is passed over)\n"
-            "板.csv:4:7: error: D4: 0 is too small (this plate is passed over)\n"
-            "板.csv:5:9: error: E5: -0.1 is too small (this plate is passed over)\n");
+            "板.csv:2:3: error: B2: 0 is too small; write a number above 0 (this plate is passed over)\n"
+            "板.csv:3:5: error: C3: -1 is too small; write a number above 0 (this plate is passed over)\n"
+            "板.csv:4:7: error: D4: 0 is too small; write a number above 0 (this plate is passed over)\n"
+            "板.csv:5:9: error: E5: -0.1 is too small; write 0 or more (this plate is passed over)\n");
 }
 
 TEST(PlateCsv, NumbersOutOfRangeAreRefused) {
   CsvPlates file(std::string(kHeader) + "\na,1e999,1,1,1,1\nb,1,1,1,1,99999999999\nc,1,1,1,nan,1\n");
   EXPECT_THAT(file.Names(), IsEmpty());
-  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:2:3: error: B2: \"1e999\" is not a number"));
   EXPECT_THAT(file.messages.Text(),
-              HasSubstr("板.csv:3:11: error: F3: \"99999999999\" is not a whole number"));
+              HasSubstr("板.csv:2:3: error: B2: \"1e999\" is out of range (this plate"));
+  EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:3:11: error: F3: \"99999999999\" is out of range; "
+                                              "whole numbers go from -2147483648 to 2147483647"));
   EXPECT_THAT(file.messages.Text(), HasSubstr("板.csv:4:9: error: E4: \"nan\" is not a number"));
 }
 

@@ -87,7 +87,7 @@ TEST(PlateJson, ColourLayerAndFeaturesThatAreMissingAreNone) {
 
 TEST(PlateJson, AMistakeIsReportedAtItsValue) {
   EXPECT_EQ(MessageAbout("\"layer\": \"12\""),
-            "板.json:1:24: error: this should be a whole number (this object is passed over)\n");
+            "板.json:1:24: error: this should be a whole number, not \"12\" (this object is passed over)\n");
   EXPECT_THAT(MessageAbout("\"faceColors\": \"36_186\""),
               HasSubstr("1:29: error: this should be a list [ … ]"));
   EXPECT_THAT(MessageAbout("\"features\": []"), HasSubstr("1:27: error: this should be an object { … }"));
@@ -106,15 +106,14 @@ TEST(PlateJson, SizesArePositive) {
   JsonPlates file(R"({"name": "a", "length": 0, "width": -1, "thickness": 90, "weight": -0.5, "color": 12})");
   EXPECT_THAT(file.All(), IsEmpty());
   EXPECT_EQ(file.messages.Text(),
-            "板.json:1:25: error: 0 is too small (this object is passed over)\n"
-            "板.json:1:37: error: -1 is too small (this object is passed over)\n"
-            "板.json:1:68: error: -0.5 is too small (this object is passed over)\n");
+            "板.json:1:25: error: 0 is too small; write a number above 0 (this object is passed over)\n"
+            "板.json:1:37: error: -1 is too small; write a number above 0 (this object is passed over)\n"
+            "板.json:1:68: error: -0.5 is too small; write 0 or more (this object is passed over)\n");
 }
 
 TEST(PlateJson, NumbersOutOfRangeAreRefused) {
   EXPECT_THAT(MessageAbout("\"layer\": 1e999"), HasSubstr("1:24: error: this number is too large: 1e999"));
-  EXPECT_THAT(MessageAbout("\"layer\": 99999999999"),
-              HasSubstr("1:24: error: this should be a whole number"));
+  EXPECT_THAT(MessageAbout("\"layer\": 99999999999"), HasSubstr("1:24: error: 99999999999 is out of range"));
 }
 
 TEST(PlateJson, EveryMissingMemberIsNamedAtTheObject) {

@@ -2,9 +2,33 @@
 
 #include <limits>
 
+#include "plateconfig/cell_texts.h"
 #include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
 
 namespace plateconfig {
+namespace {
+
+/// What stands there instead, as a message names it.
+std::string Shown(const JsonNode& node) {
+  switch (node.kind) {
+    case JsonNode::Kind::kNull:
+      return "null";
+    case JsonNode::Kind::kBool:
+      return node.flag ? "true" : "false";
+    case JsonNode::Kind::kNumber:
+      return fmt::format("{}", node.number);
+    case JsonNode::Kind::kString:
+      return Say("\"{}\"", "“{}”", ShownText(node.text));
+    case JsonNode::Kind::kArray:
+      return Say("a list", "列表");
+    case JsonNode::Kind::kObject:
+      break;
+  }
+  return Say("an object", "对象");
+}
+
+}  // namespace
 
 void JsonValues::Refuse(const JsonNode& node, const std::string& text) {
   areGood_ = false;
@@ -13,8 +37,12 @@ void JsonValues::Refuse(const JsonNode& node, const std::string& text) {
 
 bool JsonValues::Expect(const JsonNode& node, JsonNode::Kind kind, const std::string& what) {
   if (node.kind == kind) return true;
-  Refuse(node, Say("this should be {}", "这里应当是{}", what));
+  RefuseAs(node, what);
   return false;
+}
+
+void JsonValues::RefuseAs(const JsonNode& node, const std::string& what) {
+  Refuse(node, Say("this should be {}, not {}", "这里应当是{}，而不是{}", what, Shown(node)));
 }
 
 bool JsonValues::IsArray(const JsonNode& node) {
@@ -36,9 +64,10 @@ void JsonValues::Read(const JsonNode& node, double& value) {
 void JsonValues::Read(const JsonNode& node, int& value) {
   const std::string what = Say("a whole number", "整数");
   if (!Expect(node, JsonNode::Kind::kNumber, what)) return;
+  if (!node.isInteger) return RefuseAs(node, what);
   const bool fits =
       node.number >= std::numeric_limits<int>::min() && node.number <= std::numeric_limits<int>::max();
-  if (!node.isInteger || !fits) return Refuse(node, Say("this should be {}", "这里应当是{}", what));
+  if (!fits) return Refuse(node, IntegerOutOfRange(Shown(node)));
   value = static_cast<int>(node.number);
 }
 

@@ -41,6 +41,7 @@ class JsonValues {
 
  private:
   bool Expect(const JsonNode& node, JsonNode::Kind kind, const std::string& what);
+  void RefuseAs(const JsonNode& node, const std::string& what);
 
   Reporter& reporter_;
   bool areGood_ = true;

@@ -29,7 +29,7 @@ StoreCell StoreNumber(const PlateNumberField& field) {
   return [&field](const std::string& text, PlateInput& input) -> std::string {
     const auto value = StrictNumber(text);
     if (!value) return NotANumber(text);
-    if (!Allows(field, *value)) return Say("{} is too small", "{} 太小", ShownText(text));
+    if (!Allows(field, *value)) return TooSmall(ShownText(text), field.isPositive);
     input.plate.*field.value = *value;
     return {};
   };

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "plateconfig/cell_texts.h"
 #include "plateconfig/json_members.h"
 #include "plateconfig/json_stream.h"
 #include "plateconfig/json_values.h"
@@ -55,7 +56,7 @@ class PlateObject {
       double& value = plate_.plate.*field.value;
       values_.Read(node, value);
       if (node.kind == JsonNode::Kind::kNumber && !Allows(field, value)) {
-        values_.Refuse(node, Say("{} is too small", "{} 太小", value));
+        values_.Refuse(node, TooSmall(fmt::format("{}", value), field.isPositive));
       }
       return true;
     }

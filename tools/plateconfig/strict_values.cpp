@@ -16,6 +16,14 @@ std::optional<Number> WholeNumber(std::string_view text) {
   return value;
 }
 
+template <typename Number>
+bool IsOutOfRange(std::string_view text) {
+  Number value{};
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  return error == std::errc::result_out_of_range && stop == end;
+}
+
 template <typename Item>
 std::optional<std::vector<Item>> List(std::string_view text, std::optional<Item> (*parse)(std::string_view)) {
   std::vector<Item> items;
@@ -38,6 +46,14 @@ std::optional<double> StrictNumber(std::string_view text) {
 
 std::optional<int> StrictInteger(std::string_view text) {
   return WholeNumber<int>(text);
+}
+
+bool IsNumberOutOfRange(std::string_view text) {
+  return IsOutOfRange<double>(text);
+}
+
+bool IsIntegerOutOfRange(std::string_view text) {
+  return IsOutOfRange<int>(text);
 }
 
 std::optional<bool> StrictYesNo(std::string_view text) {

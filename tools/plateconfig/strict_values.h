@@ -15,6 +15,10 @@ std::optional<double> StrictNumber(std::string_view text);
 /// The whole text as a decimal int.
 std::optional<int> StrictInteger(std::string_view text);
 
+/// True for text that is a decimal number, or int, beyond what the type holds.
+bool IsNumberOutOfRange(std::string_view text);
+bool IsIntegerOutOfRange(std::string_view text);
+
 /// Y, y: true. N, n and an empty text: false.
 std::optional<bool> StrictYesNo(std::string_view text);
 
