@@ -76,6 +76,24 @@ TEST(Configuration, AMisspelledRoleIsAnsweredWithTheNearestOne) {
   EXPECT_THAT(folder.messages.Text(), HasSubstr("did you mean \"process-rules\"?"));
 }
 
+TEST(Configuration, OfTwoFilesForOneRoleTheFirstCounts) {
+  Folder folder(R"({"bom": "a.csv", "bom": "b.csv"})");
+  EXPECT_EQ(folder.Find(Role::kBom)->shownAs, folder.options.folder + "/a.csv");
+  EXPECT_EQ(folder.messages.Text(),
+            folder.manifestPath + ":1:25: warning: a second member \"bom\"; the first one counts\n");
+}
+
+TEST(Configuration, AFolderThatDoesNotExistIsNamedOnceAndNoRoleIsAskedFor) {
+  const test::TemporaryFolder files;
+  test::Messages messages;
+  ConfigurationOptions options;
+  options.folder = ArgumentPath(files, "没有");
+  Configuration configuration(options, messages.reporter);
+  EXPECT_FALSE(configuration.Find(Role::kBom));
+  EXPECT_FALSE(configuration.Find(Role::kTexts));
+  EXPECT_EQ(messages.Text(), options.folder + "/: error: this configuration folder does not exist\n");
+}
+
 TEST(Configuration, AFileNameThatIsNoTextIsAnError) {
   Folder folder(R"({"bom": 5, "texts": "t.csv"})");
   EXPECT_TRUE(folder.Find(Role::kTexts));

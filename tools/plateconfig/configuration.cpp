@@ -1,5 +1,8 @@
 #include "plateconfig/configuration.h"
 
+#include <set>
+#include <string_view>
+
 #include "config/configuration_index.h"
 #include "plateconfig/console.h"
 #include "plateconfig/json_node.h"
@@ -39,7 +42,7 @@ bool EndsWithSeparator(const std::string& path) {
 
 std::optional<TableFile> Configuration::Find(Role role) {
   std::optional<TableFile> table = FindOptional(role);
-  if (!table) {
+  if (!table && isUsable_) {
     reporter_.Error({"plateconfig"}, Say("no table plays the role {0}: name it in {1}, or give --{0} FILE",
                                          "没有文件担任 {0} 角色：请在 {1} 中指定，或使用 --{0} 文件",
                                          NameOf(role), folder_.shownAs + kManifestName));
@@ -84,6 +87,10 @@ std::optional<TableFile> Configuration::InFolder(const std::string& name) const 
 void Configuration::ReadManifest() {
   const TableFile manifest = *InFolder(kManifestName);
   const std::optional<FileBytes> bytes = ReadWholeFile(manifest.hostPath);
+  if (!bytes && !FileExists(folder_.hostPath)) {
+    reporter_.Error({folder_.shownAs}, Say("this configuration folder does not exist", "此配置文件夹不存在"));
+    return;
+  }
   if (!bytes) {
     reporter_.Error({manifest.shownAs},
                     Say("this manifest, which says what file plays which role, can not be read",
@@ -100,10 +107,16 @@ void Configuration::ReadManifest() {
   if (root.kind != JsonNode::Kind::kObject) {
     reporter_.Error(root.place, Say("the manifest should be an object { role: file name, … }",
                                     "清单应当是一个对象 { 角色: 文件名, … }"));
+    return;
   }
+  isUsable_ = true;
+  std::set<std::string_view> names;
   for (const auto& [name, file] : root.members) {
     const auto role = FindRole(name);
-    if (!role) {
+    if (!names.insert(name).second) {
+      reporter_.Warning(file.place, Say("a second member \"{}\"; the first one counts",
+                                        "重复的成员“{}”；以第一个为准", ShownText(name)));
+    } else if (!role) {
       reporter_.Warning(file.place, UnknownRole(name));
     } else if (file.kind != JsonNode::Kind::kString) {
       reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",

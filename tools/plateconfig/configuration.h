@@ -30,7 +30,8 @@ class Configuration {
   Configuration(const ConfigurationOptions& options, Reporter& reporter)
       : options_(options), reporter_(reporter) {}
 
-  /// The table of a role; nothing when no file plays it, which is reported as an error.
+  /// The table of a role; nothing when no file plays it, which is reported as an error, here or when the
+  /// manifest was looked for.
   std::optional<TableFile> Find(Role role);
 
   /// The same without an error for a role that the manifest does not name.
@@ -44,7 +45,8 @@ class Configuration {
   const ConfigurationOptions& options_;
   Reporter& reporter_;
   bool isRead_ = false;
-  TableFile folder_;  ///< Ends with a separator; empty when there is none.
+  bool isUsable_ = false;  ///< The manifest was read; else what is wrong is reported already.
+  TableFile folder_;       ///< Ends with a separator; empty when there is none.
   std::map<Role, std::string> manifest_;
 };
 
