@@ -113,7 +113,7 @@ TEST(CheckTable, ASeparatorThatIsNoCommaIsNamed) {
 
 TEST(CheckTable, ADamagedCharacterBelowTheHeaderIsNamedWithItsCell) {
   EXPECT_EQ(
-      Check(test::Gbk("模板所在图层,长度范围\n12,\n13,板") + "\xB0\n"),
+      Check(test::Gbk("模板所在图层,备注\n12,\n13,板") + "\xB0\n"),
       "t.csv:3:5: warning: B3: a character here is not GBK; save the table as CSV in GBK (code page 936)\n");
 }
 

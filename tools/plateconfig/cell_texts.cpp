@@ -61,6 +61,11 @@ std::string NotNumbers(const std::string& text) {
              Offending(text));
 }
 
+std::string NotARange(const std::string& text) {
+  return Say("{} is not a range; write it like 10_200", "{}不是范围；请写成 10_200 这样的形式",
+             Offending(text));
+}
+
 std::string NotYesNo(const std::string& text) {
   return Say("{} is neither Y nor N", "{}既不是 Y 也不是 N", Offending(text));
 }

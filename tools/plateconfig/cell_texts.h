@@ -10,6 +10,7 @@ std::string NotANumber(const std::string& text);
 std::string NotAnInteger(const std::string& text);
 std::string NotIntegers(const std::string& text);
 std::string NotNumbers(const std::string& text);
+std::string NotARange(const std::string& text);
 std::string NotYesNo(const std::string& text);
 
 /// Of a value that is not at least 0, or not above 0.

@@ -10,6 +10,7 @@
 #include "plateconfig/language.h"
 #include "plateconfig/separator.h"
 #include "plateconfig/similar_name.h"
+#include "plateconfig/table_cells.h"
 #include "platform/file.h"
 #include "rules/rule_columns.h"
 #include "text/gbk.h"
@@ -177,6 +178,11 @@ void CheckTable(const TableFile& file, const TableSchema& schema, const TableCon
                                          "此表在表头之下没有数据行；{}", consequences.whenEmpty));
   }
   CheckHeader(file, *table, schema, reporter);
+  const auto report = [&](std::size_t row, std::size_t column, const std::string& mistake) {
+    reporter.Warning(PlaceOf(OffsetOf(row, column, *table), file, *table),
+                     CellName(column, row + 1) + ": " + mistake);
+  };
+  ForEachCellMistake(*table, schema, report);
 }
 
 void CheckHeader(const TableFile& file, const Table& table, const TableSchema& schema, Reporter& reporter) {

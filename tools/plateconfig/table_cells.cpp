@@ -1,0 +1,185 @@
+#include "plateconfig/table_cells.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+#include "config/numbers.h"
+#include "plateconfig/cell_texts.h"
+#include "plateconfig/language.h"
+#include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
+#include "plateconfig/strict_values.h"
+#include "rules/condition_texts.h"
+#include "rules/rule_columns.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+std::string ReadAs(const std::string& value) {
+  return Say("; it is read as {}", "；读作 {}", value);
+}
+
+std::string NumberMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictNumber(cell)) return {};
+  return NotANumber(GbkToUtf8(cell)) + ReadAs(NumberText(ParseDouble(cell)));
+}
+
+std::string IntegerMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictInteger(cell)) return {};
+  return NotAnInteger(GbkToUtf8(cell)) + ReadAs(std::to_string(ParseInt(cell)));
+}
+
+std::string IntegersMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictIntegers(cell)) return {};
+  return NotIntegers(GbkToUtf8(cell)) + ReadAs(JoinInts(SplitInts(cell)));
+}
+
+std::string NumbersMistake(const ColumnSchema&, const std::string& cell) {
+  return StrictNumbers(cell) ? std::string() : NotNumbers(GbkToUtf8(cell));
+}
+
+std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
+  const auto bounds = StrictNumbers(cell);
+  if (bounds && bounds->size() == 2 && bounds->front() <= bounds->back()) return {};
+  const auto read = SplitRange(cell);
+  return NotARange(GbkToUtf8(cell)) + (read ? ReadAs(NumberText(read->first) + "_" + NumberText(read->second))
+                                            : Say("; it counts as an empty cell", "；视为空单元格"));
+}
+
+std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
+  constexpr FlagLetters kAll[] = {FlagLetters::kYesIfUpperY, FlagLetters::kYesIfY, FlagLetters::kNoIfUpperN,
+                                  FlagLetters::kNoIfN};
+  const auto letters = std::find_if(std::begin(kAll), std::end(kAll),
+                                    [&](FlagLetters each) { return FlagName(each) == column.kind; });
+  if (letters == std::end(kAll)) return {};
+  const bool isYes = ReadFlag(*letters, cell);
+  const auto strict = StrictYesNo(cell);
+  if (!strict) return NotYesNo(GbkToUtf8(cell)) + ReadAs(FlagText(isYes));
+  if (*strict == isYes) return {};
+  return Say("\"{}\" is read as {}; write a capital letter", "“{}”读作 {}；请写大写字母", GbkToUtf8(cell),
+             FlagText(isYes));
+}
+
+std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
+  if (FindRuleType(cell)) return {};
+  std::vector<std::string> known;
+  for (const ConditionText& condition : kConditionTexts) known.push_back(GbkToUtf8(condition.text));
+  const std::string name = GbkToUtf8(cell);
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
+  const std::string mistake = Say("\"{}\" is no condition and counts as {}", "“{}”不是工艺类型，视为 {}",
+                                  ShownText(name), known.front());
+  return similar.empty() ? mistake : mistake + Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+}
+
+/// Of a cell that looks like `exact` but for a letter, which makes it mean the opposite.
+std::string AlmostMistake(std::string_view exact, const std::string& cell) {
+  if (cell == exact) return {};
+  const std::string name = GbkToUtf8(cell);
+  const std::string wanted = GbkToUtf8(exact);
+  if (MostSimilarName(name, {wanted}).empty()) return {};
+  return Say("\"{}\" is not exactly \"{}\" and counts as its opposite",
+             "“{}”与“{}”不完全相同，因此视为相反的要求", ShownText(name), wanted);
+}
+
+/// The text that a cell of a rule row has to be exactly, and the one that says the opposite.
+struct ExactText {
+  std::string_view column;
+  std::string_view exact;
+  std::string_view opposite;
+};
+
+using namespace literals;
+
+constexpr ExactText kExactTexts[] = {
+    {columns::kHasProfile, columns::kProfileColors, "无型面"_gbk},
+    {columns::kHasWireCutting, columns::kWireCuttingColors, "无线割"_gbk},
+    {columns::kMaterial, columns::kSoftMaterial, columns::kHardMaterial},
+};
+
+std::string ExactMistake(const ColumnSchema& column, const std::string& cell) {
+  for (const ExactText& text : kExactTexts) {
+    if (column.column == text.column && cell != text.opposite) return AlmostMistake(text.exact, cell);
+  }
+  return {};
+}
+
+struct KindCheck {
+  std::string_view begin;  ///< Of the kind's name. The first that fits counts.
+  std::string (*mistake)(const ColumnSchema& column, const std::string& cell);
+};
+
+constexpr KindCheck kKindChecks[] = {
+    {"number", NumberMistake},
+    {"integer", IntegerMistake},
+    {"list of integers in one cell", IntegersMistake},
+    {"list of integers", IntegerMistake},
+    {"list of numbers in one cell", NumbersMistake},
+    {"range", RangeMistake},
+    {"flag", FlagMistake},
+    {"condition", ConditionMistake},
+    {"exactly", ExactMistake},
+};
+
+const KindCheck* FindCheck(std::string_view kind) {
+  const auto check = std::find_if(std::begin(kKindChecks), std::end(kKindChecks),
+                                  [&](const KindCheck& each) { return kind.starts_with(each.begin); });
+  return check == std::end(kKindChecks) ? nullptr : check;
+}
+
+/// A general parameter of the rule table is found by its name.
+std::string ParameterMistake(const ColumnSchema& column, const std::string& cell) {
+  if (std::find(column.whenAbsent.begin(), column.whenAbsent.end(), cell) != column.whenAbsent.end())
+    return {};
+  std::vector<std::string> known;
+  for (const std::string& name : column.whenAbsent) known.push_back(GbkToUtf8(name));
+  const std::string name = GbkToUtf8(cell);
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
+  if (similar.empty()) return {};
+  return Say("\"{}\" is no general parameter; did you mean \"{}\"?", "“{}”不是通用要求；是否应为“{}”？",
+             ShownText(name), similar);
+}
+
+/// The column without which a row of the rule table is none; empty for a column that stands for itself.
+std::string_view DecidingColumn(const ColumnSchema& column) {
+  if (column.column == columns::kConditionType || column.column == columns::kConditionValue)
+    return columns::kProcessName;
+  const bool isRuleRow = column.column == columns::kLengthRange || column.column == columns::kWidthRange ||
+                         column.column == columns::kHeightRange || column.column == columns::kWeightRange ||
+                         column.column == columns::kHasProfile || column.column == columns::kHasWireCutting ||
+                         column.column == columns::kMaterial;
+  return isRuleRow ? columns::kLayer : std::string_view();
+}
+
+}  // namespace
+
+std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
+  if (cell.empty()) return {};
+  if (column.column == columns::kParameterName) return ParameterMistake(column, cell);
+  const KindCheck* check = FindCheck(column.kind);
+  return check == nullptr ? std::string() : check->mistake(column, cell);
+}
+
+bool IsCheckedKind(std::string_view kind) {
+  return FindCheck(kind) != nullptr;
+}
+
+void ForEachCellMistake(
+    const Table& table, const TableSchema& schema,
+    const std::function<void(std::size_t row, std::size_t column, const std::string& mistake)>& report) {
+  for (const ColumnSchema& column : schema.columns) {
+    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
+    if (!at) continue;
+    const auto deciding = table.FindColumn(DecidingColumn(column));
+    const bool isOneCell = !column.isList && !column.isRowColumn;
+    const std::size_t last = isOneCell ? std::min<std::size_t>(table.RowCount(), 1) : table.RowCount();
+    for (std::size_t row = 1; row <= last; ++row) {
+      if (deciding && table.CellEquals(row, *deciding, "")) continue;
+      const std::string mistake = CellMistake(column, table.Cell(row, *at));
+      if (!mistake.empty()) report(row, *at, mistake);
+    }
+  }
+}
+
+}  // namespace plateconfig
