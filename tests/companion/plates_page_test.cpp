@@ -95,7 +95,7 @@ TEST(PlatesPage, ItsExamplesGiveWhatItShows) {
       ++commands;
     }
   }
-  EXPECT_EQ(commands, 4);
+  EXPECT_EQ(commands, 5);
 }
 
 TEST(PlatesPage, TheFieldsThatItListsAreAllThereAre) {
