@@ -115,6 +115,12 @@ TEST(Configuration, ASyntaxErrorOfTheManifestIsReportedAtItsPlace) {
               StartsWith(folder.manifestPath + ":2:10: error: this is not JSON here:"));
 }
 
+TEST(Configuration, AnEmptyManifestIsSaidToEndTooEarly) {
+  Folder folder("");
+  EXPECT_FALSE(folder.configuration.FindOptional(Role::kBom));
+  EXPECT_EQ(folder.messages.Text(), folder.manifestPath + ":1:1: error: the JSON ends here too early\n");
+}
+
 TEST(Configuration, AManifestInGbkIsNamedAsSuch) {
   Folder folder(test::Gbk("{\"bom\": \"材料.csv\"}"));
   EXPECT_FALSE(folder.configuration.FindOptional(Role::kBom));

@@ -77,6 +77,21 @@ TEST(JsonValues, AWholeNumberThatIsNoIntIsSaidToBeOutOfRange) {
       "object is passed over)\n");
 }
 
+TEST(JsonValues, InChineseABlankStandsBesideANumber) {
+  test::Messages messages;
+  JsonNode node;
+  ASSERT_TRUE(ParseJson("[12.5, 99999999999]", {"f.json", 1, 1}, messages.reporter, node));
+  SetLanguage(Language::kChinese);
+  JsonValues values(messages.reporter);
+  std::vector<int> read;
+  values.Read(node, read);
+  SetLanguage(Language::kEnglish);
+  EXPECT_EQ(
+      messages.Text(),
+      "f.json:1:2: error: 这里应当是整数，而不是 12.5（此对象被跳过）\n"
+      "f.json:1:8: error: 99999999999 超出范围；整数须在 -2147483648 到 2147483647 之间（此对象被跳过）\n");
+}
+
 TEST(JsonValues, AnItemOfAListIsReportedAtItsOwnPlace) {
   const Taken<std::vector<int>> taken("[1, \"二\", 3]");
   EXPECT_FALSE(taken.isGood);

@@ -121,6 +121,10 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
   bool parse_error(std::size_t, const std::string& near, const nlohmann::detail::exception& error) override {
     constexpr int kNumberOverflow = 406;
     const std::string shown = ShownText(near);
+    if (shown.empty()) {
+      reporter_.Error(tracker_.At(), Say("the JSON ends here too early", "JSON 在此处过早结束"));
+      return false;
+    }
     reporter_.Error(tracker_.Token(),
                     error.id == kNumberOverflow
                         ? Say("this number is too large: {}", "数字过大：{}", shown)

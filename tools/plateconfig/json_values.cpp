@@ -13,11 +13,11 @@ namespace {
 std::string Shown(const JsonNode& node) {
   switch (node.kind) {
     case JsonNode::Kind::kNull:
-      return "null";
+      return Say("null", " null");
     case JsonNode::Kind::kBool:
-      return node.flag ? "true" : "false";
+      return Say("{}", " {}", node.flag);
     case JsonNode::Kind::kNumber:
-      return fmt::format("{}", node.number);
+      return Say("{}", " {}", node.number);
     case JsonNode::Kind::kString:
       return Say("\"{}\"", "“{}”", ShownText(node.text));
     case JsonNode::Kind::kArray:
@@ -67,7 +67,7 @@ void JsonValues::Read(const JsonNode& node, int& value) {
   if (!node.isInteger) return RefuseAs(node, what);
   const bool fits =
       node.number >= std::numeric_limits<int>::min() && node.number <= std::numeric_limits<int>::max();
-  if (!fits) return Refuse(node, IntegerOutOfRange(Shown(node)));
+  if (!fits) return Refuse(node, IntegerOutOfRange(Say("{}", "{} ", node.number)));
   value = static_cast<int>(node.number);
 }
 

@@ -75,10 +75,10 @@ bool CheckEncoding(const TableFile& file, const Table& table, Reporter& reporter
                          "此表不是 GBK 编码，因此找不到其中的中文名称；请存为 GBK（代码页 936）的 CSV"));
     return false;
   }
-  reporter.Warning(
-      PlaceOf(bad, file, table),
-      Say("{}: a character here is not GBK; save the table as CSV in GBK (code page 936)",
-          "{}：此处的字符不是 GBK 编码；请将此表存为 GBK（代码页 936）的 CSV", CellAt(bad, table)));
+  reporter.Warning(PlaceOf(bad, file, table),
+                   CellAt(bad, table) + ": " +
+                       Say("a character here is not GBK; save the table as CSV in GBK (code page 936)",
+                           "此处的字符不是 GBK 编码；请将此表存为 GBK（代码页 936）的 CSV"));
   return true;
 }
 
