@@ -109,14 +109,22 @@ TEST_F(HoleReading, AMistakeInARowPassesItsWholeHoleOver) {
                              "K3,通,9,\n"
                              "K4,通,9,36\n");
   EXPECT_THAT(NamesOf(holes), ElementsAre("K4"));
+  EXPECT_THAT(
+      Messages(),
+      UnorderedElementsAre(
+          "h.csv:3:6: error: C3: \"九\" is not a number; write it like 450 or 12.5",
+          "h.csv:2:1: error: the hole \"K1\" is passed over because not all of its rows can be used",
+          "h.csv:4:4: error: B4: \"侧\" is none of 顶 (top), 通 (through) and 底 (bottom)",
+          "h.csv:4:1: error: the hole \"K2\" is passed over because not all of its rows can be used",
+          "h.csv:5:8: error: D5: an empty cell is not a whole number; write it like 12",
+          "h.csv:5:1: error: the hole \"K3\" is passed over because not all of its rows can be used"));
+}
+
+TEST_F(HoleReading, AnEmptyGroupIsCalledAnEmptyCell) {
+  EXPECT_THAT(ReadCsv(std::string(kShortHeader) + "K1,,14,36\n"), IsEmpty());
   EXPECT_THAT(Messages(),
-              UnorderedElementsAre(
-                  "h.csv:3:6: error: C3: \"九\" is not a number; write it like 450 or 12.5",
-                  "h.csv:2:1: error: the hole K1 is passed over because not all of its rows can be used",
-                  "h.csv:4:4: error: B4: \"侧\" is none of 顶 (top), 通 (through) and 底 (bottom)",
-                  "h.csv:4:1: error: the hole K2 is passed over because not all of its rows can be used",
-                  "h.csv:5:8: error: D5: an empty cell is not a whole number; write it like 12",
-                  "h.csv:5:1: error: the hole K3 is passed over because not all of its rows can be used"));
+              ::testing::Contains("h.csv:2:4: error: B2: an empty cell is none of 顶 (top), 通 (through) "
+                                  "and 底 (bottom)"));
 }
 
 TEST_F(HoleReading, ARowThatCanNotBeReadPassesTheHolesBeforeAndBehindItOver) {
@@ -142,14 +150,14 @@ TEST_F(HoleReading, BlankRowsAreSkipped) {
 
 TEST_F(HoleReading, TheFirstRowNeedsAName) {
   EXPECT_THAT(ReadCsv(std::string(kShortHeader) + ",顶,14,36\n"), IsEmpty());
-  EXPECT_THAT(err_.str(), HasSubstr("h.csv:2:1: error: the hole has no name\n"));
+  EXPECT_EQ(err_.str(), "h.csv:2:1: error: the hole has no name and is passed over\n");
 }
 
 TEST_F(HoleReading, ANameThatComesBackIsWarnedOf) {
   const auto holes = ReadCsv(std::string(kShortHeader) + "K1,通,8,31\nK2,通,8,31\nK1,通,8,31\n");
   EXPECT_THAT(NamesOf(holes), ElementsAre("K1", "K2", "K1"));
   EXPECT_EQ(err_.str(),
-            "h.csv:4:1: warning: a hole K1 stood further up; the rows of one hole must stand together\n");
+            "h.csv:4:1: warning: a hole \"K1\" stood further up; the rows of one hole must stand together\n");
 }
 
 TEST_F(HoleReading, MissingColumnsAreErrors) {

@@ -70,6 +70,11 @@ std::string NotYesNo(const std::string& text) {
   return Say("{} is neither Y nor N", "{}既不是 Y 也不是 N", Offending(text));
 }
 
+std::string NotAGroup(const std::string& text) {
+  return Say("{} is none of 顶 (top), 通 (through) and 底 (bottom)", "{}不是 顶、通、底 之一",
+             Offending(text));
+}
+
 std::string TooSmall(const std::string& text, bool hasToBePositive) {
   return hasToBePositive ? Say("{} is too small; write a number above 0", "{} 太小；请写大于 0 的数字", text)
                          : Say("{} is too small; write 0 or more", "{} 太小；请写 0 或更大的数字", text);

@@ -12,6 +12,7 @@ std::string NotIntegers(const std::string& text);
 std::string NotNumbers(const std::string& text);
 std::string NotARange(const std::string& text);
 std::string NotYesNo(const std::string& text);
+std::string NotAGroup(const std::string& text);
 
 /// Of a value that is not at least 0, or not above 0.
 std::string TooSmall(const std::string& text, bool hasToBePositive);

@@ -33,8 +33,7 @@ SegmentField GroupField() {
               row.group = group;
               return {};
             }
-            return Say("\"{}\" is none of 顶 (top), 通 (through) and 底 (bottom)", "“{}”不是 顶、通、底 之一",
-                       ShownText(text));
+            return NotAGroup(text);
           }};
 }
 
@@ -105,20 +104,21 @@ class CsvHoleReader : public HoleReader {
 
   bool HasOwnName(const HoleInput& input) {
     if (input.name.empty()) {
-      reporter_.Error(input.place, Say("the hole has no name", "孔没有名称"));
+      reporter_.Error(input.place, Say("the hole has no name and is passed over", "孔没有名称，被跳过"));
       return false;
     }
     if (!names_.insert(input.name).second) {
       reporter_.Warning(input.place,
-                        Say("a hole {} stood further up; the rows of one hole must stand together",
-                            "前面已有孔 {}；同一个孔的各行必须连在一起", ShownText(input.name)));
+                        Say("a hole \"{}\" stood further up; the rows of one hole must stand together",
+                            "前面已有孔“{}”；同一个孔的各行必须连在一起", ShownText(input.name)));
     }
     return true;
   }
 
   void ReportPassedOver(const HoleInput& input) {
-    reporter_.Error(input.place, Say("the hole {} is passed over because not all of its rows can be used",
-                                     "孔 {} 有无法使用的行，被跳过", ShownText(input.name)));
+    if (input.name.empty()) return;  // This is reported with the missing name.
+    reporter_.Error(input.place, Say("the hole \"{}\" is passed over because not all of its rows can be used",
+                                     "孔“{}”有无法使用的行，被跳过", ShownText(input.name)));
   }
 
   CsvRecords<SegmentRow> rows_;
