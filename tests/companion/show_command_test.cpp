@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 
 #include <nlohmann/json.hpp>
+#include <set>
 
+#include "plateconfig/full_schema.h"
+#include "plateconfig/unit_text.h"
 #include "support/companion.h"
 #include "support/environment.h"
 #include "support/temporary_folder.h"
@@ -49,6 +52,26 @@ TEST_F(ShowCommand, ASettingIsShownWithItsValueAndUnitBelowItsFile) {
   EXPECT_THAT(run.out, HasSubstr("layout-defaults  " + ArgumentPath(folder_, "布局.csv") + "\n"));
   EXPECT_THAT(run.out, HasSubstr("  图层间距 = 4000  [mm]\n"));
   EXPECT_THAT(run.out, HasSubstr("  代号注释的样式 = 仿宋|5|0.1|0.2|0.3|2\n"));
+}
+
+TEST_F(ShowCommand, UnitsAreChineseInChineseTextAndEnglishInJson) {
+  Configure(R"({"layout-defaults": "a.csv"})");
+  folder_.WriteTable("a.csv", "图层间距,图框的图层,基准圆的颜色\n4000,230,7\n");
+  const std::string out = Show({"layout-defaults"}, {"--lang", "zh"}).out;
+  EXPECT_THAT(out, HasSubstr("  图层间距 = 4000  [mm]\n"));
+  EXPECT_THAT(out, HasSubstr("  图框的图层 = 230  [NX 图层]\n"));
+  EXPECT_THAT(out, HasSubstr("  基准圆的颜色 = 7  [颜色号]\n"));
+  EXPECT_THAT(Show({"layout-defaults"}, {"--lang", "zh", "--format", "json"}).out, HasSubstr("\"NX layer\""));
+}
+
+TEST_F(ShowCommand, EveryUnitIsEitherASymbolOrHasAChineseName) {
+  const std::set<std::string_view> symbols = {"", "mm", "kg", "g/cm³"};
+  SetLanguage(Language::kChinese);
+  for (const TableSchema& table : FullSchema()) {
+    for (const ColumnSchema& column : table.columns)
+      EXPECT_EQ(UnitText(column.unit) == column.unit, symbols.contains(column.unit)) << column.unit;
+  }
+  SetLanguage(Language::kEnglish);
 }
 
 TEST_F(ShowCommand, AnAbsentColumnIsADefault) {

@@ -6,6 +6,7 @@
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
 #include "plateconfig/output_file.h"
+#include "plateconfig/unit_text.h"
 #include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
@@ -29,7 +30,7 @@ void WriteText(const TableSchema& table, std::ostream& out) {
   out << table.role << ": " << TitleOf(table.role) << "\n";
   for (const ColumnSchema& column : table.columns) {
     out << "  " << GbkToUtf8(column.column) << ": " << column.help;
-    if (!column.unit.empty()) out << " [" << column.unit << "]";
+    if (!column.unit.empty()) out << " [" << UnitText(column.unit) << "]";
     out << "; " << column.kind;
     if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
     out << "\n";
@@ -75,8 +76,8 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     const std::string name = "`" + GbkToUtf8(column.column) + "`";
     out << "| " << (column.isPlaceholder ? "*" + name + "*" : name) << " | "
-        << Escaped(std::string(column.help)) << " | " << column.unit << " | " << column.kind << " | "
-        << WhenAbsentCell(column) << " |\n";
+        << Escaped(std::string(column.help)) << " | " << UnitText(column.unit) << " | " << column.kind
+        << " | " << WhenAbsentCell(column) << " |\n";
   }
 }
 

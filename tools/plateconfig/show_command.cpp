@@ -6,6 +6,7 @@
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
 #include "plateconfig/shown_settings.h"
+#include "plateconfig/unit_text.h"
 #include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
@@ -57,7 +58,8 @@ std::string ValueText(const ShownSetting& setting) {
 
 void WriteText(const ShownSetting& setting, std::ostream& out) {
   out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
-  if (!setting.schema.unit.empty() && !setting.value.empty()) out << "  [" << setting.schema.unit << "]";
+  if (!setting.schema.unit.empty() && !setting.value.empty())
+    out << "  [" << UnitText(setting.schema.unit) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
 }
