@@ -164,6 +164,22 @@ TEST_F(ShowCommand, ProcessSettingsAndGeneralParametersAreShown) {
               HasSubstr("  软料（体颜色） = 12, 87  [colour index]\n  硬料（体颜色） = none  (default)\n"));
 }
 
+TEST_F(ShowCommand, TheProcessListAndTheConditionsOfTheRuleRowsAreShownAsTheLibraryTakesThem) {
+  Configure(R"({"process-rules": "a.csv"})");
+  folder_.WriteTable("a.csv",
+                     "排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,长度范围,材质要求,下料\n"
+                     "下料,焊接,,12,100_500.0,软料（体颜色）,锯\n"
+                     ",圆孔颜色,,,1_2,,\n"
+                     "钻孔,圆孔颜色,36_186,1x,100-500,,\n");
+  EXPECT_EQ(Setting("process-rules", "排工艺顺序")["value"], Json({"下料", "钻孔"}));
+  EXPECT_EQ(Setting("process-rules", "排顺序工艺类型")["value"], Json({"自定义追加工艺", "圆孔颜色"}));
+  EXPECT_EQ(Setting("process-rules", "顺序工艺参数值")["value"], Json({"", "36_186"}));
+  EXPECT_EQ(Setting("process-rules", "模板所在图层")["value"], Json({12, 1}));
+  EXPECT_EQ(Setting("process-rules", "长度范围")["value"], Json({"100_500", ""}));
+  EXPECT_EQ(Setting("process-rules", "材质要求")["value"], Json({"软料（体颜色）", ""}));
+  EXPECT_EQ(Setting("process-rules", "宽度范围")["source"], "absent column");
+}
+
 TEST_F(ShowCommand, ACellOfTwoLinesIsShownOnOne) {
   Configure(R"({"texts": "a.csv"})");
   folder_.WriteTable("a.csv", "代号文字\n\"代号\n：\t\"\n");

@@ -85,6 +85,9 @@ TableSchema ProcessRuleTable() {
   ColumnSchema parameters = Row(columns::kParameterName, "text", "", "name of a general parameter");
   parameters.whenAbsent = {std::string(columns::kSoftMaterial), std::string(columns::kHardMaterial),
                            std::string(columns::kWireCuttingColors), std::string(columns::kProfileColors)};
+  ColumnSchema layer = Row(columns::kLayer, "integer", "NX layer",
+                           "layer of the plates of a rule row; a row without it is no rule row");
+  layer.type = CellType::kInteger;
   return {
       NameOf(Role::kProcessRules),
       WhenUnreadable::kCountsAsEmpty,
@@ -95,9 +98,7 @@ TableSchema ProcessRuleTable() {
        Row(columns::kProcessName, "text", "", "name of a process, in the order of the text"),
        Row(columns::kConditionType, "condition text", "", "condition under which the process applies"),
        Row(columns::kConditionValue, "list of numbers in one cell (6_8.5)", "", "parameter of the condition"),
-       Row(columns::kLayer, "integer", "NX layer",
-           "layer of the plates of a rule row; a row without it is no rule row"),
-       Row(columns::kLengthRange, "range (10_200)", "mm", "lengths; empty = any"),
+       layer, Row(columns::kLengthRange, "range (10_200)", "mm", "lengths; empty = any"),
        Row(columns::kWidthRange, "range (10_200)", "mm", "widths; empty = any"),
        Row(columns::kHeightRange, "range (10_200)", "mm", "thicknesses; empty = any"),
        Row(columns::kWeightRange, "range (10_200)", "kg", "weights; empty = any"),

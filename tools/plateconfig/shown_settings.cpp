@@ -1,12 +1,17 @@
 #include "plateconfig/shown_settings.h"
 
 #include <exception>
+#include <iterator>
+#include <utility>
 
 #include "config/column_width_manager.h"
+#include "config/numbers.h"
 #include "config/read_config_file.h"
 #include "plateconfig/language.h"
+#include "plateconfig/table_cells.h"
 #include "plateconfig/table_check.h"
 #include "platform/file.h"
+#include "rules/condition_texts.h"
 #include "rules/rule_columns.h"
 #include "rules/rule_tables.h"
 #include "text/gbk.h"
@@ -92,6 +97,46 @@ std::vector<ShownSetting> GeneralParameters(const OpenTable& table, const std::s
   return settings;
 }
 
+/// What the library takes a cell of the process list or of a rule row for, as the text of a cell.
+std::string TakenCell(const ColumnSchema& column, const std::string& cell) {
+  if (column.column == columns::kLayer) return std::to_string(ParseInt(cell));
+  if (column.column == columns::kConditionType)
+    return FindRuleType(cell) ? cell : std::string(kConditionTexts.front().text);
+  const bool isRange = column.column == columns::kLengthRange || column.column == columns::kWidthRange ||
+                       column.column == columns::kHeightRange || column.column == columns::kWeightRange;
+  if (!isRange) return cell;
+  const auto bounds = SplitRange(cell);
+  return bounds ? NumberText(bounds->first) + "_" + NumberText(bounds->second) : std::string();
+}
+
+/// The process list and the conditions of the rule rows, column by column.
+std::vector<ShownSetting> RuleColumns(const TableSchema& schema, const OpenTable& table) {
+  std::vector<ShownSetting> settings;
+  for (const ColumnSchema& column : schema.columns) {
+    const bool isParameter =
+        column.column == columns::kParameterName || column.column == columns::kParameterValue;
+    if (isParameter || column.isPlaceholder) continue;
+    const std::string_view deciding = DecidingColumn(column);
+    const Cells cells = table.Reader().GetColumnValue(column.column);
+    const Cells counts = deciding.empty() ? cells : table.Reader().GetColumnValue(std::string(deciding));
+    ShownSetting setting{column, {}, table.SourceOf(schema, column)};
+    for (std::size_t row = 0; row < counts.size(); ++row) {
+      if (counts[row].empty()) continue;
+      setting.value.push_back(TakenCell(column, row < cells.size() ? cells[row] : std::string()));
+    }
+    settings.push_back(std::move(setting));
+  }
+  return settings;
+}
+
+std::vector<ShownSetting> ProcessRules(const TableSchema& schema, const OpenTable& table,
+                                       const std::string& path) {
+  std::vector<ShownSetting> settings = GeneralParameters(table, path);
+  std::vector<ShownSetting> further = RuleColumns(schema, table);
+  std::move(further.begin(), further.end(), std::back_inserter(settings));
+  return settings;
+}
+
 /// Loads a table; the one exception of the library is a message for the user.
 std::vector<Cells> Load(const TableSchema& table, const TableFile& file, Reporter& reporter) {
   // The message names the path, and all of it is GBK.
@@ -118,7 +163,7 @@ std::vector<ShownSetting> SettingsOf(const TableSchema& table, const std::option
                reporter);
   }
   if (table.role == NameOf(Role::kColumnWidths)) return ColumnWidths(table, open, path);
-  if (table.role == NameOf(Role::kProcessRules)) return GeneralParameters(open, path);
+  if (table.role == NameOf(Role::kProcessRules)) return ProcessRules(table, open, path);
 
   std::vector<Cells> values;
   if (table.role == NameOf(Role::kProcessSettings)) {

@@ -24,7 +24,8 @@ struct ShownSetting {
 };
 
 /// What the library makes of the table of a role, or of none when `file` is empty. What is wrong with the
-/// file is reported. Of the process rules, the general parameters are the settings.
+/// file is reported. Of the process rules, the settings are the general parameters by their names, and the
+/// process list and the conditions of the rule rows by their columns.
 std::vector<ShownSetting> SettingsOf(const TableSchema& table, const std::optional<TableFile>& file,
                                      Reporter& reporter);
 

@@ -141,7 +141,8 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
              ShownText(name), similar);
 }
 
-/// The column without which a row of the rule table is none; empty for a column that stands for itself.
+}  // namespace
+
 std::string_view DecidingColumn(const ColumnSchema& column) {
   if (column.column == columns::kConditionType || column.column == columns::kConditionValue)
     return columns::kProcessName;
@@ -151,8 +152,6 @@ std::string_view DecidingColumn(const ColumnSchema& column) {
                          column.column == columns::kMaterial;
   return isRuleRow ? columns::kLayer : std::string_view();
 }
-
-}  // namespace
 
 std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
   if (cell.empty()) return {};

@@ -17,6 +17,10 @@ std::string CellMistake(const ColumnSchema& column, const std::string& cell);
 /// True when `CellMistake` has something to say of cells of this kind.
 bool IsCheckedKind(std::string_view kind);
 
+/// The column (GBK) whose empty cell makes that a row of the rule table does not count for this column; empty
+/// when it is the column itself, and in every other table.
+std::string_view DecidingColumn(const ColumnSchema& column);
+
 /// Calls `report` for every mistake in the cells that the library reads.
 void ForEachCellMistake(
     const Table& table, const TableSchema& schema,
