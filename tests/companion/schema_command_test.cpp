@@ -63,6 +63,13 @@ TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
   EXPECT_THAT(run.out, HasSubstr("; list of integers other than 0; when absent 12, 6\n"));
 }
 
+TEST(SchemaCommand, KindsAndTheIntroductionAreChineseInChinese) {
+  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out, HasSubstr("; 仅 Y 为是; 缺列时 N\n"));
+  const std::string page = RunPlateconfig({"schema", "--lang", "zh", "--format", "markdown"}).out;
+  EXPECT_THAT(page, HasSubstr("斜体的名称代表由用户选定的名称。\n"));
+  EXPECT_THAT(page, HasSubstr(" | NX 图层 | 非 0 整数的列表 | "));
+}
+
 TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
   const Json columns = Json::parse(RunPlateconfig({"schema", "--format", "json"}).out);
   std::size_t count = 0;

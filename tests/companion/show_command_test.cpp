@@ -1,10 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <nlohmann/json.hpp>
-#include <set>
 
-#include "plateconfig/full_schema.h"
-#include "plateconfig/unit_text.h"
 #include "support/companion.h"
 #include "support/environment.h"
 #include "support/temporary_folder.h"
@@ -62,16 +59,6 @@ TEST_F(ShowCommand, UnitsAreChineseInChineseTextAndEnglishInJson) {
   EXPECT_THAT(out, HasSubstr("  图框的图层 = 230  [NX 图层]\n"));
   EXPECT_THAT(out, HasSubstr("  基准圆的颜色 = 7  [颜色号]\n"));
   EXPECT_THAT(Show({"layout-defaults"}, {"--lang", "zh", "--format", "json"}).out, HasSubstr("\"NX layer\""));
-}
-
-TEST_F(ShowCommand, EveryUnitIsEitherASymbolOrHasAChineseName) {
-  const std::set<std::string_view> symbols = {"", "mm", "kg", "g/cm³"};
-  SetLanguage(Language::kChinese);
-  for (const TableSchema& table : FullSchema()) {
-    for (const ColumnSchema& column : table.columns)
-      EXPECT_EQ(UnitText(column.unit) == column.unit, symbols.contains(column.unit)) << column.unit;
-  }
-  SetLanguage(Language::kEnglish);
 }
 
 TEST_F(ShowCommand, AnAbsentColumnIsADefault) {

@@ -6,7 +6,7 @@
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
 #include "plateconfig/output_file.h"
-#include "plateconfig/unit_text.h"
+#include "plateconfig/schema_words.h"
 #include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
@@ -31,7 +31,7 @@ void WriteText(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     out << "  " << GbkToUtf8(column.column) << ": " << column.help;
     if (!column.unit.empty()) out << " [" << UnitText(column.unit) << "]";
-    out << "; " << column.kind;
+    out << "; " << KindText(column.kind);
     if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
     out << "\n";
   }
@@ -76,8 +76,8 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     const std::string name = "`" + GbkToUtf8(column.column) + "`";
     out << "| " << (column.isPlaceholder ? "*" + name + "*" : name) << " | "
-        << Escaped(std::string(column.help)) << " | " << UnitText(column.unit) << " | " << column.kind
-        << " | " << WhenAbsentCell(column) << " |\n";
+        << Escaped(std::string(column.help)) << " | " << UnitText(column.unit) << " | "
+        << KindText(column.kind) << " | " << WhenAbsentCell(column) << " |\n";
   }
 }
 
@@ -97,7 +97,12 @@ void WriteMarkdownHead(std::ostream& out) {
              "missing column "
              "and a\n"
              "table without data rows give. A slanted name stands for names that the user chooses.",
-             "库读取的所有表和列，按读取顺序列出。")
+             "库读取的所有表和列，按读取顺序列出。\n\n"
+             "表是 GBK 编码的 "
+             "CSV，第一行是列名。单个值写在第一个数据行；列表沿列向下排列；标为“多行”的各列逐行对应。\n"
+             "第一个单元格为空也算有值：数字为 "
+             "0，文本为空；只有注明“空单元格等于没有此列”的才视为缺列。“缺列时”是缺少该列、\n"
+             "或表中没有数据行时的值。斜体的名称代表由用户选定的名称。")
       << "\n";
 }
 

@@ -5,8 +5,8 @@
 #include "plateconfig/command.h"
 #include "plateconfig/json_output.h"
 #include "plateconfig/language.h"
+#include "plateconfig/schema_words.h"
 #include "plateconfig/shown_settings.h"
-#include "plateconfig/unit_text.h"
 #include "plateconfig/usage_message.h"
 #include "text/gbk.h"
 
