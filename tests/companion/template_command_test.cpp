@@ -182,7 +182,8 @@ TEST(TemplateCommand, AnExistingFileIsKeptUnlessForced) {
 
 TEST(TemplateCommand, AFolderIsNoFileThatForceReplaces) {
   const TemporaryFolder folder;
-  const std::string path = ArgumentPath(folder, "");
+  std::filesystem::create_directory(folder.Path() / "a.csv");
+  const std::string path = ArgumentPath(folder, "a.csv");
   const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_EQ(run.err, path + ": error: this is a folder, not a file\n");

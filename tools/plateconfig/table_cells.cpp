@@ -64,8 +64,9 @@ std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
 
 std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
   if (FindRuleType(cell)) return {};
-  std::vector<std::string> known;
-  for (const ConditionText& condition : kConditionTexts) known.push_back(GbkToUtf8(condition.text));
+  std::vector<std::string> known(kConditionTexts.size());
+  std::transform(kConditionTexts.begin(), kConditionTexts.end(), known.begin(),
+                 [](const ConditionText& condition) { return GbkToUtf8(condition.text); });
   const std::string name = GbkToUtf8(cell);
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   const std::string mistake = Say("\"{}\" is no condition and counts as {}", "“{}”不是工艺类型，视为 {}",
@@ -132,8 +133,8 @@ const KindCheck* FindCheck(std::string_view kind) {
 std::string ParameterMistake(const ColumnSchema& column, const std::string& cell) {
   if (std::find(column.whenAbsent.begin(), column.whenAbsent.end(), cell) != column.whenAbsent.end())
     return {};
-  std::vector<std::string> known;
-  for (const std::string& name : column.whenAbsent) known.push_back(GbkToUtf8(name));
+  std::vector<std::string> known(column.whenAbsent.size());
+  std::transform(column.whenAbsent.begin(), column.whenAbsent.end(), known.begin(), GbkToUtf8);
   const std::string name = GbkToUtf8(cell);
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   if (similar.empty()) return {};

@@ -51,7 +51,7 @@ std::string Before(const std::string& message, const std::string& end) {
 }
 
 std::string Mistake(const CLI::App& app, const CLI::Error& error) {
-  const std::string message = error.what();
+  std::string message = error.what();  // Not const: it is moved out at the end.
   const auto is = [&](CLI::ExitCodes kind) { return error.get_exit_code() == static_cast<int>(kind); };
   const std::vector<std::string> extras = app.remaining(true);
   const bool lacksVerb = is(CLI::ExitCodes::RequiredError) && app.get_subcommands().empty();
