@@ -63,6 +63,32 @@ TEST(TableCells, ARowThatIsNoRuleRowIsNotLookedAt) {
   EXPECT_EQ(messages.Text(), "");
 }
 
+/// What is said of a whole table, without what is wrong.
+std::string PlacesIn(std::string_view role, const std::string& table) {
+  const test::TemporaryFolder files;
+  test::Messages messages;
+  CheckTable({files.WriteTable("t.csv", table), "t.csv"}, *FindTableSchema(role), {}, messages.reporter);
+  std::istringstream lines(messages.Text());
+  std::string places;
+  for (std::string line; std::getline(lines, line);) places += line.substr(0, line.find(": \"")) + "\n";
+  return places;
+}
+
+TEST(TableCells, MistakesAreToldInTheOrderOfTheFile) {
+  EXPECT_EQ(
+      PlacesIn("process-rules", "长度范围,模板所在图层,宽度范围\n1-2,12,3-4\n5-6,12,\n7_8,12,9\n"),
+      "t.csv:2:1: warning: A2\nt.csv:2:8: warning: C2\nt.csv:3:1: warning: A3\nt.csv:4:8: warning: C4\n");
+}
+
+TEST(TableCells, AMistakeBehindALineBreakInACellIsInTheLineOfTheFile) {
+  EXPECT_EQ(PlacesIn("process-rules", "模板所在图层,备注,长度范围\n12,\"a\nb\",1-2\n"),
+            "t.csv:3:4: warning: C2\n");
+}
+
+TEST(TableCells, AColumnWithoutANameDecidesNothing) {
+  EXPECT_EQ(PlacesIn("bom", "密度(g/cm),\nx,\n"), "t.csv:2:1: warning: A2\n");
+}
+
 TEST(TableCells, AFlagIsCheckedAgainstTheLettersOfItsColumn) {
   EXPECT_EQ(About("process-settings", "输出行号", "Y"), "");
   EXPECT_EQ(About("process-settings", "输出行号", "n"), "");

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <optional>
+#include <vector>
 
 #include "config/numbers.h"
 #include "plateconfig/cell_texts.h"
@@ -142,6 +144,34 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
              ShownText(name), similar);
 }
 
+/// A column that the library reads, and where it stands.
+struct CheckedColumn {
+  const ColumnSchema& schema;
+  std::size_t at;
+  std::optional<std::size_t> deciding;
+  std::size_t lastRow;
+};
+
+/// The column that decides whether a row counts for this one, where the table has it.
+std::optional<std::size_t> FindDeciding(const ColumnSchema& column, const Table& table) {
+  const std::string_view name = DecidingColumn(column);
+  return name.empty() ? std::nullopt : table.FindColumn(name);
+}
+
+/// In the order in which they stand in the table.
+std::vector<CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
+  std::map<std::size_t, CheckedColumn> columns;
+  for (const ColumnSchema& column : schema.columns) {
+    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
+    if (!at) continue;
+    const std::size_t lastRow = column.isList || column.isRowColumn ? table.RowCount() : 1;
+    columns.insert({*at, {column, *at, FindDeciding(column, table), lastRow}});
+  }
+  std::vector<CheckedColumn> inOrder;
+  for (const auto& [at, column] : columns) inOrder.push_back(column);
+  return inOrder;
+}
+
 }  // namespace
 
 std::string_view DecidingColumn(const ColumnSchema& column) {
@@ -168,16 +198,13 @@ bool IsCheckedKind(std::string_view kind) {
 void ForEachCellMistake(
     const Table& table, const TableSchema& schema,
     const std::function<void(std::size_t row, std::size_t column, const std::string& mistake)>& report) {
-  for (const ColumnSchema& column : schema.columns) {
-    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
-    if (!at) continue;
-    const auto deciding = table.FindColumn(DecidingColumn(column));
-    const bool isOneCell = !column.isList && !column.isRowColumn;
-    const std::size_t last = isOneCell ? std::min<std::size_t>(table.RowCount(), 1) : table.RowCount();
-    for (std::size_t row = 1; row <= last; ++row) {
-      if (deciding && table.CellEquals(row, *deciding, "")) continue;
-      const std::string mistake = CellMistake(column, table.Cell(row, *at));
-      if (!mistake.empty()) report(row, *at, mistake);
+  const std::vector<CheckedColumn> columns = CheckedColumns(table, schema);
+  for (std::size_t row = 1; row <= table.RowCount(); ++row) {
+    for (const CheckedColumn& column : columns) {
+      if (row > column.lastRow) continue;
+      if (column.deciding && table.CellEquals(row, *column.deciding, "")) continue;
+      const std::string mistake = CellMistake(column.schema, table.Cell(row, column.at));
+      if (!mistake.empty()) report(row, column.at, mistake);
     }
   }
 }

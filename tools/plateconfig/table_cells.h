@@ -21,7 +21,7 @@ bool IsCheckedKind(std::string_view kind);
 /// when it is the column itself, and in every other table.
 std::string_view DecidingColumn(const ColumnSchema& column);
 
-/// Calls `report` for every mistake in the cells that the library reads.
+/// Calls `report` for every mistake in the cells that the library reads, in the order in which they stand.
 void ForEachCellMistake(
     const Table& table, const TableSchema& schema,
     const std::function<void(std::size_t row, std::size_t column, const std::string& mistake)>& report);
