@@ -144,10 +144,8 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
              ShownText(name), similar);
 }
 
-/// A column that the library reads, and where it stands.
 struct CheckedColumn {
   const ColumnSchema& schema;
-  std::size_t at;
   std::optional<std::size_t> deciding;
   std::size_t lastRow;
 };
@@ -158,18 +156,16 @@ std::optional<std::size_t> FindDeciding(const ColumnSchema& column, const Table&
   return name.empty() ? std::nullopt : table.FindColumn(name);
 }
 
-/// In the order in which they stand in the table.
-std::vector<CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
+/// The columns that the library reads, by their place in the table.
+std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
   std::map<std::size_t, CheckedColumn> columns;
   for (const ColumnSchema& column : schema.columns) {
     const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
     if (!at) continue;
     const std::size_t lastRow = column.isList || column.isRowColumn ? table.RowCount() : 1;
-    columns.insert({*at, {column, *at, FindDeciding(column, table), lastRow}});
+    columns.insert({*at, {column, FindDeciding(column, table), lastRow}});
   }
-  std::vector<CheckedColumn> inOrder;
-  for (const auto& [at, column] : columns) inOrder.push_back(column);
-  return inOrder;
+  return columns;
 }
 
 }  // namespace
@@ -198,13 +194,13 @@ bool IsCheckedKind(std::string_view kind) {
 void ForEachCellMistake(
     const Table& table, const TableSchema& schema,
     const std::function<void(std::size_t row, std::size_t column, const std::string& mistake)>& report) {
-  const std::vector<CheckedColumn> columns = CheckedColumns(table, schema);
+  const std::map<std::size_t, CheckedColumn> columns = CheckedColumns(table, schema);
   for (std::size_t row = 1; row <= table.RowCount(); ++row) {
-    for (const CheckedColumn& column : columns) {
+    for (const auto& [at, column] : columns) {
       if (row > column.lastRow) continue;
       if (column.deciding && table.CellEquals(row, *column.deciding, "")) continue;
-      const std::string mistake = CellMistake(column.schema, table.Cell(row, column.at));
-      if (!mistake.empty()) report(row, column.at, mistake);
+      const std::string mistake = CellMistake(column.schema, table.Cell(row, at));
+      if (!mistake.empty()) report(row, at, mistake);
     }
   }
 }
