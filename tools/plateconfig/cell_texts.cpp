@@ -6,6 +6,7 @@
 
 #include "plateconfig/language.h"
 #include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
 #include "plateconfig/strict_values.h"
 #include "text/utf8_decode.h"
 
@@ -87,11 +88,8 @@ std::string IntegerOutOfRange(const std::string& shown) {
 
 // In quotes, because a blank at the end of a name would not be seen.
 std::string UnknownColumn(const std::string& name, const std::string& similar) {
-  const std::string shown = ShownText(name);
-  if (similar.empty())
-    return Say("the column \"{}\" is not known and is ignored", "未知的列“{}”，已忽略", shown);
-  return Say("the column \"{}\" is not known and is ignored; did you mean \"{}\"?",
-             "未知的列“{}”，已忽略；是否应为“{}”？", shown, similar);
+  return Say("the column \"{}\" is not known and is ignored", "未知的列“{}”，已忽略", ShownText(name)) +
+         DidYouMean(similar);
 }
 
 std::string SecondColumn(const std::string& name) {

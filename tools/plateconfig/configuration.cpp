@@ -1,10 +1,10 @@
 #include "plateconfig/configuration.h"
 
-#include <set>
 #include <string_view>
 
 #include "config/configuration_index.h"
 #include "plateconfig/console.h"
+#include "plateconfig/json_members.h"
 #include "plateconfig/json_node.h"
 #include "plateconfig/language.h"
 #include "plateconfig/shown_text.h"
@@ -28,10 +28,8 @@ std::string_view WithoutByteOrderMark(std::string_view utf8) {
 
 std::string UnknownRole(const std::string& name) {
   const std::string similar = MostSimilarName(name, {kRoleNames.begin(), kRoleNames.end()});
-  const std::string shown = ShownText(name);
-  if (similar.empty()) return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", shown);
-  return Say("\"{}\" is no role and is ignored; did you mean \"{}\"?", "“{}”不是角色，已忽略；是否应为“{}”？",
-             shown, similar);
+  return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", ShownText(name)) +
+         DidYouMean(similar);
 }
 
 bool EndsWithSeparator(const std::string& path) {
@@ -110,20 +108,21 @@ void Configuration::ReadManifest() {
     return;
   }
   isUsable_ = true;
-  std::set<std::string_view> names;
-  for (const auto& [name, file] : root.members) {
-    const auto role = FindRole(name);
-    if (!names.insert(name).second) {
-      reporter_.Warning(file.place, Say("a second member \"{}\"; the first one counts",
-                                        "重复的成员“{}”；以第一个为准", ShownText(name)));
-    } else if (!role) {
-      reporter_.Warning(file.place, UnknownRole(name));
-    } else if (file.kind != JsonNode::Kind::kString) {
-      reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",
-                                      "角色 {} 的文件名应当是带引号的文本", name));
-    } else {
-      manifest_[*role] = file.text;
-    }
+  ReadMembers(root, {}, reporter_, [this](const std::string& name, const JsonNode& file) {
+    ReadRole(name, file);
+    return true;  // An unknown one is warned of as a role.
+  });
+}
+
+void Configuration::ReadRole(const std::string& name, const JsonNode& file) {
+  const auto role = FindRole(name);
+  if (!role) {
+    reporter_.Warning(file.place, UnknownRole(name));
+  } else if (file.kind != JsonNode::Kind::kString) {
+    reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",
+                                    "角色 {} 的文件名应当是带引号的文本", name));
+  } else {
+    manifest_[*role] = file.text;
   }
 }
 

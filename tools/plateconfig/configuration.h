@@ -13,6 +13,8 @@
 
 namespace plateconfig {
 
+struct JsonNode;
+
 /// What the command line says; UTF-8, empty when it says nothing.
 struct ConfigurationOptions {
   std::string folder;
@@ -40,6 +42,7 @@ class Configuration {
  private:
   bool FindFolder();
   void ReadManifest();
+  void ReadRole(const std::string& name, const JsonNode& file);
   std::optional<TableFile> InFolder(const std::string& name) const;
 
   const ConfigurationOptions& options_;

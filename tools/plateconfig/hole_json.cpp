@@ -26,21 +26,16 @@ class HoleObject {
 
  private:
   bool ReadMember(const std::string& name, const JsonNode& node) {
-    if (name == kHoleName.json) return ReadName(node);
+    if (name == kHoleName.json) {
+      values_.ReadFilled(node, input_.name, Say("the hole has no name", "孔没有名称"));
+      return true;
+    }
     for (std::size_t group = 0; group < kHoleGroupCount; ++group) {
       if (name != kHoleGroupNames[group].json) continue;
       ReadSegments(node, input_.hole.*kHoleGroups[group].segments);
       return true;
     }
     return false;
-  }
-
-  bool ReadName(const JsonNode& node) {
-    values_.Read(node, input_.name);
-    if (node.kind == JsonNode::Kind::kString && node.text.empty()) {
-      values_.Refuse(node, Say("the hole has no name", "孔没有名称"));
-    }
-    return true;
   }
 
   void ReadSegments(const JsonNode& node, std::vector<HoleInfo>& segments) {

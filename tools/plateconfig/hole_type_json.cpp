@@ -29,13 +29,14 @@ class HoleTypeObject {
 
  private:
   bool ReadText(const std::string& name, const JsonNode& node) {
-    const bool isName = name == kTypeName.json;
-    if (!isName && name != kTypeStructure.json && name != kTypeContent.json) return false;
-    values_.Read(node, isName                        ? input_.name
-                       : name == kTypeStructure.json ? input_.type.countKey
-                                                     : input_.content);
-    if (isName && node.kind == JsonNode::Kind::kString && node.text.empty()) {
-      values_.Refuse(node, Say("the type has no name", "类型没有名称"));
+    if (name == kTypeName.json) {
+      values_.ReadFilled(node, input_.name, Say("the type has no name", "类型没有名称"));
+    } else if (name == kTypeStructure.json) {
+      values_.Read(node, input_.type.countKey);
+    } else if (name == kTypeContent.json) {
+      values_.Read(node, input_.content);
+    } else {
+      return false;
     }
     return true;
   }

@@ -10,12 +10,8 @@ namespace plateconfig {
 namespace {
 
 std::string UnknownMember(const std::string& name, const std::vector<std::string_view>& known) {
-  const std::string similar = MostSimilarName(name, known);
-  const std::string shown = ShownText(name);
-  if (similar.empty())
-    return Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", shown);
-  return Say("the member \"{}\" is not known and is ignored; did you mean \"{}\"?",
-             "未知的成员“{}”，已忽略；是否应为“{}”？", shown, similar);
+  return Say("the member \"{}\" is not known and is ignored", "未知的成员“{}”，已忽略", ShownText(name)) +
+         DidYouMean(MostSimilarName(name, known));
 }
 
 }  // namespace

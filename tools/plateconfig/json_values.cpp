@@ -75,4 +75,9 @@ void JsonValues::Read(const JsonNode& node, std::string& value) {
   if (Expect(node, JsonNode::Kind::kString, Say("a text in quotes", "带引号的文本"))) value = node.text;
 }
 
+void JsonValues::ReadFilled(const JsonNode& node, std::string& value, const std::string& whenEmpty) {
+  Read(node, value);
+  if (node.kind == JsonNode::Kind::kString && node.text.empty()) Refuse(node, whenEmpty);
+}
+
 }  // namespace plateconfig

@@ -21,6 +21,8 @@ class JsonValues {
   void Read(const JsonNode& node, double& value);
   void Read(const JsonNode& node, int& value);
   void Read(const JsonNode& node, std::string& value);
+  /// A text that has to hold something; `whenEmpty` is what is said otherwise.
+  void ReadFilled(const JsonNode& node, std::string& value, const std::string& whenEmpty);
 
   template <typename Item>
   void Read(const JsonNode& node, std::vector<Item>& values) {

@@ -77,10 +77,8 @@ class PlateLoop {
 
   std::string NoPlate(const std::string& name) const {
     const std::string similar = MostSimilarName(name, {met_.begin(), met_.end()});
-    const std::string shown = ShownText(name);
-    if (similar.empty()) return Say("no plate has the name \"{}\"", "没有名为“{}”的板", shown);
-    return Say("no plate has the name \"{}\"; did you mean \"{}\"?", "没有名为“{}”的板；是否应为“{}”？",
-               shown, ShownText(similar));
+    return Say("no plate has the name \"{}\"", "没有名为“{}”的板", ShownText(name)) +
+           DidYouMean(ShownText(similar));
   }
 
   const PlateJob& job_;

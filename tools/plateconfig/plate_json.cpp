@@ -8,6 +8,7 @@
 #include "plateconfig/plate_fields.h"
 #include "plateconfig/plate_reader.h"
 #include "plateconfig/shown_text.h"
+#include "plateconfig/similar_name.h"
 
 namespace plateconfig {
 namespace {
@@ -30,7 +31,7 @@ class PlateObject {
  private:
   bool ReadMember(const std::string& name, const JsonNode& node) {
     if (name == kPlateName.json) {
-      ReadName(node);
+      values_.ReadFilled(node, plate_.name, Say("the plate has no name", "板没有名称"));
     } else if (name == kFaceColors.json) {
       values_.Read(node, plate_.plate.faceColors);
     } else if (name == kFeatures) {
@@ -41,13 +42,6 @@ class PlateObject {
       return ReadNumber(name, node) || ReadInteger(name, node);
     }
     return true;
-  }
-
-  void ReadName(const JsonNode& node) {
-    values_.Read(node, plate_.name);
-    if (node.kind == JsonNode::Kind::kString && node.text.empty()) {
-      values_.Refuse(node, Say("the plate has no name", "板没有名称"));
-    }
   }
 
   bool ReadNumber(const std::string& name, const JsonNode& node) {
@@ -121,12 +115,9 @@ class PlateObject {
                             name, isCustom ? kCustomProcesses : kFeatures));
       return;
     }
-    const std::string similar = vocabulary_.Suggest(name, {});
-    reporter_.Warning(
-        node.place, similar.empty()
-                        ? Say("\"{}\" is no feature and is ignored", "“{}”不是特征，已忽略", ShownText(name))
-                        : Say("\"{}\" is no feature and is ignored; did you mean \"{}\"?",
-                              "“{}”不是特征，已忽略；是否应为“{}”？", ShownText(name), similar));
+    reporter_.Warning(node.place,
+                      Say("\"{}\" is no feature and is ignored", "“{}”不是特征，已忽略", ShownText(name)) +
+                          DidYouMean(vocabulary_.Suggest(name, {})));
   }
 
   void RequireMembers() {

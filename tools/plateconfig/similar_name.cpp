@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <numeric>
 
+#include "plateconfig/language.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {
@@ -53,6 +54,10 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
     best = candidate;
   }
   return best;
+}
+
+std::string DidYouMean(const std::string& similar) {
+  return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
 }
 
 }  // namespace plateconfig

@@ -73,7 +73,7 @@ std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   const std::string mistake = Say("\"{}\" is no condition and counts as {}", "“{}”不是工艺类型，视为 {}",
                                   ShownText(name), known.front());
-  return similar.empty() ? mistake : mistake + Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+  return mistake + DidYouMean(similar);
 }
 
 /// Of a cell that looks like `exact` but for a letter, which makes it mean the opposite.
@@ -140,8 +140,7 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
   const std::string name = GbkToUtf8(cell);
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   if (similar.empty()) return {};
-  return Say("\"{}\" is no general parameter; did you mean \"{}\"?", "“{}”不是通用要求；是否应为“{}”？",
-             ShownText(name), similar);
+  return Say("\"{}\" is no general parameter", "“{}”不是通用要求", ShownText(name)) + DidYouMean(similar);
 }
 
 struct CheckedColumn {

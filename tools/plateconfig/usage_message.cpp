@@ -11,8 +11,7 @@ namespace {
 
 std::string WithSuggestion(const std::string& mistake, const std::string& name,
                            const std::vector<std::string>& known) {
-  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
-  return similar.empty() ? mistake : mistake + Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+  return mistake + DidYouMean(MostSimilarName(name, {known.begin(), known.end()}));
 }
 
 std::vector<std::string> VerbNames(const CLI::App& app) {
