@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "analysis/schema/role.h"
 #include "fuzz/companion_run.h"
-#include "plateconfig/role.h"
 
 namespace {
 

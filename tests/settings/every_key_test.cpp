@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <set>
 
+#include "analysis/schema/settings_schema.h"
 #include "platform/desktop_folder.h"
-#include "settings/schema.h"
 #include "settings/stated_keys.h"
 #include "support/environment.h"
 #include "support/gbk_text.h"

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "plateconfig/companion.h"
-#include "plateconfig/language.h"
-#include "plateconfig/reporter.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/messages/reporter.h"
 #include "platform/diagnostic_file.h"
 #include "support/environment.h"
 #include "support/gbk_text.h"

@@ -5,10 +5,10 @@
 #include <CLI/Formatter.hpp>
 #include <algorithm>
 
-#include "plateconfig/command.h"
-#include "plateconfig/language.h"
-#include "plateconfig/reporter.h"
-#include "plateconfig/usage_message.h"
+#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/messages/reporter.h"
 #include "platform/diagnostic_file.h"
 
 namespace plateconfig {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "plateconfig/streams.h"
+#include "plateconfig/system/streams.h"
 
 namespace plateconfig {
 

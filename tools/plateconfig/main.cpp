@@ -2,7 +2,7 @@
 #include <iostream>
 
 #include "plateconfig/companion.h"
-#include "plateconfig/console.h"
+#include "plateconfig/system/console.h"
 
 int main(int argc, char** argv) {
   using namespace plateconfig;

@@ -1,0 +1,68 @@
+#include "analysis/rules/explanation.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace plateconfig {
+namespace {
+
+/// Less than 1 however far out, so that one size that is far out is still nearer than two conditions that
+/// fail.
+double RelativeMiss(const Refusal& refusal) {
+  const double miss = refusal.Miss();
+  const double bound = refusal.value < refusal.minimum ? refusal.minimum : refusal.maximum;
+  return miss / (miss + std::max(std::fabs(bound), 1.0));
+}
+
+}  // namespace
+
+double RefusedRow::Distance() const {
+  double distance = 0;
+  for (const Refusal& refusal : refusals) distance += 1 + (refusal.IsSize() ? RelativeMiss(refusal) : 1) / 8;
+  return distance;
+}
+
+void ExplanationSink::OnRow(const RuleRow& row) {
+  row_ = &row;
+  rows_.push_back({row.lineNumber, {}});
+}
+
+void ExplanationSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, bool passed) {
+  if (passed) return;
+  Refusal refusal{size.condition};
+  refusal.minimum = row.*size.minimum;
+  refusal.maximum = row.*size.maximum;
+  refusal.value = plate.*size.value;
+  rows_.back().refusals.push_back(std::move(refusal));
+}
+
+void ExplanationSink::OnMaterial(const RuleRow& row, const Plate&, bool passed) {
+  if (passed) return;
+  Refusal refusal{Condition::kMaterial};
+  refusal.colors = row.materialColors;
+  rows_.back().refusals.push_back(std::move(refusal));
+}
+
+void ExplanationSink::OnFaces(Condition condition, bool wanted, bool present) {
+  if (wanted == present) return;
+  Refusal refusal{condition};
+  refusal.colors = condition == Condition::kProfile ? row_->profileColors : row_->wireCuttingColors;
+  refusal.isWanted = wanted;
+  rows_.back().refusals.push_back(std::move(refusal));
+}
+
+void ExplanationSink::OnMatch(const RuleRow& row, const std::string&) {
+  matchedLine_ = row.lineNumber;
+  rows_.pop_back();  // The matched row was not refused.
+}
+
+std::vector<RefusedRow> ExplanationSink::RefusedRows() const {
+  std::vector<RefusedRow> rows = rows_;
+  if (!matchedLine_) {
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const RefusedRow& a, const RefusedRow& b) { return a.Distance() < b.Distance(); });
+  }
+  return rows;
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/rules/plate_features.h"
+#include "rules/process_rule.h"
+
+namespace plateconfig {
+
+/// Feeds every rule what is known of the plate, each kind through the call that suits it. This is the example
+/// of how a host drives the library:
+///
+///   ProcessRuleLibrary library(ruleTablePath, settingsPath);
+///   std::vector<ProcessRule> rules = library.GetProcessRules();
+///   FeedRules(rules, features);
+///   std::string text = library.GetProcessInfo(&plate, weight, rules);
+void FeedRules(std::vector<ProcessRule>& rules, const PlateFeatures& features);
+
+}  // namespace plateconfig

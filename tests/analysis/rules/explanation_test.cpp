@@ -1,0 +1,140 @@
+#include "analysis/rules/explanation.h"
+
+#include <gmock/gmock.h>
+
+namespace plateconfig {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+RuleRow Row(int line) {
+  RuleRow row;
+  row.lineNumber = line;
+  return row;
+}
+
+RuleRow RowOfLength(int line, double minimum, double maximum) {
+  RuleRow row = Row(line);
+  row.dbMinLength = minimum;
+  row.dbMaxLength = maximum;
+  return row;
+}
+
+Plate PlateOfLength(double length) {
+  Plate plate;
+  plate.length = length;
+  return plate;
+}
+
+/// What a plate meets in a table of these rows. The sink refers to the rows' tables no longer than the call.
+ExplanationSink Explain(const std::vector<RuleRow>& rows, const Plate& plate) {
+  RuleTables tables;
+  tables.ruleRows = rows;
+  ExplanationSink sink;
+  EvaluatePlate(tables, plate, {}, sink);
+  return sink;
+}
+
+std::vector<int> Lines(const ExplanationSink& sink) {
+  std::vector<int> lines;
+  for (const RefusedRow& row : sink.RefusedRows()) lines.push_back(row.lineNumber);
+  return lines;
+}
+
+std::vector<Condition> Conditions(const RefusedRow& row) {
+  std::vector<Condition> conditions;
+  for (const Refusal& refusal : row.refusals) conditions.push_back(refusal.condition);
+  return conditions;
+}
+
+TEST(Explanation, KnowsTheMatchedLineAndTheRowsBeforeIt) {
+  const auto sink =
+      Explain({RowOfLength(2, 0, 10), RowOfLength(3, 20, 30), RowOfLength(4, 0, 99), RowOfLength(5, 0, 1)},
+              PlateOfLength(50));
+  EXPECT_EQ(sink.MatchedLine(), 4);
+  EXPECT_THAT(Lines(sink), ElementsAre(2, 3));
+}
+
+TEST(Explanation, ASizeComesWithItsBoundsAndItsMiss) {
+  const auto tooLong = Explain({RowOfLength(2, 100, 1200)}, PlateOfLength(1203)).RefusedRows();
+  const Refusal& above = tooLong.at(0).refusals.at(0);
+  EXPECT_EQ(above.condition, Condition::kLength);
+  EXPECT_EQ(above.minimum, 100);
+  EXPECT_EQ(above.maximum, 1200);
+  EXPECT_EQ(above.value, 1203);
+  EXPECT_EQ(above.Miss(), 3);
+  const auto tooShort = Explain({RowOfLength(2, 100, 1200)}, PlateOfLength(92)).RefusedRows();
+  EXPECT_EQ(tooShort.at(0).refusals.at(0).Miss(), 8);
+}
+
+TEST(Explanation, EveryConditionThatFailsIsListedInTheirOrder) {
+  RuleRow row = Row(2);
+  row.dbMinLength = row.dbMinWidth = row.dbMinHeight = row.dbMinWeight = 10;
+  row.materialColors = {12};
+  row.profileColors = {190};
+  row.hasProfile = true;
+  row.wireCuttingColors = {103};
+  Plate plate;
+  plate.faceColors = {103};
+  const auto rows = Explain({row}, plate).RefusedRows();
+  EXPECT_THAT(Conditions(rows.at(0)),
+              ElementsAre(Condition::kLength, Condition::kWidth, Condition::kHeight, Condition::kWeight,
+                          Condition::kMaterial, Condition::kProfile, Condition::kWireCutting));
+}
+
+TEST(Explanation, ColoursComeWithWhatTheRowWanted) {
+  RuleRow row = Row(2);
+  row.materialColors = {12, 87};
+  row.profileColors = {190};
+  row.hasProfile = true;
+  row.wireCuttingColors = {103, 181};
+  Plate plate;
+  plate.color = 42;
+  plate.faceColors = {103};
+  const auto refusals = Explain({row}, plate).RefusedRows().at(0).refusals;
+  EXPECT_THAT(refusals.at(0).colors, ElementsAre(12, 87));
+  EXPECT_THAT(refusals.at(1).colors, ElementsAre(190));
+  EXPECT_TRUE(refusals.at(1).isWanted);
+  EXPECT_THAT(refusals.at(2).colors, ElementsAre(103, 181));
+  EXPECT_FALSE(refusals.at(2).isWanted);
+}
+
+TEST(Explanation, WithoutAMatchTheNearestRowComesFirst) {
+  const auto sink = Explain({RowOfLength(2, 0, 100), RowOfLength(3, 0, 1200), RowOfLength(4, 2000, 3000)},
+                            PlateOfLength(1203));
+  EXPECT_EQ(sink.MatchedLine(), std::nullopt);
+  EXPECT_THAT(Lines(sink), ElementsAre(3, 4, 2));
+}
+
+TEST(Explanation, OneConditionFarOutIsNearerThanTwoThatJustFail) {
+  RuleRow two = RowOfLength(2, 0, 1202);
+  two.dbMinWidth = 1;
+  const auto sink = Explain({two, RowOfLength(3, 0, 1)}, PlateOfLength(1203));
+  EXPECT_THAT(Lines(sink), ElementsAre(3, 2));
+}
+
+TEST(Explanation, EquallyNearRowsStayInTheTablesOrder) {
+  const auto sink = Explain({RowOfLength(7, 0, 100), RowOfLength(8, 0, 100)}, PlateOfLength(200));
+  EXPECT_THAT(Lines(sink), ElementsAre(7, 8));
+}
+
+TEST(Explanation, WithAMatchTheRowsStayInTheTablesOrder) {
+  const auto sink = Explain({RowOfLength(2, 0, 1), RowOfLength(3, 0, 1200), Row(4)}, PlateOfLength(1203));
+  EXPECT_THAT(Lines(sink), ElementsAre(2, 3));
+}
+
+TEST(Explanation, WithoutRowsThereIsNothingToTell) {
+  const auto sink = Explain({}, PlateOfLength(1));
+  EXPECT_EQ(sink.MatchedLine(), std::nullopt);
+  EXPECT_THAT(sink.RefusedRows(), IsEmpty());
+}
+
+// Both tolerances are those of the evaluation.
+TEST(Explanation, ASizeJustAboveTheMaximumIsNoRefusal) {
+  EXPECT_EQ(Explain({RowOfLength(2, 0, 100)}, PlateOfLength(100.0005)).MatchedLine(), 2);
+  EXPECT_EQ(Explain({RowOfLength(2, 0, 100)}, PlateOfLength(100.002)).MatchedLine(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace plateconfig

@@ -1,0 +1,116 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+#include "analysis/schema/role.h"
+#include "plateconfig/tables/full_schema.h"
+#include "rules/rule_columns.h"
+#include "support/companion.h"
+#include "support/temporary_folder.h"
+#include "text/gbk.h"
+
+namespace plateconfig::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using Json = nlohmann::json;
+
+TEST(FullSchema, HoldsTheIndexAndEveryRoleInTheirOrder) {
+  std::vector<std::string_view> expected = {"index"};
+  expected.insert(expected.end(), kRoleNames.begin(), kRoleNames.end());
+  EXPECT_EQ(SchemaRoles(), expected);
+}
+
+TEST(FullSchema, EveryTableHasATitleAndEveryColumnAHelp) {
+  for (const TableSchema& table : FullSchema()) {
+    EXPECT_FALSE(TitleOf(table.role).empty()) << table.role;
+    for (const ColumnSchema& column : table.columns) {
+      EXPECT_FALSE(column.help.empty()) << table.role << " " << GbkToUtf8(column.column);
+      EXPECT_FALSE(column.kind.empty()) << table.role << " " << GbkToUtf8(column.column);
+    }
+  }
+}
+
+std::vector<std::string> ColumnsOf(std::string_view role) {
+  std::vector<std::string> columns;
+  for (const ColumnSchema& column : FindTableSchema(role)->columns)
+    columns.push_back(GbkToUtf8(column.column));
+  return columns;
+}
+
+TEST(FullSchema, HoldsTheColumnsOfTheOtherTables) {
+  EXPECT_THAT(ColumnsOf("index"), ElementsAre("文件夹名称", "有效配置"));
+  EXPECT_THAT(ColumnsOf("process-settings"),
+              ElementsAre("连接符号", "输入文字方式", "制造流程左边距", "制造流程顶边距", "制造流程CAD图层",
+                          "制造流程文字样式", "输出行号", "追加到材料信息后面"));
+  EXPECT_THAT(ColumnsOf("process-rules"),
+              ElementsAre("通用要求", "通用参数", "排工艺顺序", "排顺序工艺类型", "顺序工艺参数值",
+                          "模板所在图层", "长度范围", "宽度范围", "厚度范围", "重量范围", "有无型面",
+                          "有无线割", "材质要求", "工艺名称"));
+}
+
+TEST(FullSchema, AnUnknownRoleHasNoTable) {
+  EXPECT_EQ(FindTableSchema("holes"), nullptr);
+}
+
+TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
+  const CompanionResult run = RunPlateconfig({"schema"});
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_THAT(run.out, HasSubstr("bom: Density of the material.\n"
+                                 "  密度(g/cm): density of the material [g/cm³]; number; when absent 0\n"));
+  EXPECT_THAT(run.out, HasSubstr("; list of integers other than 0; when absent 12, 6\n"));
+}
+
+TEST(SchemaCommand, KindsAndTheIntroductionAreChineseInChinese) {
+  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out, HasSubstr("; 仅 Y 为是; 缺列时 N\n"));
+  const std::string page = RunPlateconfig({"schema", "--lang", "zh", "--format", "markdown"}).out;
+  EXPECT_THAT(page, HasSubstr("斜体的名称代表由用户选定的名称。\n"));
+  EXPECT_THAT(page, HasSubstr(" | NX 图层 | 非 0 整数的列表 | "));
+}
+
+TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
+  const Json columns = Json::parse(RunPlateconfig({"schema", "--format", "json"}).out);
+  std::size_t count = 0;
+  for (const TableSchema& table : FullSchema()) count += table.columns.size();
+  EXPECT_EQ(columns.size(), count);
+  EXPECT_EQ(columns.back(), Json({{"role", "replace-content"},
+                                  {"column", "替换内容-替换后内容"},
+                                  {"kind", "text"},
+                                  {"unit", ""},
+                                  {"help", "text in its place"},
+                                  {"whenAbsent", Json::array()},
+                                  {"rows", true},
+                                  {"list", false},
+                                  {"placeholder", false}}));
+}
+
+TEST(SchemaCommand, TheFormatInFrontOfTheVerbCountsToo) {
+  EXPECT_EQ(RunPlateconfig({"--format", "json", "schema"}).out,
+            RunPlateconfig({"schema", "--format", "json"}).out);
+}
+
+TEST(SchemaCommand, MarkdownEscapesTheSeparatorOfStyles) {
+  EXPECT_THAT(
+      RunPlateconfig({"schema", "--format", "markdown"}).out,
+      HasSubstr(
+          "| `代号注释的样式` | style of the code |  | style | `chinesef_fs\\|3\\|0.5\\|0.5\\|0.5\\|1` |\n"));
+}
+
+TEST(SchemaCommand, TheTablesPageIsUpToDate) {
+  EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.md"),
+            RunPlateconfig({"schema", "--format", "markdown"}).out)
+      << "write it anew: plateconfig schema --format markdown --lang en --output docs/tables.md";
+}
+
+TEST(SchemaCommand, AFileIsWrittenWholeAndReplaced) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("表.md", "old");
+  const std::string path = ArgumentPath(folder, "表.md");
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
+}
+
+}  // namespace
+}  // namespace plateconfig::test

@@ -1,0 +1,210 @@
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "analysis/schema/role.h"
+#include "config/column_width_manager.h"
+#include "config/configuration_index.h"
+#include "config/read_config_file.h"
+#include "plateconfig/output/output_file.h"
+#include "plateconfig/tables/full_schema.h"
+#include "plateconfig/tables/shown_settings.h"
+#include "plateconfig/tables/table_template.h"
+#include "rules/rule_tables.h"
+#include "support/companion.h"
+#include "support/environment.h"
+#include "support/gbk_text.h"
+#include "support/temporary_folder.h"
+
+namespace plateconfig::test {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class Template : public ::testing::TestWithParam<std::string_view> {
+ protected:
+  /// The template of the role as a file.
+  std::string WriteTemplate() {
+    return folder_.WriteBytes("table.csv", RunPlateconfig({"template", std::string(GetParam())}).out);
+  }
+
+  TemporaryFolder folder_;
+
+ private:
+  ScopedVariable desktop_{"XDG_DESKTOP_DIR", std::nullopt};
+  ScopedVariable home_{"HOME", std::nullopt};
+};
+
+TEST_P(Template, HoldsEveryColumnOfTheRoleInGbkAndCrLf) {
+  ReadConfigFile table;
+  ASSERT_TRUE(table.OpenConfigFile(WriteTemplate()));
+  std::vector<std::string> columns;
+  for (const ColumnSchema& column : FindTableSchema(GetParam())->columns) columns.push_back(column.column);
+  EXPECT_EQ(table.GetColumnNames(), columns);
+  const std::string bytes = ReadBytes(folder_.Path() / "table.csv");
+  EXPECT_TRUE(IsValidGbk(bytes));
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), std::count(bytes.begin(), bytes.end(), '\r'));
+  EXPECT_TRUE(bytes.ends_with("\r\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryRole, Template, ::testing::ValuesIn(SchemaRoles()), [](const auto& role) {
+  std::string name(role.param);
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+});
+
+/// The roles of the settings classes.
+class SettingsTemplate : public Template {};
+
+/// A list of texts has an empty text for each row of its table, and a row there is.
+Cells WithoutEmptyTexts(const ColumnSchema& column, Cells cells) {
+  const bool isTextList = column.isList && column.type == CellType::kText;
+  if (isTextList) std::erase(cells, std::string());
+  return cells;
+}
+
+TEST_P(SettingsTemplate, LoadsToTheValuesOfAbsentColumns) {
+  const std::string defaults = folder_.WriteTable("empty.csv", "无人知道\n1\n");
+  const std::vector<Cells> expected = LoadSettings(GetParam(), defaults);
+  const std::vector<Cells> loaded = LoadSettings(GetParam(), WriteTemplate());
+  const std::vector<ColumnSchema>& columns = FindTableSchema(GetParam())->columns;
+  ASSERT_EQ(loaded.size(), columns.size());
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    EXPECT_EQ(WithoutEmptyTexts(columns[i], loaded[i]), expected[i]) << GbkToUtf8(columns[i].column);
+  }
+}
+
+TEST_P(SettingsTemplate, NamesEachValueInTheTable) {
+  ReadConfigFile table;
+  table.OpenConfigFile(WriteTemplate());
+  for (const ColumnSchema& column : FindTableSchema(GetParam())->columns) {
+    Cells cells = table.GetColumnValue(column.column);
+    while (cells.size() > column.whenAbsent.size()) {
+      EXPECT_EQ(cells.back(), "");
+      cells.pop_back();
+    }
+    EXPECT_EQ(cells, column.whenAbsent) << GbkToUtf8(column.column);
+  }
+}
+
+std::vector<std::string_view> SettingsRoles() {
+  std::vector<std::string_view> roles;
+  for (const TableSchema& table : SettingsSchema()) roles.push_back(table.role);
+  return roles;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryRole, SettingsTemplate, ::testing::ValuesIn(SettingsRoles()),
+                         [](const auto& role) {
+                           std::string name(role.param);
+                           std::replace(name.begin(), name.end(), '-', '_');
+                           return name;
+                         });
+
+/// The roles of other classes, one by one.
+class OtherTemplate : public ::testing::Test {
+ protected:
+  std::string Write(const std::string& name, const std::string& role) {
+    return folder_.WriteBytes(name, RunPlateconfig({"template", role}).out);
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(OtherTemplate, ColumnWidthsLoadToTheWidthOfAnUnknownColumn) {
+  const ColumnWidthManager widths(Write("widths.csv", "column-widths"));
+  EXPECT_EQ(widths.GetColumnWidth(Gbk("列名")), 100);
+  EXPECT_EQ(widths.GetColumnWidth(Gbk("名称")), 100);
+}
+
+TEST_F(OtherTemplate, ProcessSettingsLoadToEmptySettings) {
+  const RuleTables tables = LoadRuleTables("", Write("settings.csv", "process-settings"));
+  EXPECT_EQ(tables.connectText + tables.textFont, "");
+  EXPECT_FALSE(tables.singleLine || tables.outputLineNumber || tables.appendAttribute);
+  EXPECT_EQ(tables.leftMargin + tables.topMargin + tables.textLayer, 0);
+}
+
+TEST_F(OtherTemplate, ProcessRulesLoadToNoRulesAndNoColours) {
+  const RuleTables tables = LoadRuleTables(Write("rules.csv", "process-rules"), "");
+  EXPECT_THAT(tables.processRules, IsEmpty());
+  EXPECT_THAT(tables.ruleRows, IsEmpty());
+  EXPECT_THAT(tables.softMaterialColors, IsEmpty());
+  EXPECT_THAT(tables.hardMaterialColors, IsEmpty());
+  EXPECT_THAT(tables.wireCuttingColors, IsEmpty());
+  EXPECT_THAT(tables.profileColors, IsEmpty());
+}
+
+TEST_F(OtherTemplate, ProcessRulesNameTheGeneralParameters) {
+  ReadConfigFile table;
+  table.OpenConfigFile(Write("rules.csv", "process-rules"));
+  EXPECT_THAT(table.GetColumnValue(Gbk("通用要求")),
+              ElementsAre(Gbk("软料（体颜色）"), Gbk("硬料（体颜色）"), Gbk("有线割"), Gbk("有型面")));
+}
+
+TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
+  Write("config/standard.csv", "index");
+  const std::string root = folder_.HostPath("");
+  EXPECT_EQ(ReadConfigurationIndex(root).activeFolder, root + "\\config");
+}
+
+TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
+  ColumnSchema column{"a,b", "text", CellType::kText, "", "", {"say \"hi\"", "plain"}};
+  const TableSchema table{"bom", WhenUnreadable::kCountsAsEmpty, true, {column}};
+  EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
+}
+
+// ---- Writing files ----
+
+TEST(TemplateCommand, WritesTheSameBytesIntoAFile) {
+  const TemporaryFolder folder;
+  const std::string path = ArgumentPath(folder, "密度.csv");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
+  EXPECT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_THAT(run.out, IsEmpty());
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"密度.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
+}
+
+TEST(TemplateCommand, AnExistingFileIsKeptUnlessForced) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("a.csv", "mine");
+  const std::string path = ArgumentPath(folder, "a.csv");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_EQ(run.err, path + ": error: this file exists already; --force replaces it\n");
+  EXPECT_EQ(ReadBytes(folder.Path() / "a.csv"), "mine");
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "--output", path, "--force"}).exitCode, 0);
+  EXPECT_EQ(ReadBytes(folder.Path() / "a.csv"), Gbk("密度(g/cm)\r\n0\r\n"));
+}
+
+TEST(TemplateCommand, AFolderIsNoFileThatForceReplaces) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path() / "a.csv");
+  const std::string path = ArgumentPath(folder, "a.csv");
+  const CompanionResult run = RunPlateconfig({"template", "bom", "--output", path});
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_EQ(run.err, path + ": error: this is a folder, not a file\n");
+}
+
+TEST(TemplateCommand, AFileThatCanNotBeWrittenIsReportedAndLeavesNothingBehind) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path() / "a.csv");
+  folder.WriteBytes("a.csv/inside", "");
+  const CompanionResult run =
+      RunPlateconfig({"template", "bom", "--force", "--output", ArgumentPath(folder, "a.csv")});
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_THAT(run.err, HasSubstr("this is a folder, not a file"));
+  const std::filesystem::directory_iterator files(folder.Path());
+  EXPECT_EQ(std::distance(files, std::filesystem::directory_iterator()), 1);
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "--output", ArgumentPath(folder, "none/a.csv")}).exitCode, 2);
+}
+
+TEST(TemplateCommand, AnUnknownRoleIsWrongUsage) {
+  EXPECT_EQ(RunPlateconfig({"template", "bogus"}).exitCode, 2);
+}
+
+}  // namespace
+}  // namespace plateconfig::test

@@ -1,0 +1,265 @@
+#include "plateconfig/input/csv_stream.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+#include "support/companion.h"
+
+namespace plateconfig {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+/// A file of these bytes.
+struct CsvFile {
+  explicit CsvFile(const std::string& bytes) : in(bytes) {}
+
+  /// The texts of the next row; empty at the end.
+  std::vector<std::string> Row() { return Texts(rows.ReadRow()); }
+  std::vector<std::string> Header() { return Texts(rows.ReadHeader()); }
+
+  static std::vector<std::string> Texts(const std::optional<CsvRow>& row) {
+    std::vector<std::string> texts;
+    if (!row) return texts;
+    for (const CsvCell& cell : row->cells) texts.push_back(cell.text);
+    return texts;
+  }
+
+  test::Messages messages;
+  std::istringstream in;
+  CsvStream rows{in, "f.csv", messages.reporter};
+};
+
+std::vector<std::string> Places(const CsvRow& row) {
+  std::vector<std::string> places;
+  for (const CsvCell& cell : row.cells) places.push_back(ToString(cell.place));
+  return places;
+}
+
+TEST(CsvStream, ReadsTheHeaderAndThenRowByRow) {
+  CsvFile file("名称,长度\nA板,450\nB板,500\n");
+  EXPECT_THAT(file.Header(), ElementsAre("名称", "长度"));
+  EXPECT_THAT(file.Row(), ElementsAre("A板", "450"));
+  EXPECT_THAT(file.Row(), ElementsAre("B板", "500"));
+  EXPECT_EQ(file.rows.ReadRow(), std::nullopt);
+  EXPECT_THAT(file.messages.Text(), IsEmpty());
+}
+
+TEST(CsvStream, LinesEndWithLfOrCrLfAndTheLastOneWithNothing) {
+  CsvFile file("a,b\r\n1,2\r\n3,4");
+  EXPECT_THAT(file.Header(), ElementsAre("a", "b"));
+  EXPECT_THAT(file.Row(), ElementsAre("1", "2"));
+  EXPECT_THAT(file.Row(), ElementsAre("3", "4"));
+}
+
+TEST(CsvStream, GbkUtf8AndUtf8WithByteOrderMarkReadTheSame) {
+  const std::string text = "名称,圆孔直径\n模板,6_8.5\n";
+  for (const std::string& bytes : {text, "\xEF\xBB\xBF" + text, test::Gbk(text)}) {
+    CsvFile file(bytes);
+    const auto header = file.rows.ReadHeader();
+    ASSERT_TRUE(header);
+    EXPECT_THAT(CsvFile::Texts(header), ElementsAre("名称", "圆孔直径"));
+    EXPECT_THAT(Places(*header), ElementsAre("f.csv:1:1", "f.csv:1:4"));
+    EXPECT_THAT(file.Row(), ElementsAre("模板", "6_8.5"));
+    EXPECT_THAT(file.messages.Text(), IsEmpty());
+  }
+}
+
+TEST(CsvStream, ColumnsCountCharactersInEitherEncoding) {
+  const std::string text = "名称,x\n上模座板,450,备注,9\n";
+  for (const std::string& bytes : {text, test::Gbk(text)}) {
+    CsvFile file(bytes);
+    file.Header();
+    const auto row = file.rows.ReadRow();
+    ASSERT_TRUE(row);
+    EXPECT_THAT(Places(*row), ElementsAre("f.csv:2:1", "f.csv:2:6", "f.csv:2:10", "f.csv:2:13"));
+  }
+}
+
+TEST(CsvStream, ACellBehindAQuotedLineBreakStandsOnItsOwnLine) {
+  const std::string text = "名称,说明,长度\n板,\"一行\r\n二行\",450\n后,无,1\n";
+  for (const std::string& bytes : {text, test::Gbk(text)}) {
+    CsvFile file(bytes);
+    file.Header();
+    const auto row = file.rows.ReadRow();
+    ASSERT_TRUE(row);
+    EXPECT_THAT(CsvFile::Texts(row), ElementsAre("板", "一行\r\n二行", "450"));
+    EXPECT_THAT(Places(*row), ElementsAre("f.csv:2:1", "f.csv:2:3", "f.csv:3:5"));
+    EXPECT_EQ(row->number, 2u);
+    const auto next = file.rows.ReadRow();
+    ASSERT_TRUE(next);
+    EXPECT_THAT(Places(*next), ElementsAre("f.csv:4:1", "f.csv:4:3", "f.csv:4:5"));
+    EXPECT_EQ(next->number, 3u);
+  }
+}
+
+TEST(CsvStream, QuotedCellsHoldCommasAndDoubledQuotes) {
+  CsvFile file("a,b\n\"1,2\",\"say \"\"x\"\"\"\n");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("1,2", "say \"x\""));
+}
+
+TEST(CsvStream, AQuoteInTheMiddleIsAnOrdinaryCharacterAndTextBehindAClosingOneBelongsToTheCell) {
+  CsvFile file("a,b\n5\" pipe,\"ab\"c\n1,2\n");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("5\" pipe", "abc"));
+  EXPECT_THAT(file.Row(), ElementsAre("1", "2"));
+}
+
+TEST(CsvStream, AnEmptyFileHasNoHeader) {
+  CsvFile file("");
+  EXPECT_EQ(file.rows.ReadHeader(), std::nullopt);
+  EXPECT_THAT(file.messages.Text(), IsEmpty());
+}
+
+TEST(CsvStream, ABlankLineIsARowOfOneEmptyCell) {
+  CsvFile file("a,b\n\n1,2\n,,\n");
+  file.Header();
+  const auto blank = file.rows.ReadRow();
+  ASSERT_TRUE(blank);
+  EXPECT_THAT(CsvFile::Texts(blank), ElementsAre(""));
+  EXPECT_THAT(Places(*blank), ElementsAre("f.csv:2:1"));
+  EXPECT_TRUE(blank->IsBlank());
+  const auto row = file.rows.ReadRow();
+  ASSERT_TRUE(row);
+  EXPECT_EQ(row->number, 3u);
+  EXPECT_FALSE(row->IsBlank());
+  const auto commas = file.rows.ReadRow();
+  ASSERT_TRUE(commas);
+  EXPECT_TRUE(commas->IsBlank());
+  EXPECT_EQ(commas->cells.size(), 3u);
+}
+
+TEST(CsvStream, ABlankHeaderHasOneColumnWithoutName) {
+  CsvFile file("\n1,2\n");
+  EXPECT_THAT(file.Header(), ElementsAre(""));
+}
+
+TEST(CsvStream, AQuotedHeaderCellBehindAByteOrderMarkMayHoldALineBreak) {
+  CsvFile file("\xEF\xBB\xBF\"名\n称\",长度\n1,2\n");
+  EXPECT_THAT(file.Header(), ElementsAre("名\n称", "长度"));
+  EXPECT_THAT(file.Row(), ElementsAre("1", "2"));
+}
+
+TEST(CsvStream, AHeaderThatIsNeitherUtf8NorGbkIsRefused) {
+  CsvFile file("\xFF\xFEn\x0D\x54,\n1,2\n");
+  EXPECT_EQ(file.rows.ReadHeader(), std::nullopt);
+  EXPECT_EQ(file.messages.Text(),
+            "f.csv:1:1: error: the header is neither UTF-8 nor GBK; save the file as CSV in one of them\n");
+}
+
+TEST(CsvStream, AHeaderThatIsNotSeparatedByCommasIsReportedOnce) {
+  CsvFile file("名称;长度\nA板;450\n");
+  EXPECT_EQ(file.rows.ReadHeader(), std::nullopt);
+  EXPECT_EQ(file.messages.Text(),
+            "f.csv:1:1: error: the columns are separated by semicolons, not by commas, so none of them is "
+            "found; save "
+            "the file as CSV with commas\n");
+}
+
+TEST(CsvStream, ARowThatDoesNotDecodeAsTheHeaderIsPassedOver) {
+  CsvFile file(test::Gbk("名称,长度\n甲,1\n") + "\xFF,2\n" + test::Gbk("乙,3\n"));
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("甲", "1"));
+  EXPECT_THAT(file.Row(), ElementsAre("乙", "3"));
+  EXPECT_EQ(file.messages.Text(),
+            "f.csv:3:1: error: this row is not GBK as the header is; it is passed over. Save the file as "
+            "GBK\n");
+}
+
+TEST(CsvStream, AGbkRowBehindAUtf8HeaderIsPassedOverAndNamed) {
+  CsvFile file("名称,长度\n" + test::Gbk("甲,1\n") + "乙,3\n");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("乙", "3"));
+  EXPECT_THAT(file.messages.Text(), HasSubstr("f.csv:2:1: error: this row is not UTF-8"));
+}
+
+TEST(CsvStream, AQuoteThatIsNeverClosedCostsItsLineAndNoOther) {
+  const std::string text = "名称,长度\n模座,\"450\n甲,1\n乙,2\n";
+  for (const std::string& bytes : {text, test::Gbk(text)}) {
+    CsvFile file(bytes);
+    file.Header();
+    const auto row = file.rows.ReadRow();
+    ASSERT_TRUE(row);
+    EXPECT_THAT(CsvFile::Texts(row), ElementsAre("甲", "1"));
+    EXPECT_THAT(Places(*row), ElementsAre("f.csv:3:1", "f.csv:3:3"));
+    EXPECT_EQ(row->number, 3u);
+    EXPECT_THAT(file.Row(), ElementsAre("乙", "2"));
+    EXPECT_EQ(file.rows.ReadRow(), std::nullopt);
+    EXPECT_EQ(file.messages.Text(),
+              "f.csv:2:4: error: a quote opens here and is never closed; this row is passed over\n");
+  }
+}
+
+TEST(CsvStream, AQuoteThatIsNeverClosedOnTheLastLineEndsTheFile) {
+  CsvFile file("a\n1\n\"2");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("1"));
+  EXPECT_EQ(file.rows.ReadRow(), std::nullopt);
+  EXPECT_THAT(file.messages.Text(), HasSubstr("f.csv:3:1: error"));
+}
+
+TEST(CsvStream, TwoQuotesThatAreNeverClosedAreTwoMistakes) {
+  CsvFile file("a,b\n1,\"x\n2,y\n3,\"\"\"z\n4,w\n");
+  file.Header();
+  // The first quote closes at the first one of line 4, and what follows is text of that cell.
+  EXPECT_THAT(file.Row(), ElementsAre("1", "x\n2,y\n3,\"z"));
+  EXPECT_THAT(file.Row(), ElementsAre("4", "w"));
+}
+
+TEST(CsvStream, AnEndlessQuoteDoesNotSwallowALongFile) {
+  std::string bytes = "a,b\n1,\"x\n";
+  constexpr int kRows = 300000;  // More than two megabytes.
+  for (int i = 0; i < kRows; ++i) bytes += "abc,defg\n";
+  CsvFile file(bytes);
+  file.Header();
+  int rows = 0;
+  while (file.rows.ReadRow()) ++rows;
+  EXPECT_EQ(rows, kRows);
+  EXPECT_THAT(file.messages.Text(), HasSubstr("f.csv:2:3: error: a quote opens here"));
+}
+
+TEST(CsvStream, ACellOfAMegabyteIsReadWhole) {
+  const std::string large(std::size_t{1} << 20, 'x');
+  CsvFile file("a,b\n" + large + ",\"" + large + "\"\n1,2\n");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre(large, large));
+  EXPECT_THAT(file.Row(), ElementsAre("1", "2"));
+}
+
+TEST(CsvStream, AHundredThousandColumnsTakeNoLongTime) {
+  std::string line;
+  constexpr std::size_t kColumns = 100000;
+  for (std::size_t i = 0; i < kColumns; ++i) line += "列" + std::to_string(i) + ",";
+  CsvFile file(line + "\n" + line + "\n");
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(file.Header().size(), kColumns + 1);
+  const auto row = file.rows.ReadRow();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  ASSERT_TRUE(row);
+  EXPECT_EQ(row->cells.back().place.column, line.size() - 2 * kColumns + 1);  // 列 has three bytes.
+}
+
+TEST(CsvStream, NulBytesAreBytesLikeOthers) {
+  CsvFile file(std::string("a,b\n1\0x,2\n", 10));
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre(std::string("1\0x", 3), "2"));
+}
+
+TEST(CellName, IsThatOfTheSpreadsheet) {
+  EXPECT_EQ(CellName(0, 1), "A1");
+  EXPECT_EQ(CellName(2, 17), "C17");
+  EXPECT_EQ(CellName(25, 2), "Z2");
+  EXPECT_EQ(CellName(26, 2), "AA2");
+  EXPECT_EQ(CellName(51, 2), "AZ2");
+  EXPECT_EQ(CellName(52, 2), "BA2");
+  EXPECT_EQ(CellName(701, 2), "ZZ2");
+  EXPECT_EQ(CellName(702, 2), "AAA2");
+  EXPECT_EQ(CellName(16383, 1048576), "XFD1048576");
+}
+
+}  // namespace
+}  // namespace plateconfig

@@ -1,0 +1,53 @@
+#include "plateconfig/messages/similar_name.h"
+
+#include <gtest/gtest.h>
+
+namespace plateconfig {
+namespace {
+
+const std::vector<std::string_view> kColumns = {"长度", "宽度", "圆孔颜色", "有无不通槽", "faceColors"};
+
+TEST(MostSimilarName, FindsANameWithAWrongLetter) {
+  EXPECT_EQ(MostSimilarName("facecolors", kColumns), "faceColors");
+}
+
+TEST(MostSimilarName, AMissingOrSuperfluousCharacterIsAsGoodAsAWrongOne) {
+  EXPECT_EQ(MostSimilarName("faceColor", kColumns), "faceColors");
+  EXPECT_EQ(MostSimilarName("faceColorss", kColumns), "faceColors");
+}
+
+TEST(MostSimilarName, CountsChineseCharactersNotTheirBytes) {
+  // One of four characters differs; of the twelve bytes it may be one to three.
+  EXPECT_EQ(MostSimilarName("圆孔颜包", kColumns), "圆孔颜色");
+  // One of two is more than a third.
+  EXPECT_EQ(MostSimilarName("高度", kColumns), "");
+}
+
+TEST(MostSimilarName, AThirdOfTheCharactersMayDifferAndNoMore) {
+  EXPECT_EQ(MostSimilarName("abcdXY", {"abcdef"}), "abcdef");
+  EXPECT_EQ(MostSimilarName("abcXYZ", {"abcdef"}), "");
+}
+
+TEST(MostSimilarName, TheNearestOfSeveralWins) {
+  EXPECT_EQ(MostSimilarName("abcdef", {"abcdXY", "abcdeX", "abXYef"}), "abcdeX");
+  EXPECT_EQ(MostSimilarName("abcdef", {"abcdef", "abcdeX"}), "abcdef");
+}
+
+TEST(MostSimilarName, OfEquallyNearNamesTheFirstWins) {
+  EXPECT_EQ(MostSimilarName("abcdef", {"abcdeY", "abcdeX"}), "abcdeY");
+}
+
+TEST(MostSimilarName, NothingIsSimilarToNothing) {
+  EXPECT_EQ(MostSimilarName("", kColumns), "");
+  EXPECT_EQ(MostSimilarName("abc", {}), "");
+}
+
+TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
+  EXPECT_EQ(MostSimilarName("ab\xFF"
+                            "def",
+                            {"abcdef"}),
+            "abcdef");
+}
+
+}  // namespace
+}  // namespace plateconfig

@@ -1,0 +1,104 @@
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <optional>
+
+#include "plateconfig/commands/command.h"
+#include "plateconfig/holes/hole_answer.h"
+#include "plateconfig/holes/hole_output.h"
+#include "plateconfig/holes/hole_reader.h"
+#include "plateconfig/input/input_file.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/output/json_output.h"
+
+namespace plateconfig {
+namespace {
+
+struct HoleJob {
+  std::vector<std::string> typeFiles;  ///< UTF-8; "-" is standard input.
+  std::vector<std::string> files;      ///< UTF-8; "-" is standard input.
+  bool explains = false;
+};
+
+std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
+  std::vector<HoleTypeInput> types;
+  for (const std::string& file : job.typeFiles) {
+    const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
+      std::vector<HoleTypeInput> more = ReadHoleTypes(in, shownAs, context.reporter);
+      std::move(more.begin(), more.end(), std::back_inserter(types));
+      return more.size();
+    };
+    VisitInput(file, context, read,
+               Say("no hole type was read from this file", "没有从此文件读到任何孔类型"));
+  }
+  return types;
+}
+
+class HoleLoop {
+ public:
+  HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Context& context)
+      : job_(job), types_(types), context_(context) {
+    if (context.format == Format::kJson) array_.emplace(context.streams.out);
+  }
+
+  void VisitFile(const std::string& file) {
+    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+      const auto holes = ReadHoles(in, shownAs, context_.reporter);
+      std::size_t count = 0;
+      for (; const std::optional<HoleInput> hole = holes->Next(); ++count) {
+        progress.Step();
+        Visit(*hole);
+      }
+      return count;
+    };
+    VisitInput(file, context_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
+  }
+
+ private:
+  void Visit(const HoleInput& hole) {
+    const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
+    if (answer.BestCount() != 1) context_.reporter.CountFinding();
+    array_ ? array_->Add(HoleToJson(hole, answer, job_.explains))
+           : WriteHoleText(hole, answer, job_.explains, context_.streams.out);
+  }
+
+  const HoleJob& job_;
+  const std::vector<HoleTypeInput>& types_;
+  Context& context_;
+  std::optional<JsonArray> array_;
+};
+
+void RunHoles(const HoleJob& job, Context& context) {
+  const std::vector<HoleTypeInput> types = ReadTypeFiles(job, context);
+  HoleLoop loop(job, types, context);
+  for (const std::string& file : job.files) loop.VisitFile(file);
+}
+
+}  // namespace
+
+void AddHolesCommand(CLI::App& app, Verb& chosen) {
+  CLI::App* command =
+      AddVerb(app, "holes",
+              Say("list for each combined hole the types that it belongs to, with their scores, best first",
+                  "列出每个组合孔所属的类型及其得分，得分最高者在前"));
+  const auto job = std::make_shared<HoleJob>();
+  command
+      ->add_option("--types", job->typeFiles,
+                   Say("hole types: a CSV file (GBK or UTF-8) or a JSON file; may be given several times",
+                       "孔类型：CSV 文件（GBK 或 UTF-8）或 JSON 文件；可重复使用"))
+      ->type_name(Say("FILE", "文件"))
+      ->allow_extra_args(false)
+      ->required();
+  command->add_flag("--explain", job->explains,
+                    Say("add the verdict on each segment, and the types that refuse the hole",
+                        "同时说明每一段的判定，以及不接受此孔的类型"));
+  command
+      ->add_option("holes", job->files,
+                   Say("combined holes: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                       "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      ->type_name(Say("FILE", "文件"))
+      ->required();
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunHoles(*job, context); }; });
+}
+
+}  // namespace plateconfig

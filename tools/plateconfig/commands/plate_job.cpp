@@ -1,0 +1,116 @@
+#include "plateconfig/commands/plate_job.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+
+#include "analysis/rules/feed_rules.h"
+#include "plateconfig/input/input_file.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/messages/shown_text.h"
+#include "plateconfig/messages/similar_name.h"
+#include "plateconfig/tables/full_schema.h"
+#include "plateconfig/tables/table_check.h"
+
+namespace plateconfig {
+namespace {
+
+void Check(Role role, const TableFile& file, const std::string& consequence, Reporter& reporter) {
+  CheckTable(file, *FindTableSchema(NameOf(role)), {consequence, consequence}, reporter);
+}
+
+std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
+  Configuration configuration(job.configuration, context.reporter);
+  const auto rules = configuration.Find(Role::kProcessRules);
+  const auto settings = configuration.Find(Role::kProcessSettings);
+  if (!rules || !settings) return std::nullopt;
+  const std::string noRows = Say("the library then has no rule rows and every process text is empty",
+                                 "库因此没有任何规则行，所有工艺文本都为空");
+  const std::string noText = Say("the library then joins the processes with nothing between them",
+                                 "库因此在各工艺之间不加任何连接符号");
+  Check(Role::kProcessRules, *rules, noRows, context.reporter);
+  Check(Role::kProcessSettings, *settings, noText, context.reporter);
+  return LoadRuleTables(rules->hostPath, settings->hostPath);
+}
+
+class PlateLoop {
+ public:
+  PlateLoop(const PlateJob& job, const RuleTables& tables, Context& context, const PlateVisitor& visit)
+      : job_(job), tables_(tables), vocabulary_(tables.processRules), context_(context), visit_(visit) {}
+
+  void VisitFiles() {
+    for (const std::string& file : job_.files) VisitFile(file);
+    for (const std::string& name : job_.names) {
+      if (!met_.contains(name)) context_.reporter.Warning({"plateconfig"}, NoPlate(name));
+    }
+  }
+
+ private:
+  void VisitFile(const std::string& file) {
+    VisitInput(
+        file, context_,
+        [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+          return Visit(in, shownAs, progress);
+        },
+        Say("no plate was read from this file", "没有从此文件读到任何板"));
+  }
+
+  std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {
+    const auto plates = ReadPlates(in, file, vocabulary_, context_.reporter);
+    std::size_t count = 0;
+    while (const std::optional<PlateInput> plate = plates->Next()) {
+      ++count;
+      progress.Step();
+      if (!IsWanted(*plate)) continue;
+      std::vector<ProcessRule> rules = tables_.processRules;
+      FeedRules(rules, plate->features);
+      visit_(*plate, tables_, rules);
+    }
+    return count;
+  }
+
+  bool IsWanted(const PlateInput& plate) {
+    if (job_.names.empty()) return true;
+    met_.insert(plate.name);
+    return std::find(job_.names.begin(), job_.names.end(), plate.name) != job_.names.end();
+  }
+
+  std::string NoPlate(const std::string& name) const {
+    const std::string similar = MostSimilarName(name, {met_.begin(), met_.end()});
+    return Say("no plate has the name \"{}\"", "没有名为“{}”的板", ShownText(name)) +
+           DidYouMean(ShownText(similar));
+  }
+
+  const PlateJob& job_;
+  std::set<std::string> met_;  ///< The names of all plates, when only some are wanted.
+  const RuleTables& tables_;
+  PlateVocabulary vocabulary_;
+  Context& context_;
+  const PlateVisitor& visit_;
+};
+
+}  // namespace
+
+void AddPlateOptions(CLI::App& command, PlateJob& job) {
+  AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job.configuration);
+  command
+      .add_option(
+          "--plate", job.names,
+          Say("only the plates of this name; may be given several times", "仅处理此名称的板；可重复使用"))
+      ->type_name(Say("NAME", "名称"))
+      ->allow_extra_args(false);
+  command
+      .add_option("plates", job.files,
+                  Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                      "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      ->type_name(Say("FILE", "文件"))
+      ->required();
+}
+
+void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit) {
+  const std::optional<RuleTables> tables = LoadTables(job, context);
+  if (!tables) return;
+  PlateLoop(job, *tables, context, visit).VisitFiles();
+}
+
+}  // namespace plateconfig

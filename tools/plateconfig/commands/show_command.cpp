@@ -1,0 +1,156 @@
+#include <algorithm>
+#include <memory>
+
+#include "config/numbers.h"
+#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/output/json_output.h"
+#include "plateconfig/tables/schema_words.h"
+#include "plateconfig/tables/shown_settings.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct ShowJob {
+  ConfigurationOptions configuration;
+  std::vector<std::string> roles;  ///< Empty for all.
+};
+
+bool HasManyValues(const ColumnSchema& column) {
+  return column.isList || column.isRowColumn;
+}
+
+std::string SourceText(Source source) {
+  switch (source) {
+    case Source::kAbsent:
+      return Say("default", "默认值");
+    case Source::kClass:
+      return Say("not read", "未读取");
+    case Source::kTable:
+      break;
+  }
+  return {};
+}
+
+/// A cell on one line, whatever it holds.
+std::string OneLine(const std::string& gbk) {
+  std::string text;
+  for (const char c : GbkToUtf8(gbk)) {
+    const bool isControl = static_cast<unsigned char>(c) < 0x20;
+    text += c == '\n' ? "\\n" : isControl ? "\xEF\xBF\xBD" : std::string(1, c);  // U+FFFD
+  }
+  return text;
+}
+
+std::string ValueText(const ShownSetting& setting) {
+  if (setting.value.empty()) return Say("none", "无");
+  std::string text;
+  for (const std::string& cell : setting.value) {
+    if (!text.empty()) text += ", ";
+    text += cell.empty() ? "\"\"" : OneLine(cell);
+  }
+  return text;
+}
+
+void WriteText(const ShownSetting& setting, std::ostream& out) {
+  out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
+  if (!setting.schema.unit.empty() && !setting.value.empty())
+    out << "  [" << UnitText(setting.schema.unit) << "]";
+  if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
+  out << "\n";
+}
+
+void WriteText(const TableSchema& table, const std::optional<TableFile>& file,
+               const std::vector<ShownSetting>& settings, std::ostream& out) {
+  out << table.role << "  " << (file ? file->shownAs : Say("no file plays this role", "没有文件担任此角色"))
+      << "\n";
+  for (const ShownSetting& setting : settings) WriteText(setting, out);
+  out << "\n";
+}
+
+/// A number that JSON lacks, such as inf, stays a text.
+Json CellToJson(CellType type, const std::string& cell) {
+  switch (type) {
+    case CellType::kNumber: {
+      const Json number = ParseDouble(cell);
+      return number.dump() == "null" ? Json(cell) : number;
+    }
+    case CellType::kInteger:
+      return ParseInt(cell);
+    case CellType::kFlag:
+      return cell == FlagText(true);
+    case CellType::kText:
+      break;
+  }
+  return GbkToUtf8(cell);
+}
+
+Json ValueToJson(const ShownSetting& setting) {
+  const CellType type = setting.schema.type;
+  if (!HasManyValues(setting.schema)) return CellToJson(type, setting.value.front());
+  Json values = Json::array();
+  for (const std::string& cell : setting.value) values.push_back(CellToJson(type, cell));
+  return values;
+}
+
+const char* JsonName(Source source) {
+  return source == Source::kTable ? "table" : source == Source::kAbsent ? "absent column" : "class";
+}
+
+Json ToJson(const TableSchema& table, const std::optional<TableFile>& file, const ShownSetting& setting) {
+  return {{"role", table.role},
+          {"file", file ? Json(file->shownAs) : nullptr},
+          {"column", GbkToUtf8(setting.schema.column)},
+          {"value", ValueToJson(setting)},
+          {"unit", setting.schema.unit},
+          {"source", JsonName(setting.source)}};
+}
+
+bool IsWanted(const ShowJob& job, std::string_view role) {
+  return job.roles.empty() || std::find(job.roles.begin(), job.roles.end(), role) != job.roles.end();
+}
+
+void RunShow(const ShowJob& job, Context& context) {
+  Configuration configuration(job.configuration, context.reporter);
+  std::optional<JsonArray> array;
+  if (context.format == Format::kJson) array.emplace(context.streams.out);
+  for (const TableSchema& table : FullSchema()) {
+    const auto role = FindRole(table.role);
+    if (!role || !IsWanted(job, table.role)) continue;
+    const std::optional<TableFile> file = configuration.FindOptional(*role);
+    const std::vector<ShownSetting> settings = SettingsOf(table, file, context.reporter);
+    if (!array) WriteText(table, file, settings, context.streams.out);
+    for (const ShownSetting& setting : settings) {
+      if (array) array->Add(ToJson(table, file, setting));
+    }
+  }
+}
+
+std::vector<Role> AllRoles() {
+  std::vector<Role> roles(kRoleNames.size());
+  std::transform(kRoleNames.begin(), kRoleNames.end(), roles.begin(),
+                 [](std::string_view name) { return *FindRole(name); });
+  return roles;
+}
+
+}  // namespace
+
+void AddShowCommand(CLI::App& app, Verb& chosen) {
+  CLI::App* command = AddVerb(app, "show",
+                              Say("print every setting of a configuration, and where it comes from",
+                                  "显示配置中的每一项设置及其来源"));
+  const auto job = std::make_shared<ShowJob>();
+  AddConfigurationOptions(*command, AllRoles(), job->configuration);
+  const std::vector<std::string> names(kRoleNames.begin(), kRoleNames.end());
+  command->add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
+      ->type_name(Say("ROLE", "角色"))
+      ->check(OneOf(names));
+  AddRolesToHelp(*command, names);
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunShow(*job, context); }; });
+}
+
+}  // namespace plateconfig

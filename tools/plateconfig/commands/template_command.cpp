@@ -1,0 +1,51 @@
+#include <memory>
+
+#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/output/output_file.h"
+#include "plateconfig/tables/full_schema.h"
+#include "plateconfig/tables/table_template.h"
+
+namespace plateconfig {
+namespace {
+
+struct TemplateJob {
+  std::string role;
+  std::string output;  ///< UTF-8; empty is the standard output.
+  bool force = false;
+};
+
+void RunTemplate(const TemplateJob& job, Context& context) {
+  const std::string table = TableTemplate(*FindTableSchema(job.role));
+  if (job.output.empty()) {
+    context.streams.out << table;
+  } else {
+    WriteOutputFile(job.output, table, job.force ? IfPresent::kReplace : IfPresent::kKeep, context.reporter);
+  }
+}
+
+std::vector<std::string> RoleNames() {
+  const auto roles = SchemaRoles();
+  return {roles.begin(), roles.end()};
+}
+
+}  // namespace
+
+void AddTemplateCommand(CLI::App& app, Verb& chosen) {
+  CLI::App* command = AddVerb(app, "template",
+                              Say("write a table with all columns of a role and their defaults (GBK, CR LF)",
+                                  "写出某一角色的表，含全部列及默认值（GBK，CR LF）"));
+  const auto job = std::make_shared<TemplateJob>();
+  command->add_option("role", job->role, Say("the role of the table", "表的角色"))
+      ->type_name(Say("ROLE", "角色"))
+      ->required()
+      ->check(OneOf(RoleNames()));
+  AddRolesToHelp(*command, RoleNames());
+  command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
+      ->type_name(Say("FILE", "文件"));
+  command->add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
+  command->callback([job, &chosen] { chosen = [job](Context& context) { RunTemplate(*job, context); }; });
+}
+
+}  // namespace plateconfig

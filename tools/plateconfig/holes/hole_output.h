@@ -1,0 +1,17 @@
+#pragma once
+
+// One hole's answer as text for people and as JSON for programs.
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "plateconfig/holes/hole_answer.h"
+#include "plateconfig/holes/hole_reader.h"
+
+namespace plateconfig {
+
+/// `inFull`: with the verdict on each segment, and with the types that refuse the hole.
+void WriteHoleText(const HoleInput& input, const HoleAnswer& answer, bool inFull, std::ostream& out);
+nlohmann::ordered_json HoleToJson(const HoleInput& input, const HoleAnswer& answer, bool inFull);
+
+}  // namespace plateconfig

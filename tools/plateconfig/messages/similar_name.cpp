@@ -1,0 +1,63 @@
+#include "plateconfig/messages/similar_name.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+
+#include "plateconfig/messages/language.h"
+#include "text/utf8_decode.h"
+
+namespace plateconfig {
+namespace {
+
+std::u32string Characters(std::string_view utf8) {
+  std::u32string characters;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    characters += static_cast<char32_t>(character.value);
+    at += std::max<std::size_t>(character.length, 1);
+  }
+  return characters;
+}
+
+/// Levenshtein's distance: the fewest insertions, deletions and replacements that turn one text into the
+/// other.
+std::size_t EditDistance(const std::u32string& a, const std::u32string& b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i + 1;
+    for (std::size_t j = 0; j < b.size(); ++j) {
+      const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+    }
+  }
+  return row.back();
+}
+
+}  // namespace
+
+std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known) {
+  const std::u32string wanted = Characters(name);
+  std::string best;
+  std::size_t bestDistance = wanted.size() / 3 + 1;
+  for (const std::string_view candidate : known) {
+    const std::u32string letters = Characters(candidate);
+    const std::size_t lengths =
+        std::max(wanted.size(), letters.size()) - std::min(wanted.size(), letters.size());
+    if (lengths >= bestDistance) continue;  // The distance is this large at least.
+    const std::size_t distance = EditDistance(wanted, letters);
+    if (distance >= bestDistance) continue;
+    bestDistance = distance;
+    best = candidate;
+  }
+  return best;
+}
+
+std::string DidYouMean(const std::string& similar) {
+  return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,78 @@
+#include "plateconfig/output/output_file.h"
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <system_error>
+
+#include "plateconfig/messages/language.h"
+
+namespace plateconfig {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path PathFromUtf8(const std::string& path) {
+  return fs::path(std::u8string(path.begin(), path.end()));
+}
+
+/// A name in the same folder, because a file can be renamed within a file system only.
+fs::path TemporaryNameFor(fs::path path) {
+  path += ".tmp-" + std::to_string(std::random_device()());
+  return path;
+}
+
+bool WriteBytes(const fs::path& path, std::string_view bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file << bytes;
+  file.close();
+  return !file.fail();
+}
+
+bool WriteWhole(const fs::path& target, std::string_view bytes) {
+  const fs::path temporary = TemporaryNameFor(target);
+  std::error_code error;
+  bool isDone = WriteBytes(temporary, bytes);
+  if (isDone) {
+    fs::rename(temporary, target, error);
+    isDone = !error;
+  }
+  if (!isDone) fs::remove(temporary, error);
+  return isDone;
+}
+
+/// True for a device or a pipe: it is written into, because a rename would put a file in its place.
+bool IsStream(const fs::file_status& status) {
+  return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+}
+
+/// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
+fs::path BehindLinks(const fs::path& path) {
+  std::error_code error;
+  const fs::path target = fs::canonical(path, error);
+  return error ? path : target;
+}
+
+}  // namespace
+
+bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent ifPresent,
+                     Reporter& reporter) {
+  const fs::path target = PathFromUtf8(path);
+  std::error_code error;
+  const fs::file_status status = fs::status(target, error);
+  if (fs::is_directory(status)) {
+    reporter.Error({path}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
+    return false;
+  }
+  const bool isStream = IsStream(status);
+  if (ifPresent == IfPresent::kKeep && fs::exists(status) && !isStream) {
+    reporter.Error({path},
+                   Say("this file exists already; --force replaces it", "此文件已存在；用 --force 覆盖"));
+    return false;
+  }
+  const bool isDone = isStream ? WriteBytes(target, bytes) : WriteWhole(BehindLinks(target), bytes);
+  if (!isDone) reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
+  return isDone;
+}
+
+}  // namespace plateconfig

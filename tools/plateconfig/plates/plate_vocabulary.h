@@ -1,0 +1,44 @@
+#pragma once
+
+// The words in which the features of a plate are written: the condition texts of the process list, the hole
+// count, and the processes that are ordered by hand.
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/rules/plate_features.h"
+#include "rules/process_rule.h"
+
+namespace plateconfig {
+
+/// The column (UTF-8) of the number of holes, which serves both count conditions.
+inline constexpr std::string_view kHoleCountName = "孔数量";
+
+enum class FeatureKind { kPresent, kColors, kDiameters, kHoleCount, kCustomProcess };
+
+struct Feature {
+  FeatureKind kind;
+  ProcessRule::RuleType type;
+  std::string processName;  ///< GBK; for `kCustomProcess`.
+};
+
+class PlateVocabulary {
+ public:
+  /// The process list tells which processes can be ordered by hand.
+  explicit PlateVocabulary(const std::vector<ProcessRule>& processList);
+
+  /// What a column or member of this name (UTF-8) means; null for an unknown name.
+  const Feature* Find(std::string_view name) const;
+
+  /// The known name that looks most like this one, for a message; empty when none is near. `others` are
+  /// further names.
+  std::string Suggest(std::string_view name, const std::vector<std::string_view>& others) const;
+
+ private:
+  std::map<std::string, Feature, std::less<>> features_;
+};
+
+}  // namespace plateconfig

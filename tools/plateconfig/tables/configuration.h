@@ -1,0 +1,56 @@
+#pragma once
+
+// Which file plays which role: what the command line names, else what the manifest tables.json of the
+// configuration folder says. The folder is the one that the command line names, else the active one below
+// TQConfig.
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "analysis/schema/role.h"
+#include "plateconfig/messages/reporter.h"
+
+namespace plateconfig {
+
+struct JsonNode;
+
+/// What the command line says; UTF-8, empty when it says nothing.
+struct ConfigurationOptions {
+  std::string folder;
+  std::map<Role, std::string> tables;
+};
+
+struct TableFile {
+  std::string hostPath;  ///< As the library takes it.
+  std::string shownAs;   ///< UTF-8, for messages.
+};
+
+class Configuration {
+ public:
+  /// Both are referred to, not copied.
+  Configuration(const ConfigurationOptions& options, Reporter& reporter)
+      : options_(options), reporter_(reporter) {}
+
+  /// The table of a role; nothing when no file plays it, which is reported as an error, here or when the
+  /// manifest was looked for.
+  std::optional<TableFile> Find(Role role);
+
+  /// The same without an error for a role that the manifest does not name.
+  std::optional<TableFile> FindOptional(Role role);
+
+ private:
+  bool FindFolder();
+  void ReadManifest();
+  void ReadRole(const std::string& name, const JsonNode& file);
+  std::optional<TableFile> InFolder(const std::string& name) const;
+
+  const ConfigurationOptions& options_;
+  Reporter& reporter_;
+  bool isRead_ = false;
+  bool isUsable_ = false;  ///< The manifest was read; else what is wrong is reported already.
+  TableFile folder_;       ///< Ends with a separator; empty when there is none.
+  std::map<Role, std::string> manifest_;
+};
+
+}  // namespace plateconfig

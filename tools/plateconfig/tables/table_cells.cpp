@@ -1,0 +1,207 @@
+#include "plateconfig/tables/table_cells.h"
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "analysis/text/strict_values.h"
+#include "config/numbers.h"
+#include "plateconfig/input/cell_texts.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/messages/shown_text.h"
+#include "plateconfig/messages/similar_name.h"
+#include "rules/condition_texts.h"
+#include "rules/rule_columns.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+std::string ReadAs(const std::string& value) {
+  return Say("; it is read as {}", "；读作 {}", value);
+}
+
+std::string NumberMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictNumber(cell)) return {};
+  return NotANumber(GbkToUtf8(cell)) + ReadAs(NumberText(ParseDouble(cell)));
+}
+
+std::string IntegerMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictInteger(cell)) return {};
+  return NotAnInteger(GbkToUtf8(cell)) + ReadAs(std::to_string(ParseInt(cell)));
+}
+
+std::string IntegersMistake(const ColumnSchema&, const std::string& cell) {
+  if (StrictIntegers(cell)) return {};
+  return NotIntegers(GbkToUtf8(cell)) + ReadAs(JoinInts(SplitInts(cell)));
+}
+
+std::string NumbersMistake(const ColumnSchema&, const std::string& cell) {
+  return StrictNumbers(cell) ? std::string() : NotNumbers(GbkToUtf8(cell));
+}
+
+std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
+  const auto bounds = StrictNumbers(cell);
+  if (bounds && bounds->size() == 2 && bounds->front() <= bounds->back()) return {};
+  const auto read = SplitRange(cell);
+  return NotARange(GbkToUtf8(cell)) + (read ? ReadAs(NumberText(read->first) + "_" + NumberText(read->second))
+                                            : Say("; it counts as an empty cell", "；视为空单元格"));
+}
+
+std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
+  constexpr FlagLetters kAll[] = {FlagLetters::kYesIfUpperY, FlagLetters::kYesIfY, FlagLetters::kNoIfUpperN,
+                                  FlagLetters::kNoIfN};
+  const auto letters = std::find_if(std::begin(kAll), std::end(kAll),
+                                    [&](FlagLetters each) { return FlagName(each) == column.kind; });
+  if (letters == std::end(kAll)) return {};
+  const bool isYes = ReadFlag(*letters, cell);
+  const auto strict = StrictYesNo(cell);
+  if (!strict) return NotYesNo(GbkToUtf8(cell)) + ReadAs(FlagText(isYes));
+  if (*strict == isYes) return {};
+  return Say("\"{}\" is read as {}; write a capital letter", "“{}”读作 {}；请写大写字母", GbkToUtf8(cell),
+             FlagText(isYes));
+}
+
+std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
+  if (FindRuleType(cell)) return {};
+  std::vector<std::string> known(kConditionTexts.size());
+  std::transform(kConditionTexts.begin(), kConditionTexts.end(), known.begin(),
+                 [](const ConditionText& condition) { return GbkToUtf8(condition.text); });
+  const std::string name = GbkToUtf8(cell);
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
+  const std::string mistake = Say("\"{}\" is no condition and counts as {}", "“{}”不是工艺类型，视为 {}",
+                                  ShownText(name), known.front());
+  return mistake + DidYouMean(similar);
+}
+
+/// Of a cell that looks like `exact` but for a letter, which makes it mean the opposite.
+std::string AlmostMistake(std::string_view exact, const std::string& cell) {
+  if (cell == exact) return {};
+  const std::string name = GbkToUtf8(cell);
+  const std::string wanted = GbkToUtf8(exact);
+  if (MostSimilarName(name, {wanted}).empty()) return {};
+  return Say("\"{}\" is not exactly \"{}\" and counts as its opposite",
+             "“{}”与“{}”不完全相同，因此视为相反的要求", ShownText(name), wanted);
+}
+
+/// The text that a cell of a rule row has to be exactly, and the one that says the opposite.
+struct ExactText {
+  std::string_view column;
+  std::string_view exact;
+  std::string_view opposite;
+};
+
+using namespace literals;
+
+constexpr ExactText kExactTexts[] = {
+    {columns::kHasProfile, columns::kProfileColors, "无型面"_gbk},
+    {columns::kHasWireCutting, columns::kWireCuttingColors, "无线割"_gbk},
+    {columns::kMaterial, columns::kSoftMaterial, columns::kHardMaterial},
+};
+
+std::string ExactMistake(const ColumnSchema& column, const std::string& cell) {
+  for (const ExactText& text : kExactTexts) {
+    if (column.column == text.column && cell != text.opposite) return AlmostMistake(text.exact, cell);
+  }
+  return {};
+}
+
+struct KindCheck {
+  std::string_view begin;  ///< Of the kind's name. The first that fits counts.
+  std::string (*mistake)(const ColumnSchema& column, const std::string& cell);
+};
+
+constexpr KindCheck kKindChecks[] = {
+    {"number", NumberMistake},
+    {"integer", IntegerMistake},
+    {"list of integers in one cell", IntegersMistake},
+    {"list of integers", IntegerMistake},
+    {"list of numbers in one cell", NumbersMistake},
+    {"range", RangeMistake},
+    {"flag", FlagMistake},
+    {"condition", ConditionMistake},
+    {"exactly", ExactMistake},
+};
+
+const KindCheck* FindCheck(std::string_view kind) {
+  const auto check = std::find_if(std::begin(kKindChecks), std::end(kKindChecks),
+                                  [&](const KindCheck& each) { return kind.starts_with(each.begin); });
+  return check == std::end(kKindChecks) ? nullptr : check;
+}
+
+/// A general parameter of the rule table is found by its name.
+std::string ParameterMistake(const ColumnSchema& column, const std::string& cell) {
+  if (std::find(column.whenAbsent.begin(), column.whenAbsent.end(), cell) != column.whenAbsent.end())
+    return {};
+  std::vector<std::string> known(column.whenAbsent.size());
+  std::transform(column.whenAbsent.begin(), column.whenAbsent.end(), known.begin(), GbkToUtf8);
+  const std::string name = GbkToUtf8(cell);
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
+  if (similar.empty()) return {};
+  return Say("\"{}\" is no general parameter", "“{}”不是通用要求", ShownText(name)) + DidYouMean(similar);
+}
+
+struct CheckedColumn {
+  const ColumnSchema& schema;
+  std::optional<std::size_t> deciding;
+  std::size_t lastRow;
+};
+
+/// The column that decides whether a row counts for this one, where the table has it.
+std::optional<std::size_t> FindDeciding(const ColumnSchema& column, const Table& table) {
+  const std::string_view name = DecidingColumn(column);
+  return name.empty() ? std::nullopt : table.FindColumn(name);
+}
+
+/// The columns that the library reads, by their place in the table.
+std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
+  std::map<std::size_t, CheckedColumn> columns;
+  for (const ColumnSchema& column : schema.columns) {
+    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
+    if (!at) continue;
+    const std::size_t lastRow = column.isList || column.isRowColumn ? table.RowCount() : 1;
+    columns.insert({*at, {column, FindDeciding(column, table), lastRow}});
+  }
+  return columns;
+}
+
+}  // namespace
+
+std::string_view DecidingColumn(const ColumnSchema& column) {
+  if (column.column == columns::kConditionType || column.column == columns::kConditionValue)
+    return columns::kProcessName;
+  const bool isRuleRow = column.column == columns::kLengthRange || column.column == columns::kWidthRange ||
+                         column.column == columns::kHeightRange || column.column == columns::kWeightRange ||
+                         column.column == columns::kHasProfile || column.column == columns::kHasWireCutting ||
+                         column.column == columns::kMaterial;
+  return isRuleRow ? columns::kLayer : std::string_view();
+}
+
+std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
+  if (cell.empty()) return {};
+  if (column.column == columns::kParameterName) return ParameterMistake(column, cell);
+  const KindCheck* check = FindCheck(column.kind);
+  return check == nullptr ? std::string() : check->mistake(column, cell);
+}
+
+bool IsCheckedKind(std::string_view kind) {
+  return FindCheck(kind) != nullptr;
+}
+
+void ForEachCellMistake(
+    const Table& table, const TableSchema& schema,
+    const std::function<void(std::size_t row, std::size_t column, const std::string& mistake)>& report) {
+  const std::map<std::size_t, CheckedColumn> columns = CheckedColumns(table, schema);
+  for (std::size_t row = 1; row <= table.RowCount(); ++row) {
+    for (const auto& [at, column] : columns) {
+      if (row > column.lastRow) continue;
+      if (column.deciding && table.CellEquals(row, *column.deciding, "")) continue;
+      const std::string mistake = CellMistake(column.schema, table.Cell(row, at));
+      if (!mistake.empty()) report(row, at, mistake);
+    }
+  }
+}
+
+}  // namespace plateconfig
