@@ -5,10 +5,10 @@
 #include <set>
 
 #include "analysis/rules/feed_rules.h"
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 #include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_check.h"
 

@@ -1,12 +1,12 @@
 #include <set>
 #include <utility>
 
+#include "analysis/text/shown_text.h"
 #include "analysis/text/strict_values.h"
 #include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/holes/hole_reader.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/csv_records.h"
-#include "plateconfig/messages/shown_text.h"
 
 namespace plateconfig {
 namespace {

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "analysis/text/shown_text.h"
 #include "analysis/text/strict_values.h"
 #include "config/text_helpers.h"
 #include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/input/input_form.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
 
 namespace plateconfig {
 namespace {

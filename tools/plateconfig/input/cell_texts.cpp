@@ -4,10 +4,10 @@
 #include <limits>
 #include <string_view>
 
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "analysis/text/strict_values.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {

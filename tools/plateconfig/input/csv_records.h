@@ -13,10 +13,10 @@
 #include <utility>
 #include <vector>
 
+#include "analysis/text/similar_name.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/csv_stream.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/similar_name.h"
 
 namespace plateconfig {
 

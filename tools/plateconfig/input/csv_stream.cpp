@@ -73,15 +73,6 @@ bool CsvRow::IsBlank() const {
   return std::all_of(cells.begin(), cells.end(), [](const CsvCell& cell) { return cell.text.empty(); });
 }
 
-std::string CellName(std::size_t column, std::size_t row) {
-  constexpr std::size_t kLetters = 26;
-  std::string letters;
-  for (std::size_t rest = column + 1; rest > 0; rest = (rest - 1) / kLetters) {
-    letters.insert(letters.begin(), static_cast<char>('A' + (rest - 1) % kLetters));
-  }
-  return letters + std::to_string(row);
-}
-
 CsvStream::CsvStream(std::istream& in, const std::string& file, Reporter& reporter)
     : in_(in), file_(file), reporter_(reporter) {}
 

@@ -29,9 +29,6 @@ struct CsvRow {
   bool IsBlank() const;
 };
 
-/// The name of a cell as spreadsheets show it: (2, 17) is C17. Columns count from 0.
-std::string CellName(std::size_t column, std::size_t row);
-
 class CsvStream {
  public:
   CsvStream(std::istream& in, const std::string& file, Reporter& reporter);

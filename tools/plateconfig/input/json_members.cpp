@@ -2,9 +2,9 @@
 
 #include <set>
 
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 
 namespace plateconfig {
 namespace {

@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "analysis/text/shown_text.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
 
 namespace plateconfig {
 namespace {

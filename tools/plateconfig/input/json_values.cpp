@@ -2,9 +2,9 @@
 
 #include <limits>
 
+#include "analysis/text/shown_text.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
 
 namespace plateconfig {
 namespace {

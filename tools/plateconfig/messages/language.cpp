@@ -25,4 +25,8 @@ std::string Say(std::string_view english, std::string_view chinese) {
   return std::string(current == Language::kChinese ? chinese : english);
 }
 
+std::string DidYouMean(const std::string& similar) {
+  return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+}
+
 }  // namespace plateconfig

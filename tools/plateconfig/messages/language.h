@@ -10,9 +10,9 @@
 #include <string_view>
 #include <utility>
 
-namespace plateconfig {
+#include "analysis/text/words.h"
 
-enum class Language { kEnglish, kChinese };
+namespace plateconfig {
 
 /// The language of all texts from now on.
 void SetLanguage(Language language);
@@ -32,5 +32,9 @@ requires(sizeof...(Arguments) > 0) std::string
   return fmt::vformat(CurrentLanguage() == Language::kChinese ? chinese : english,
                       fmt::make_format_args(arguments...));
 }
+
+/// What a message about a wrong name ends with: the name that was probably meant; nothing when `similar` is
+/// empty.
+std::string DidYouMean(const std::string& similar);
 
 }  // namespace plateconfig

@@ -1,13 +1,9 @@
 #include "plateconfig/messages/reporter.h"
 
-namespace plateconfig {
+#include "analysis/findings/sentence.h"
+#include "plateconfig/messages/language.h"
 
-std::string ToString(const Place& place) {
-  if (place.line == 0) return place.file;
-  std::string text = place.file + ":" + std::to_string(place.line);
-  if (place.column != 0) text += ":" + std::to_string(place.column);
-  return text;
-}
+namespace plateconfig {
 
 void Reporter::Error(const Place& place, const std::string& text) {
   hasErrors_ = true;
@@ -19,7 +15,14 @@ void Reporter::Warning(const Place& place, const std::string& text) {
   Write(place, "warning", text);
 }
 
-void Reporter::Write(const Place& place, const char* severity, const std::string& text) {
+void Reporter::Report(const Finding& finding) {
+  const Severity severity = finding.code.Row().severity;
+  hasErrors_ = hasErrors_ || severity == Severity::kError;
+  hasFindings_ = hasFindings_ || severity == Severity::kWarning;
+  Write(finding.place, NameOf(severity), LineOf(finding, CurrentLanguage()));
+}
+
+void Reporter::Write(const Place& place, std::string_view severity, const std::string& text) {
   if (prepare_) prepare_();
   err_ << ToString(place) << ": " << severity << ": " << text << "\n";
 }

@@ -4,23 +4,15 @@
 //
 //   plates.csv:3:12: error: C3: the width "45o" is not a number; write it like 450 or 12.5
 
-#include <cstddef>
 #include <functional>
 #include <ostream>
 #include <string>
 #include <utility>
 
+#include "analysis/findings/finding.h"
+#include "analysis/text/place.h"
+
 namespace plateconfig {
-
-/// A place in a file; line and column count from 1 in characters, 0 is unknown.
-struct Place {
-  std::string file;
-  std::size_t line = 0;
-  std::size_t column = 0;
-};
-
-/// "file:line:column", without what is unknown.
-std::string ToString(const Place& place);
 
 /// The exit codes of the companion.
 enum ExitCode { kFine = 0, kFindings = 1, kUnusable = 2 };
@@ -33,6 +25,8 @@ class Reporter {
   void Error(const Place& place, const std::string& text);
   /// Something looks wrong but was used as it is.
   void Warning(const Place& place, const std::string& text);
+  /// The same as data: it counts as its severity says. A hint is not a finding for the exit code.
+  void Report(const Finding& finding);
   /// A result that the user should look at, already shown in the output.
   void CountFinding() { hasFindings_ = true; }
 
@@ -43,7 +37,7 @@ class Reporter {
   ExitCode Result() const { return hasErrors_ ? kUnusable : hasFindings_ ? kFindings : kFine; }
 
  private:
-  void Write(const Place& place, const char* severity, const std::string& text);
+  void Write(const Place& place, std::string_view severity, const std::string& text);
 
   std::ostream& err_;
   std::function<void()> prepare_;

@@ -2,11 +2,11 @@
 #include <set>
 #include <utility>
 
+#include "analysis/text/shown_text.h"
 #include "analysis/text/strict_values.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/csv_stream.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
 #include "plateconfig/plates/plate_fields.h"
 #include "plateconfig/plates/plate_reader.h"
 

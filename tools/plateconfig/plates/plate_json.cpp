@@ -1,12 +1,12 @@
 #include <utility>
 
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/json_members.h"
 #include "plateconfig/input/json_stream.h"
 #include "plateconfig/input/json_values.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 #include "plateconfig/plates/plate_fields.h"
 #include "plateconfig/plates/plate_reader.h"
 

@@ -1,6 +1,6 @@
 #include "plateconfig/plates/plate_vocabulary.h"
 
-#include "plateconfig/messages/similar_name.h"
+#include "analysis/text/similar_name.h"
 #include "rules/condition_texts.h"
 #include "text/gbk.h"
 

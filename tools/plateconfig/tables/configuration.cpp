@@ -2,12 +2,12 @@
 
 #include <string_view>
 
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
 #include "plateconfig/input/json_members.h"
 #include "plateconfig/input/json_node.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 #include "plateconfig/system/console.h"
 #include "platform/file.h"
 #include "text/gbk.h"

@@ -6,12 +6,12 @@
 #include <optional>
 #include <vector>
 
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "analysis/text/strict_values.h"
 #include "config/numbers.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/shown_text.h"
-#include "plateconfig/messages/similar_name.h"
 #include "rules/condition_texts.h"
 #include "rules/rule_columns.h"
 #include "text/gbk.h"

@@ -4,12 +4,12 @@
 #include <set>
 #include <vector>
 
+#include "analysis/text/similar_name.h"
 #include "config/table.h"
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/csv_stream.h"
 #include "plateconfig/input/separator.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/messages/similar_name.h"
 #include "plateconfig/tables/table_cells.h"
 #include "platform/file.h"
 #include "rules/rule_columns.h"

@@ -1,10 +1,9 @@
-#include "plateconfig/messages/similar_name.h"
+#include "analysis/text/similar_name.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
 
-#include "plateconfig/messages/language.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {
@@ -54,10 +53,6 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
     best = candidate;
   }
   return best;
-}
-
-std::string DidYouMean(const std::string& similar) {
-  return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
 }
 
 }  // namespace plateconfig

@@ -1,4 +1,4 @@
-#include "plateconfig/messages/shown_text.h"
+#include "analysis/text/shown_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "plateconfig/messages/similar_name.h"
+#include "analysis/text/similar_name.h"
 
 #include <gtest/gtest.h>
 

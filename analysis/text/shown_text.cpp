@@ -1,4 +1,4 @@
-#include "plateconfig/messages/shown_text.h"
+#include "analysis/text/shown_text.h"
 
 #include "text/utf8_decode.h"
 

@@ -1,0 +1,34 @@
+#pragma once
+
+// Findings as sentences, in the language that is asked for.
+//
+// The texts of codes.h may hold these places:
+//
+//   {offending}  the offending text in quotes, with a remark when it holds what is easily overlooked
+//   {text}       the offending text as it is
+//   {column}     the name of the column
+//   {usedAs}     what the library takes it for
+//   {fix}        what to write instead
+//   {0} {1} …    the finding's further words
+
+#include <string>
+#include <string_view>
+
+#include "analysis/findings/finding.h"
+
+namespace plateconfig {
+
+/// What is wrong, one sentence.
+std::string MessageOf(const Finding& finding, Language language);
+
+/// What to write instead, one sentence; empty when nothing can be said.
+std::string AdviceOf(const Finding& finding, Language language);
+
+/// All of it on one line, in front of it the cell: C3: "45o" is not a number; write it like 450 or 12.5; it
+/// is read as 45
+std::string LineOf(const Finding& finding, Language language);
+
+/// The same as the text of a severity.
+std::string_view NameOf(Severity severity);
+
+}  // namespace plateconfig
