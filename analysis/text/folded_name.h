@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace plateconfig {
+
+/// A name (UTF-8) without what hands get wrong and eyes pass over, for comparing: full-width letters and
+/// signs as their half-width forms, capital letters as small ones, traditional characters as simplified ones,
+/// no blanks, every dash, tilde and underline as "_". Two names that fold to the same text look alike; it is
+/// no text to be shown.
+std::string FoldedName(std::string_view utf8);
+
+/// The folded name without what stands in brackets at its end, which is mostly a unit: 长度范围(mm) gives
+/// 长度范围.
+std::string FoldedNameWithoutUnit(std::string_view utf8);
+
+}  // namespace plateconfig

@@ -1,0 +1,70 @@
+#include "analysis/text/table_text.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/gbk.h"
+#include "text/gbk_scan.h"
+
+namespace plateconfig {
+namespace {
+
+std::size_t CountLineEnds(std::string_view bytes) {
+  return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+}
+
+}  // namespace
+
+TableText::TableText(std::string shownAs, const Table& table) : name_(std::move(shownAs)), table_(table) {
+  if (table.ColumnCount() == 0) return;
+  std::size_t line = 1;
+  std::size_t reached = 0;
+  for (std::size_t row = 0; row <= table.RowCount(); ++row) {
+    const std::size_t begin = OffsetOf(row, 0);
+    line += CountLineEnds(table.Bytes().substr(reached, begin - reached));
+    reached = begin;
+    lines_.push_back(line);
+  }
+}
+
+std::string TableText::Text(std::size_t row, std::size_t column) const {
+  return GbkToUtf8(table_.Cell(row, column));
+}
+
+std::size_t TableText::OffsetOf(std::size_t row, std::size_t column) const {
+  const std::size_t last = table_.CellCount(row) - 1;
+  const char* const begin = table_.RawCell(row, std::min(column, last)).data();
+  return static_cast<std::size_t>(begin - table_.Bytes().data());
+}
+
+Place TableText::PlaceOf(std::size_t row, std::size_t column) const {
+  return PlaceOfByte(OffsetOf(row, column));
+}
+
+std::size_t TableText::RowOfByte(std::size_t offset) const {
+  std::size_t low = 0;
+  std::size_t high = lines_.size();
+  while (high - low > 1) {
+    const std::size_t middle = (low + high) / 2;
+    (OffsetOf(middle, 0) <= offset ? low : high) = middle;
+  }
+  return low;
+}
+
+Place TableText::PlaceOfByte(std::size_t offset) const {
+  const std::size_t row = RowOfByte(offset);
+  const std::size_t rowBegin = OffsetOf(row, 0);
+  const std::string_view before = table_.Bytes().substr(rowBegin, offset - rowBegin);
+  const std::size_t lineEnd = before.rfind('\n');
+  const std::string_view inLine = lineEnd == std::string_view::npos ? before : before.substr(lineEnd + 1);
+  return {name_, lines_[row] + CountLineEnds(before), CountGbkCharacters(inLine) + 1};
+}
+
+std::string TableText::CellOfByte(std::size_t offset) const {
+  const std::size_t row = RowOfByte(offset);
+  std::size_t column = 0;
+  while (column + 1 < table_.CellCount(row) && OffsetOf(row, column + 1) <= offset) ++column;
+  return CellName(column, row + 1);
+}
+
+}  // namespace plateconfig

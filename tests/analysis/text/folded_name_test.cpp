@@ -1,0 +1,50 @@
+#include "analysis/text/folded_name.h"
+
+#include <gtest/gtest.h>
+
+namespace plateconfig {
+namespace {
+
+TEST(FoldedName, FullWidthLettersAndSignsAreHalfWidth) {
+  EXPECT_EQ(FoldedName("ＣＮＣ粗加工"), "cnc粗加工");
+  EXPECT_EQ(FoldedName("软料（体颜色）"), "软料(体颜色)");
+  EXPECT_EQ(FoldedName("１２＿８７"), "12_87");
+}
+
+TEST(FoldedName, CapitalsAreSmallLetters) {
+  EXPECT_EQ(FoldedName("CAD路径"), "cad路径");
+}
+
+TEST(FoldedName, TraditionalCharactersAreSimplified) {
+  EXPECT_EQ(FoldedName("長度範圍"), "长度范围");
+  EXPECT_EQ(FoldedName("材質要求"), "材质要求");
+  EXPECT_EQ(FoldedName("有無線割"), "有无线割");
+}
+
+TEST(FoldedName, BlanksOfAllSortsAreGone) {
+  EXPECT_EQ(FoldedName(" 长 度\u3000范\u00A0围\t"), "长度范围");
+}
+
+TEST(FoldedName, DashesAndTildesAreUnderlines) {
+  EXPECT_EQ(FoldedName("10-20"), "10_20");
+  EXPECT_EQ(FoldedName("10~20"), "10_20");
+  EXPECT_EQ(FoldedName("10－20"), "10_20");
+  EXPECT_EQ(FoldedName("10～20"), "10_20");
+  EXPECT_EQ(FoldedName("10—20"), "10_20");
+}
+
+TEST(FoldedName, OtherTextsStayAsTheyAre) {
+  EXPECT_EQ(FoldedName("下料"), "下料");
+  EXPECT_EQ(FoldedName(""), "");
+  EXPECT_EQ(FoldedName("±0.05mm"), "±0.05mm");
+}
+
+TEST(FoldedNameWithoutUnit, ABracketAtTheEndIsAUnit) {
+  EXPECT_EQ(FoldedNameWithoutUnit("长度范围(mm)"), "长度范围");
+  EXPECT_EQ(FoldedNameWithoutUnit("长度范围（mm）"), "长度范围");
+  EXPECT_EQ(FoldedNameWithoutUnit("(mm)"), "(mm)");
+  EXPECT_EQ(FoldedNameWithoutUnit("长度"), "长度");
+}
+
+}  // namespace
+}  // namespace plateconfig
