@@ -64,10 +64,15 @@ std::string Fill(std::string_view text, const Finding& finding, Language languag
   return filled;
 }
 
+/// True when the message itself says it.
+bool Says(const Finding& finding, std::string_view place) {
+  return finding.code.Row().message.english.find(place) != std::string_view::npos;
+}
+
 std::string UsedAs(const Finding& finding, Language language) {
   constexpr Words kAsEmpty = {"; it counts as an empty cell", "；视为空单元格"};
   constexpr Words kAs = {"; it is read as ", "；读作 "};
-  if (!finding.usedAs) return {};
+  if (!finding.usedAs || Says(finding, "{usedAs}")) return {};
   if (finding.usedAs->empty()) return std::string(kAsEmpty.In(language));
   return std::string(kAs.In(language)) + ShownText(*finding.usedAs);
 }
@@ -75,7 +80,7 @@ std::string UsedAs(const Finding& finding, Language language) {
 std::string Suggestion(const Finding& finding, Language language) {
   constexpr Words kOpen = {"; did you mean \"", "；是否应为“"};
   constexpr Words kClose = {"\"?", "”？"};
-  if (!finding.fix || finding.fix->empty()) return {};
+  if (!finding.fix || finding.fix->empty() || Says(finding, "{fix}")) return {};
   return std::string(kOpen.In(language)) + ShownText(*finding.fix) + std::string(kClose.In(language));
 }
 
