@@ -47,6 +47,7 @@ struct Finding {
   std::optional<std::string> fix = {};  ///< What to write instead, as it would stand in the cell, UTF-8.
   std::vector<Word> words = {};         ///< Further pieces of the sentence.
   Object members = {};                  ///< Further members for programs.
+  std::string identity = {};  ///< What tells it from others of its code beside column and text; never shown.
 };
 
 /// Takes findings as they are made.
