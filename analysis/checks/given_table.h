@@ -1,0 +1,20 @@
+#pragma once
+
+// A table of a configuration as it was given: what a check looks at. Whoever reads files makes these.
+
+#include <optional>
+#include <string>
+
+#include "analysis/schema/role.h"
+#include "config/table.h"
+
+namespace plateconfig {
+
+struct GivenTable {
+  Role role;
+  std::string name;            ///< The file as the configuration names it, UTF-8.
+  bool exists = true;          ///< False for a file that is not there.
+  std::optional<Table> table;  ///< Nothing for a file that is missing, or can not be read.
+};
+
+}  // namespace plateconfig
