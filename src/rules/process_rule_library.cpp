@@ -14,7 +14,8 @@ using plateconfig::Plate;
 
 namespace {
 
-Plate MeasureBody(const BodyInfo& body, double weight) {
+/// The host's getters are not const everywhere.
+Plate MeasureBody(BodyInfo& body, double weight) {
   return {body.GetBodyLength(),
           body.GetBodyWide(),
           body.GetBodyHeight(),
