@@ -23,12 +23,12 @@ struct InclusionTexts {
 };
 
 // In the order of kHoleGroups.
-constexpr InclusionTexts kColorTexts[kHoleGroupCount] = {
+constexpr InclusionTexts kColorTexts[] = {
     {"topColorInclude", "no topColorInclude"},
     {"throughColorInclude", "no throughColorInclude"},
     {"bottomColorInclude", "no bottomColorInclude"},
 };
-constexpr InclusionTexts kDiameterTexts[kHoleGroupCount] = {
+constexpr InclusionTexts kDiameterTexts[] = {
     {"topDiaInclude", "no topDiaInclude"},
     {"throughDiaInclude", "no throughDiaInclude"},
     {"bottomDiaInclude", "no bottomDiaInclude"},
