@@ -45,9 +45,9 @@ std::string WithForwardSlashes(std::string_view path) {
 }
 
 std::string PosixPath(const std::string& path) {
-  const std::string exact = WithForwardSlashes(path);
+  std::string exact = WithForwardSlashes(path);
   if (Exists(exact)) return exact;
-  if (const std::string utf8 = GbkToUtf8(exact); Exists(utf8)) return utf8;
+  if (std::string utf8 = GbkToUtf8(exact); Exists(utf8)) return utf8;
   const std::size_t frontLength = Utf8FrontLength(path);
   const std::string front = Utf8WithForwardSlashes(path.substr(0, frontLength));
   const std::string rest = WithForwardSlashes(std::string_view(path).substr(frontLength));
