@@ -13,8 +13,9 @@
 
 class PLATECONFIG_API ColumnWidthManager {
  public:
-  /// Reads the table at the host path `path`. A missing or unreadable table names no column.
-  explicit ColumnWidthManager(const std::string& path);
+  /// Reads the table at the host path `path`, which converts implicitly: a path may stand for its widths. A
+  /// missing or unreadable table names no column.
+  ColumnWidthManager(const std::string& path);
 
   /// The width of the first column whose name (GBK) equals `name` exactly: its first data cell as `atoi`
   /// reads it (text that is no number is 0), or 100 for an empty cell, a table without data rows and an

@@ -1,5 +1,6 @@
 #include "holes/hole_log_sink.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -44,15 +45,20 @@ std::size_t CutLength(std::string_view text) {
   return length;
 }
 
-/// `format` is called only when the file can take its text.
-template <typename Format>
-void AppendLine(Format format) {
-  DiagnosticFile log(Diagnostic::kHoles);
-  if (!log.IsOpen()) return;
-  std::string line(format());
-  line.resize(CutLength(line));
-  log.Append(line.append("\n"));
-}
+/// The lines of one call, which reach the file when the object dies.
+class LogLines {
+ public:
+  explicit LogLines(DiagnosticFile& file) : file_(file) {}
+  ~LogLines() { file_.Append(text_); }
+  LogLines(const LogLines&) = delete;
+  LogLines& operator=(const LogLines&) = delete;
+
+  void Add(std::string_view line) { text_.append(line.substr(0, CutLength(line))).append("\n"); }
+
+ private:
+  DiagnosticFile& file_;
+  std::string text_;
+};
 
 std::string Number(double value) {
   return DoubleToString(value, kNumberDecimals);
@@ -63,17 +69,16 @@ std::string NumberedLine(std::string_view label, std::size_t at, double value) {
   return std::string(label).append("-").append(std::to_string(at + 1)).append(":\t").append(Number(value));
 }
 
-void LogType(const HoleTypeInfo& type) {
-  AppendLine([&] { return "name:" + type.name + "   content:" + type.content; });
-  for (std::size_t i = 0; i < type.bottomDiameter.size(); ++i) {
-    // Kept: these lines never showed a diameter, and whoever compares logs relies on the zero.
-    AppendLine([&] { return NumberedLine("bottomDiameter", i, 0); });
-  }
+void AddType(const HoleTypeInfo& type, LogLines& lines) {
+  lines.Add("name:" + type.name + "   content:" + type.content);
+  // Kept: these lines never showed a diameter, and whoever compares logs relies on the zero.
+  for (std::size_t i = 0; i < type.bottomDiameter.size(); ++i)
+    lines.Add(NumberedLine("bottomDiameter", i, 0));
 }
 
-void LogMeasuredDiameters(const std::vector<HoleInfo>& segments) {
+void AddMeasuredDiameters(const std::vector<HoleInfo>& segments, LogLines& lines) {
   for (std::size_t i = 0; i < segments.size(); ++i) {
-    AppendLine([&] { return NumberedLine("bDiams", i, MeasuredDiameter(segments[i])); });
+    lines.Add(NumberedLine("bDiams", i, MeasuredDiameter(segments[i])));
   }
 }
 
@@ -89,19 +94,25 @@ std::string ScoresLine(const Classification& result) {
   return line;
 }
 
-void LogInclusion(const InclusionTexts& texts, const GroupScore& group) {
-  AppendLine([&] { return group.allMatched ? texts.included : texts.notIncluded; });
+void AddInclusions(const InclusionTexts (&texts)[kHoleGroupCount],
+                   const std::array<GroupScore, kHoleGroupCount>& groups, LogLines& lines) {
+  for (std::size_t i = 0; i < kHoleGroupCount; ++i) {
+    lines.Add(groups[i].allMatched ? texts[i].included : texts[i].notIncluded);
+  }
 }
 
 }  // namespace
 
 void HoleLogSink::OnClassified(const CombHole& hole, const HoleTypeInfo& type, const Classification& result) {
-  LogType(type);
-  LogMeasuredDiameters(hole.bottomHoles);
-  AppendLine([&] { return ScoresLine(result); });
-  for (std::size_t i = 0; i < kHoleGroupCount; ++i) LogInclusion(kColorTexts[i], result.colors[i]);
-  for (std::size_t i = 0; i < kHoleGroupCount; ++i) LogInclusion(kDiameterTexts[i], result.diameters[i]);
-  AppendLine([&] { return result.Belongs() ? "属于"_gbk : "bu属于"_gbk; });
+  DiagnosticFile log(Diagnostic::kHoles);
+  if (!log.IsOpen()) return;
+  LogLines lines(log);
+  AddType(type, lines);
+  AddMeasuredDiameters(hole.bottomHoles, lines);
+  lines.Add(ScoresLine(result));
+  AddInclusions(kColorTexts, result.colors, lines);
+  AddInclusions(kDiameterTexts, result.diameters, lines);
+  lines.Add(result.Belongs() ? "属于"_gbk : "bu属于"_gbk);
 }
 
 }  // namespace plateconfig

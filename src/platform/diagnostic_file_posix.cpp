@@ -37,7 +37,7 @@ std::FILE* OpenPlatformDiagnosticFile(Diagnostic which) {
   const std::filesystem::path path = folder / DiagnosticFileName(which);
   int descriptor = OpenForAppending(path);
   if (descriptor < 0) {
-    // The folder is missing only once, while the file is opened for each line of some traces.
+    // The folder is missing only once, while the file is opened for each rule, plate and hole.
     std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
     std::filesystem::create_directories(folder, ignored);
     descriptor = OpenForAppending(path);

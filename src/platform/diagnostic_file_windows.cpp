@@ -5,7 +5,8 @@
 namespace plateconfig {
 
 std::FILE* OpenPlatformDiagnosticFile(Diagnostic which) {
-  return std::fopen((std::string("D:\\") + DiagnosticFileName(which)).c_str(), "a");
+  // Text mode, whatever mode the host has set for the files of its process.
+  return std::fopen((std::string("D:\\") + DiagnosticFileName(which)).c_str(), "at");
 }
 
 }  // namespace plateconfig

@@ -2,7 +2,8 @@
 
 // Files of the host's world: paths are narrow texts as a Chinese Windows spells them (code page 936,
 // backslashes). On other systems the path's separators are turned into slashes, and the file is looked for
-// under exactly these bytes first and then under the same name in UTF-8.
+// under exactly these bytes first and then under the same name in UTF-8. A path may begin in UTF-8, with
+// names that the code page lacks.
 
 #include <cstddef>
 #include <cstdio>

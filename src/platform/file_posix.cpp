@@ -1,15 +1,37 @@
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "platform/file.h"
 #include "platform/posix_path.h"
 #include "text/gbk.h"
 #include "text/gbk_scan.h"
+#include "text/utf8_decode.h"
 
 namespace plateconfig {
 namespace {
 
 bool Exists(const std::string& path) {
   return access(path.c_str(), F_OK) == 0;
+}
+
+/// The length of the path's beginning that is UTF-8: the whole path, or what stands before its last separator
+/// that has nothing but UTF-8 before it.
+std::size_t Utf8FrontLength(std::string_view path) {
+  std::size_t front = 0;
+  for (std::size_t at = 0; at < path.size();) {
+    const std::size_t length = DecodeUtf8At(path, at).length;
+    if (length == 0) return front;
+    if (path[at] == '\\') front = at;
+    at += length;
+  }
+  return path.size();
+}
+
+/// No character of UTF-8 but the backslash itself holds its byte.
+std::string Utf8WithForwardSlashes(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return path;
 }
 
 }  // namespace
@@ -25,8 +47,14 @@ std::string WithForwardSlashes(std::string_view path) {
 std::string PosixPath(const std::string& path) {
   std::string exact = WithForwardSlashes(path);
   if (Exists(exact)) return exact;
-  std::string utf8 = GbkToUtf8(exact);
-  return Exists(utf8) ? utf8 : exact;
+  if (std::string utf8 = GbkToUtf8(exact); Exists(utf8)) return utf8;
+  const std::size_t frontLength = Utf8FrontLength(path);
+  const std::string front = Utf8WithForwardSlashes(path.substr(0, frontLength));
+  const std::string rest = WithForwardSlashes(std::string_view(path).substr(frontLength));
+  for (const std::string& mixed : {front + rest, front + GbkToUtf8(rest)}) {
+    if (Exists(mixed)) return mixed;
+  }
+  return exact;
 }
 
 std::FILE* OpenHostFile(const std::string& path, const char* mode) {

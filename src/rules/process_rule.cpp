@@ -34,6 +34,7 @@ ProcessRule::ProcessRule(int number, RuleType type, const std::string& name, con
     : number_(number), name_(name), value_(value), type_(type) {}
 
 void ProcessRule::SetValue(const std::vector<int>& values) {
+  valid_ = false;  // First, so that an exception leaves no rule valid for the plate before.
   const std::vector<int> configured = VectorToInt(ParameterList(value_));
   Trace(type_, value_, configured);
   valid_ =
@@ -41,6 +42,7 @@ void ProcessRule::SetValue(const std::vector<int>& values) {
 }
 
 void ProcessRule::SetValue(const std::vector<double>& values) {
+  valid_ = false;
   const std::vector<double> configured = VectorToDouble(ParameterList(value_));
   const auto isNear = [](double a, double b) { return std::fabs(a - b) < kDiameterTolerance; };
   valid_ = std::find_first_of(values.begin(), values.end(), configured.begin(), configured.end(), isNear) !=

@@ -6,6 +6,7 @@
 
 #include "host/body_info.h"
 #include "rules/evaluation.h"
+#include "rules/rule_tables.h"
 #include "rules/trace_sink.h"
 
 using plateconfig::DiagnosticFile;
@@ -13,7 +14,8 @@ using plateconfig::Plate;
 
 namespace {
 
-Plate MeasureBody(const BodyInfo& body, double weight) {
+/// The host's getters are not const everywhere.
+Plate MeasureBody(BodyInfo& body, double weight) {
   return {body.GetBodyLength(),
           body.GetBodyWide(),
           body.GetBodyHeight(),
@@ -36,31 +38,32 @@ std::vector<int> FaceColors(NXOpen::Body* body) {
 }  // namespace
 
 ProcessRuleLibrary::ProcessRuleLibrary(const std::string& ruleTablePath, const std::string& settingsPath)
-    : tables_(plateconfig::LoadRuleTables(ruleTablePath, settingsPath)) {}
+    : tables_(std::make_shared<const plateconfig::RuleTables>(
+          plateconfig::LoadRuleTables(ruleTablePath, settingsPath))) {}
 
 bool ProcessRuleLibrary::IsSingleLine() const {
-  return tables_.singleLine;
+  return tables_->singleLine;
 }
 bool ProcessRuleLibrary::IsAppendAttribute() const {
-  return tables_.appendAttribute;
+  return tables_->appendAttribute;
 }
 std::string ProcessRuleLibrary::GetConnectText() const {
-  return tables_.connectText;
+  return tables_->connectText;
 }
 double ProcessRuleLibrary::GetLeftMargin() const {
-  return tables_.leftMargin;
+  return tables_->leftMargin;
 }
 double ProcessRuleLibrary::GetTopMargin() const {
-  return tables_.topMargin;
+  return tables_->topMargin;
 }
 int ProcessRuleLibrary::GetTextLayer() const {
-  return tables_.textLayer;
+  return tables_->textLayer;
 }
 std::string ProcessRuleLibrary::GetTextFont() const {
-  return tables_.textFont;
+  return tables_->textFont;
 }
 std::vector<ProcessRule> ProcessRuleLibrary::GetProcessRules() const {
-  return tables_.processRules;
+  return tables_->processRules;
 }
 
 std::string ProcessRuleLibrary::GetProcessInfo(BodyInfo* body, double weight,
@@ -71,5 +74,5 @@ std::string ProcessRuleLibrary::GetProcessInfo(BodyInfo* body, double weight,
   Plate plate = MeasureBody(*body, weight);
   trace->OnBody(plate);
   plate.faceColors = FaceColors(body->GetBody());
-  return plateconfig::EvaluatePlate(tables_, plate, rules, *trace);
+  return plateconfig::EvaluatePlate(*tables_, plate, rules, *trace);
 }

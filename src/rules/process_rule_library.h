@@ -8,22 +8,30 @@
 //   // ... feed each rule what is known of the plate ...
 //   std::string text = library.GetProcessInfo(&plate, weight, rules);
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "plateconfig_export.h"
 #include "rules/process_rule.h"
-#include "rules/rule_tables.h"
 
 class BodyInfo;
 
+namespace plateconfig {
+struct RuleTables;
+}
+
 /// Never changes after construction. Nothing is reported: a missing or unreadable table gives an empty
-/// library.
+/// library. Copies share what was loaded.
 class PLATECONFIG_API ProcessRuleLibrary {
  public:
   /// Loads the rule table and the process settings table (host paths). A missing settings key gives an empty
   /// text, 0 or false; yes is exactly "Y".
   ProcessRuleLibrary(const std::string& ruleTablePath, const std::string& settingsPath);
+
+  /// There is no moving: it would leave an object without its tables.
+  ProcessRuleLibrary(const ProcessRuleLibrary&) = default;
+  ProcessRuleLibrary& operator=(const ProcessRuleLibrary&) = default;
 
   /// True when the texts are to be placed as one line.
   bool IsSingleLine() const;
@@ -48,5 +56,5 @@ class PLATECONFIG_API ProcessRuleLibrary {
   std::string GetProcessInfo(BodyInfo* body, double weight, const std::vector<ProcessRule>& rules) const;
 
  private:
-  plateconfig::RuleTables tables_;
+  std::shared_ptr<const plateconfig::RuleTables> tables_;
 };

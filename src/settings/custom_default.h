@@ -17,7 +17,7 @@
 class PLATECONFIG_API CustomDefault {
  public:
   /// A text style, in a table one cell of six fields joined by "|". Empty until a cell is read.
-  struct NoteStyle {
+  struct PLATECONFIG_API NoteStyle {
     std::string fontName;
     double size = 0;
     double factor1 = 0;
@@ -27,7 +27,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// General spacing, mm.
-  struct NormalInfo {
+  struct PLATECONFIG_API NormalInfo {
     double explodedViewGap = 0;
     double explodedSubSheetGap = 0;
     double subSheetGap = 0;
@@ -36,13 +36,13 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// The sheet of the exploded view.
-  struct MainSheetInfo {
+  struct PLATECONFIG_API MainSheetInfo {
     double leftMargin = 0;
     double topMargin = 0;
     double viewGroupRatio = 0;  ///< Size of the view group to size of the frame.
   };
 
-  struct SubSheetInfo {
+  struct PLATECONFIG_API SubSheetInfo {
     double leftMargin = 0;
     double topMargin = 0;
     double viewGroupRatio = 0;
@@ -50,7 +50,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// Machining notes; the separators are the lines between their rows.
-  struct MachineInfo {
+  struct PLATECONFIG_API MachineInfo {
     double leftMarginLandscape = 0;
     double topMarginLandscape = 0;
     double leftMarginPortrait = 0;
@@ -61,13 +61,13 @@ class PLATECONFIG_API CustomDefault {
     NoteStyle noteStyle;
   };
 
-  struct MaterialInfo {
+  struct PLATECONFIG_API MaterialInfo {
     int layer = 0;
     NoteStyle style;
   };
 
   /// Feature codes.
-  struct FeatureMarkInfo {
+  struct PLATECONFIG_API FeatureMarkInfo {
     double angle = 0;  ///< Degrees.
     double distanceRatio = 0;
     int layer = 0;
@@ -75,7 +75,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// Codes of the sub-sheets.
-  struct SubSheetMarkInfo {
+  struct PLATECONFIG_API SubSheetMarkInfo {
     double leftMargin = 0;
     double topMargin = 0;
     int layer = 0;
@@ -83,14 +83,14 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// One row of the diameter table: holes between the bounds (both exclusive) are drawn with `drawDiameter`.
-  struct ThreadingHoleParam {
+  struct PLATECONFIG_API ThreadingHoleParam {
     double minDiameter = 0;
     double maxDiameter = 0;
     double drawDiameter = 0;
   };
 
   /// Threading holes, from which wire cutting starts.
-  struct ThreadingHoleInfo {
+  struct PLATECONFIG_API ThreadingHoleInfo {
     double slotSplitSize = 0;     ///< Separates the slot types.
     std::vector<int> slotColors;  ///< Colours that mark slots, in row order.
     std::vector<int> holeColors;  ///< Colours that mark holes, in row order.
@@ -103,7 +103,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// Notes of rounded corners, and the largest chamfers.
-  struct CharmferBlendInfo {
+  struct PLATECONFIG_API CharmferBlendInfo {
     double noteDistanceRatio = 0;
     int precision = 0;  ///< Decimals of the noted radius.
     int noteLayer = 0;
@@ -113,7 +113,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// Ball marks, the circled item numbers.
-  struct BallMarkInfo {
+  struct PLATECONFIG_API BallMarkInfo {
     double bottomMargin = 0;
     double topMargin = 0;
     double circleDiameter = 0;
@@ -124,7 +124,7 @@ class PLATECONFIG_API CustomDefault {
   };
 
   /// One attribute text of the drawing frame.
-  struct FrameInfo {
+  struct PLATECONFIG_API FrameInfo {
     double leftMargin = 0;
     double topMargin = 0;
     int layer = 0;

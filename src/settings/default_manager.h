@@ -19,7 +19,7 @@ class PLATECONFIG_API DefaultManager {
  public:
   /// A text style. In a table it is one cell of six fields joined by "|", in this order. The library only
   /// carries it; its numbers mean what the drawing makes of them.
-  struct NoteStyle {
+  struct PLATECONFIG_API NoteStyle {
     std::string fontName = "chinesef_fs";  ///< GBK
     double size = 3.0;
     double factor1 = 0.5;
@@ -29,7 +29,7 @@ class PLATECONFIG_API DefaultManager {
   };
 
   /// One column of the bill-of-materials header.
-  struct BomAttrInfo {
+  struct PLATECONFIG_API BomAttrInfo {
     double xRatio = 0.5;
     double yRatio = 0.5;
     std::string displayName;  ///< Caption, GBK.

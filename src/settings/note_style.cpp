@@ -11,10 +11,12 @@ namespace {
 constexpr std::size_t kFieldCount = 6;
 constexpr std::size_t kLongestNumber = 221;
 
-std::string Join(const NoteStyleFields& style, int decimals) {
+/// The fields of a style, its numbers as `toText` writes them.
+template <typename ToText>
+std::string Join(const NoteStyleFields& style, ToText toText) {
   std::string text = style.fontName;
   for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
-    text += "|" + DoubleToString(number, decimals).substr(0, kLongestNumber);
+    text += "|" + toText(number);
   }
   return text + "|" + IntToString(style.option);
 }
@@ -34,11 +36,11 @@ NoteStyleFields ParseNoteStyle(const std::string& cell) {
 }
 
 std::string WriteNoteStyle(const NoteStyleFields& style) {
-  return Join(style, 3);
+  return Join(style, [](double number) { return DoubleToString(number, 3).substr(0, kLongestNumber); });
 }
 
 std::string WriteWholeNoteStyle(const NoteStyleFields& style) {
-  return Join(style, 0);
+  return Join(style, [](double number) { return DoubleToString(number, 0); });
 }
 
 }  // namespace plateconfig

@@ -23,7 +23,7 @@ NoteStyleFields ParseNoteStyle(const std::string& cell);
 /// The cell of a style, its numbers with three decimals and cut to 221 characters.
 std::string WriteNoteStyle(const NoteStyleFields& style);
 
-/// The cell of a style, its numbers rounded to whole ones.
+/// The cell of a style, its numbers rounded to whole ones and never cut.
 std::string WriteWholeNoteStyle(const NoteStyleFields& style);
 
 }  // namespace plateconfig

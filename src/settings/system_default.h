@@ -20,13 +20,13 @@
 class PLATECONFIG_API SystemDefault {
  public:
   /// The number of decimals for faces of these colours.
-  struct DecimalRule {
+  struct PLATECONFIG_API DecimalRule {
     std::vector<int> colors;
     int decimals = 0;
   };
 
   /// Replaces a text for holes of these colours and diameters (mm).
-  struct ReplaceRule {
+  struct PLATECONFIG_API ReplaceRule {
     std::vector<int> colors;
     double minDiameter = 0;
     double maxDiameter = 0;
@@ -35,7 +35,7 @@ class PLATECONFIG_API SystemDefault {
   };
 
   /// Bodies that count: weight bounds and the most faces.
-  struct WeightRule {
+  struct PLATECONFIG_API WeightRule {
     double minWeight = 0;
     double maxWeight = 0;
     int maxFaceCount = 0;

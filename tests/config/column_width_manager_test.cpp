@@ -23,6 +23,15 @@ TEST(ColumnWidths, AreTheCellsOfTheFirstDataRow) {
   EXPECT_EQ(widths.GetColumnWidth(Gbk("材料")), 80);
 }
 
+int WidthOf(const ColumnWidthManager& widths, const std::string& name) {
+  return widths.GetColumnWidth(name);
+}
+
+TEST(ColumnWidths, APathStandsForItsTable) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(WidthOf(folder.WriteTable("widths.csv", "a,b\n40,50\n"), "b"), 50);
+}
+
 TEST(ColumnWidths, AnEmptyFirstCellReadsAs100) {
   const ColumnWidthManager widths = WidthsOf("a,b,c\n,50\n7,8,9\n");
   EXPECT_EQ(widths.GetColumnWidth("a"), 100);

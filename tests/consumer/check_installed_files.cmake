@@ -6,8 +6,8 @@ function(expect_file path)
 endfunction()
 
 set(headers ${INCLUDE}/plateconfig)
-foreach(header plateconfig.h plateconfig_export.h config/read_config_file.h host/body_info.h rules/process_rule.h holes/hole_type_info.h settings/system_default.h
-        host/standin/NXOpen/Body.hxx)
+foreach(header plateconfig.h plateconfig_export.h config/read_config_file.h rules/process_rule.h holes/hole_type_info.h
+        settings/system_default.h host/standin/host/body_info.h host/standin/NXOpen/Body.hxx)
   expect_file(${headers}/${header})
 endforeach()
 expect_file(${LIB}/cmake/plateconfig/plateconfigConfig.cmake)
@@ -25,7 +25,7 @@ else()
 endif()
 
 file(GLOB_RECURSE inside RELATIVE ${PREFIX} ${PREFIX}/${headers}/text/* ${PREFIX}/${headers}/platform/*
-     ${PREFIX}/${headers}/*.cpp ${PREFIX}/${headers}/uf.h)
+     ${PREFIX}/${headers}/*.cpp ${PREFIX}/${headers}/uf.h ${PREFIX}/${headers}/rules/rule_*.h)
 if(inside)
   message(SEND_ERROR "installed, but none of the interface's: ${inside}")
 endif()

@@ -14,6 +14,7 @@
 #include "platform/posix_path.h"
 #include "support/gbk_text.h"
 #include "support/temporary_folder.h"
+#include "text/gbk.h"
 
 namespace plateconfig::test {
 namespace {
@@ -77,6 +78,50 @@ TEST(PosixPathNames, OfExactlyTheseBytesComeFirst) {
   EXPECT_EQ(Read(path), "utf-8");
   WriteFile(path, "gbk");
   EXPECT_EQ(Read(path), "gbk");
+}
+
+// 한 is ED 95 9C in UTF-8, and the code page has no such character. Read as GBK, its last byte and a
+// backslash behind it are one character.
+
+TEST(PosixPathNames, InUtf8ThatGbkLacksKeepTheirSeparators) {
+  ASSERT_EQ(TryUtf8ToGbk("한"), std::nullopt);
+  ASSERT_TRUE(IsValidGbk("한\\"));
+  const TemporaryFolder folder;
+  folder.WriteBytes("한/b한/表.csv", "x");
+  const std::string path = folder.Path().string();
+  EXPECT_EQ(PosixPath(path + "\\한\\b한\\表.csv"), path + "/한/b한/表.csv");
+  EXPECT_EQ(Read(path + "\\한\\b한\\表.csv"), "x");
+  EXPECT_TRUE(FileExists(path + "\\한\\b한"));
+}
+
+TEST(PosixPathNames, InGbkBehindARootInUtf8AreFoundInBothSpellings) {
+  const TemporaryFolder folder;
+  folder.WriteBytes("한/標準誠/表.csv", "utf-8");
+  const std::string root = folder.Path().string() + "/한";
+  const std::string path = root + Gbk("\\標準誠\\表.csv");
+  EXPECT_EQ(Read(path), "utf-8");
+  std::filesystem::create_directories(root + "/" + Gbk("標準誠"));
+  WriteFile(root + "/" + Gbk("標準誠/表.csv"), "gbk");
+  EXPECT_EQ(Read(path), "gbk");
+}
+
+TEST(PosixPathNames, InGbkThatCouldAlsoBeUtf8AreReadAsGbk) {
+  // The two bytes of a character whose second one is the backslash, behind one with which it looks like 한.
+  const std::string name = "\xED\x95\x9C\\";
+  const TemporaryFolder folder;
+  const std::string path = folder.Path().string() + "/" + name + "a";
+  WriteFile(path, "gbk");
+  EXPECT_EQ(Read(path), "gbk");
+  std::filesystem::remove(path);
+  folder.WriteBytes(GbkToUtf8(name) + "a", "utf-8");
+  EXPECT_EQ(Read(path), "utf-8");
+}
+
+TEST(PosixPathNames, OfARootInUtf8ThatLeadNowhereStayAsTheyAre) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path().string() + "/한" + Gbk("/標準誠");
+  EXPECT_EQ(PosixPath(path), path);
+  EXPECT_FALSE(FileExists(path));
 }
 
 TEST(PosixPathNames, ThatExistInNeitherSpellingStayAsTheyAre) {

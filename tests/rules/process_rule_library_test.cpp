@@ -4,6 +4,7 @@
 #include <NXOpen/Body.hxx>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/body_info.h"
@@ -152,6 +153,14 @@ TEST_F(ProcessRuleLibraryTest, CopiesAreWholeAndOutliveTheOriginal) {
   BodyInfo plate(nullptr, 150, 80, 20, 9, 12);
   EXPECT_EQ(copy.GetProcessInfo(&plate, 10, FedRules(copy)), Gbk("drill→tap→grind"));
   EXPECT_EQ(copy.GetTextFont(), Gbk("仿宋"));
+}
+
+TEST_F(ProcessRuleLibraryTest, WhatWasMovedFromKeepsItsTables) {
+  ProcessRuleLibrary library = MakeLibrary(kRules, kSettings);
+  // NOLINTNEXTLINE(performance-move-const-arg): what a move does is what is asked.
+  const ProcessRuleLibrary taken = std::move(library);
+  EXPECT_EQ(taken.GetTextLayer(), 201);
+  EXPECT_EQ(library.GetTextLayer(), 201);  // NOLINT(bugprone-use-after-move)
 }
 
 }  // namespace

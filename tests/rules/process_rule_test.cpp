@@ -4,10 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "support/allocation_count.h"
 #include "support/diagnostic_folder.h"
 #include "support/gbk_text.h"
 
@@ -322,6 +324,29 @@ TEST(ProcessRuleTrace, AFileThatCanNotBeOpenedChangesNothing) {
   std::filesystem::create_directories(diagnostics.PathOf(Diagnostic::kRules));
   EXPECT_TRUE(IsValidForColors("36_211", {211}));
   EXPECT_FALSE(IsValidForColors("36_211", {6}));
+}
+
+/// Feeds a valid rule in a process that has no more memory.
+template <typename Values>
+bool IsValidAfterAFailure(ProcessRule rule, const Values& values) {
+  rule.SetValue(true);
+  bool hasFailed = false;
+  {
+    const AllocationLimit none(0);
+    try {
+      rule.SetValue(values);
+    } catch (const std::bad_alloc&) {
+      hasFailed = true;
+    }
+  }
+  EXPECT_TRUE(hasFailed);
+  return rule.IsValid();
+}
+
+TEST(ProcessRule, ThatCouldNotBeFedIsNotValid) {
+  const DiagnosticFolder diagnostics;
+  EXPECT_FALSE(IsValidAfterAFailure(MakeRule(ProcessRule::RoundHoleColor, "6"), Ints{6}));
+  EXPECT_FALSE(IsValidAfterAFailure(MakeRule(ProcessRule::RoundHoleDiameter, "6"), Doubles{6}));
 }
 
 }  // namespace

@@ -37,11 +37,12 @@ int main() {
   NXOpen::Face top(186);
   NXOpen::Face side(36);
   NXOpen::Body solid({&top, &side});
-  BodyInfo plate(&solid, 100, 50, 20, 3, 12);
+  BodyInfo plate(&solid, 20);
   const ProcessRuleLibrary library("no rules.csv", "no settings.csv");
   std::vector<ProcessRule> rules;
   library.GetProcessInfo(&plate, 1, rules);
-  ExpectCalls("a plate", {"GetFaces", "Color 186", "Color 36"});
+  ExpectCalls("a plate", {"GetBodyLength", "GetBodyWide", "GetBodyHeight", "GetBodyLayer", "GetBodyColor",
+                          "GetBody", "GetFaces", "Color 186", "Color 36"});
 
   if (failures == 0) std::printf("every call reached the second host\n");
   return failures;

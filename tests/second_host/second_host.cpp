@@ -5,6 +5,7 @@
 
 #include <NXOpen/Body.hxx>
 
+#include "host/body_info.h"
 #include "recorded_calls.h"
 #include "uf.h"
 
@@ -60,3 +61,35 @@ std::vector<Face*> Body::GetFaces() {
 }
 
 }  // namespace NXOpen
+
+BodyInfo::BodyInfo(NXOpen::Body* body, double thickness) : body_(body), thickness_(thickness) {}
+
+NXOpen::Body* BodyInfo::GetBody() {
+  Record("GetBody");
+  return body_;
+}
+
+double BodyInfo::GetBodyLength() {
+  Record("GetBodyLength");
+  return 100;
+}
+
+double BodyInfo::GetBodyWide() {
+  Record("GetBodyWide");
+  return 50;
+}
+
+double BodyInfo::GetBodyHeight() {
+  Record("GetBodyHeight");
+  return thickness_;
+}
+
+int BodyInfo::GetBodyLayer() {
+  Record("GetBodyLayer");
+  return 3;
+}
+
+int BodyInfo::GetBodyColor() {
+  Record("GetBodyColor");
+  return 12;
+}

@@ -103,6 +103,17 @@ TEST(NoteStyle, ALongNumberIsCutTo221Characters) {
   EXPECT_TRUE(number.starts_with("1000000000000000")) << number;
 }
 
+TEST(NoteStyle, TheOtherWriterCutsNoNumber) {
+  DefaultManager::NoteStyle style;
+  style.size = 1e300;
+  style.factor3 = -1e300;
+  const std::string cell = DefaultManager::FontStyleToString(style);
+  const std::string number = cell.substr(12, cell.find('|', 12) - 12);
+  EXPECT_EQ(number.size(), 301u);
+  EXPECT_TRUE(number.starts_with("1000000000000000")) << number;
+  EXPECT_TRUE(cell.ends_with("|-" + number + "|1")) << cell;
+}
+
 TEST(NoteStyle, NumbersThatAreNoneAreWrittenAsPrintfWritesThem) {
   DefaultManager::NoteStyle style;
   style.size = std::numeric_limits<double>::infinity();

@@ -2,11 +2,14 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 namespace {
 
 std::atomic<std::size_t> allocationCount = 0;
+constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
+thread_local std::size_t allocationsLeft = kUnlimited;
 
 }  // namespace
 
@@ -14,6 +17,8 @@ std::atomic<std::size_t> allocationCount = 0;
 // them; so the forms that share a delete are replaced together.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
   ++allocationCount;
+  if (allocationsLeft == 0) return nullptr;
+  if (allocationsLeft != kUnlimited) --allocationsLeft;
   return std::malloc(size == 0 ? 1 : size);
 }
 
@@ -38,6 +43,14 @@ namespace plateconfig::test {
 
 std::size_t AllocationCount() {
   return allocationCount;
+}
+
+AllocationLimit::AllocationLimit(std::size_t further) {
+  allocationsLeft = further;
+}
+
+AllocationLimit::~AllocationLimit() {
+  allocationsLeft = kUnlimited;
 }
 
 }  // namespace plateconfig::test

@@ -51,6 +51,21 @@ TEST(FolderCommand, PrintsTheActiveFolderAndTheWayToIt) {
   EXPECT_THAT(result.err, IsEmpty());
 }
 
+#ifndef _WIN32
+TEST(FolderCommand, ShowsARootThatTheCodePageCanNotSpell) {
+  const test::TemporaryFolder files;
+  const std::string root = files.Path().string() + "/한";
+  files.WriteTable("한/config/standard.csv", "文件夹名称,有效配置\n标准,Y\n");
+  files.WriteBytes("한/config/标准/x", "");
+  const test::ScopedVariable variable("TQConfig", root);
+  const auto result = RunPlateconfig({"folder"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.out, root + "/config/标准\n  TQConfig = " + root + "\n  index " + root +
+                            "/config/standard.csv\n    标准  \"Y\"  active\n");
+  EXPECT_THAT(result.err, IsEmpty());
+}
+#endif
+
 TEST(FolderCommand, SpeaksChinese) {
   const Root root;
   root.WriteIndex("标准,Y\n精密模,N\n");

@@ -27,7 +27,9 @@ std::string Utf8FromHostPath(std::string_view path) {
 }
 
 std::string ShownPath(const std::string& libraryPath) {
-  return GbkToUtf8(WithForwardSlashes(libraryPath));
+  // A root that the code page can not spell stays in UTF-8 within the library.
+  const std::string path = PosixPath(libraryPath);
+  return IsValidUtf8(path) ? path : GbkToUtf8(path);
 }
 
 std::string SystemLocaleName() {
