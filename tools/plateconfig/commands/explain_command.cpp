@@ -36,7 +36,7 @@ const ConditionName& NamesOf(Condition condition) {
 }
 
 std::string ShownName(Condition condition) {
-  return Say(NamesOf(condition).english, NamesOf(condition).chinese);
+  return SayPlain(NamesOf(condition).english, NamesOf(condition).chinese);
 }
 
 /// Ten digits: enough for every size, and too few for the noise of a subtraction.

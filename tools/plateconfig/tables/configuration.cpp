@@ -103,8 +103,8 @@ void Configuration::ReadManifest() {
   JsonNode root;
   if (!ParseJson(WithoutByteOrderMark(bytes->View()), {manifest.shownAs, 1, 1}, reporter_, root)) return;
   if (root.kind != JsonNode::Kind::kObject) {
-    reporter_.Error(root.place, Say("the manifest should be an object { role: file name, … }",
-                                    "清单应当是一个对象 { 角色: 文件名, … }"));
+    reporter_.Error(root.place, Say("the manifest should be an object {{ role: file name, … }}",
+                                    "清单应当是一个对象 {{ 角色: 文件名, … }}"));
     return;
   }
   isUsable_ = true;
