@@ -28,8 +28,8 @@ std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
       std::move(more.begin(), more.end(), std::back_inserter(types));
       return more.size();
     };
-    VisitInput(file, context, read,
-               Say("no hole type was read from this file", "没有从此文件读到任何孔类型"));
+    VisitInput({file, Say("no hole type was read from this file", "没有从此文件读到任何孔类型")},
+               context.streams, context.reporter, read);
   }
   return types;
 }
@@ -51,7 +51,8 @@ class HoleLoop {
       }
       return count;
     };
-    VisitInput(file, context_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
+    VisitInput({file, Say("no hole was read from this file", "没有从此文件读到任何孔")}, context_.streams,
+               context_.reporter, read);
   }
 
  private:

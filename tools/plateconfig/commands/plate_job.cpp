@@ -47,12 +47,11 @@ class PlateLoop {
 
  private:
   void VisitFile(const std::string& file) {
-    VisitInput(
-        file, context_,
-        [this](std::istream& in, const std::string& shownAs, Progress& progress) {
-          return Visit(in, shownAs, progress);
-        },
-        Say("no plate was read from this file", "没有从此文件读到任何板"));
+    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+      return Visit(in, shownAs, progress);
+    };
+    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context_.streams,
+               context_.reporter, read);
   }
 
   std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {
