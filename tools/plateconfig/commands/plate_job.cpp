@@ -5,6 +5,7 @@
 #include <set>
 
 #include "analysis/rules/feed_rules.h"
+#include "plateconfig/commands/options.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/shown_text.h"
