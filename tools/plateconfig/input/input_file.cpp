@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "plateconfig/messages/language.h"
+#include "plateconfig/system/file_kind.h"
 
 namespace plateconfig {
 namespace {
@@ -33,7 +34,7 @@ void VisitInput(const InputFile& file, const Streams& streams, Reporter& reporte
     return Visit({streams.in, Say("standard input", "标准输入"), 0, file.nothingRead}, streams, reporter,
                  read);
   }
-  const std::filesystem::path path(std::u8string(name.begin(), name.end()));
+  const std::filesystem::path path = PathFromUtf8(name);
   std::error_code error;
   if (std::filesystem::is_directory(path, error)) {
     return reporter.Error({name}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
