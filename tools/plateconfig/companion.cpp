@@ -5,10 +5,11 @@
 #include <CLI/Formatter.hpp>
 #include <algorithm>
 
-#include "plateconfig/commands/command.h"
-#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/commands/options.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/reporter.h"
+#include "plateconfig/usage_message.h"
 #include "platform/diagnostic_file.h"
 
 namespace plateconfig {
@@ -45,8 +46,6 @@ void TranslateLabels(CLI::App& app) {
   constexpr std::size_t kOptionWidth = 34;
   formatter->column_width(kOptionWidth);
   app.option_defaults()->group(Say("Options", "选项"));
-  app.failure_message(
-      [](const CLI::App* root, const CLI::Error& error) { return UsageMessage(*root, error); });
 }
 
 std::string Footer() {
@@ -59,6 +58,10 @@ std::string Footer() {
       "示例：plateconfig explain --config samples/config/标准 samples/plates.csv");
 }
 
+void AddHelp(CLI::App& app) {
+  app.set_help_flag("-h,--help", Say("print this help and stop", "显示帮助"));
+}
+
 /// The command line: what it describes, and what was chosen on it.
 struct CommandLine {
   CommandLine()
@@ -67,7 +70,7 @@ struct CommandLine {
             "plateconfig") {
     TranslateLabels(app);
     app.allow_windows_style_options(false);  // A leading slash is a path everywhere.
-    app.set_help_flag("-h,--help", HelpDescription());
+    AddHelp(app);
     app.set_version_flag("--version", PLATECONFIG_VERSION, Say("print the version and stop", "显示版本"));
     app.require_subcommand(1);
     app.fallthrough();
@@ -78,32 +81,36 @@ struct CommandLine {
     app.add_option(kLanguageOption, language, Say("language of the output: en or zh", "输出语言：en 或 zh"))
         ->check(OneOf({"en", "zh"}))
         ->type_name("en|zh");
-    AddFolderCommand(app, verb);
-    AddProcessCommand(app, verb);
-    AddExplainCommand(app, verb);
-    AddHolesCommand(app, verb);
-    AddShowCommand(app, verb);
-    AddSchemaCommand(app, verb);
-    AddTemplateCommand(app, verb);
+    for (const Verb& verb : Verbs()) Add(verb);
   }
 
   CLI::App app;
   std::string format = "text";
   std::string language;
-  Verb verb;
+  Run run;  ///< What the chosen verb does.
+
+ private:
+  void Add(const Verb& verb) {
+    CLI::App* command = app.add_subcommand(verb.name, SayPlain(verb.english, verb.chinese));
+    command->group(Say("Verbs", "命令"));
+    AddHelp(*command);
+    command->callback([this, added = verb.addOptions(*command)] { run = added; });
+  }
 };
 
 /// Parses; false with the exit code set when there is nothing to run.
-bool Parse(CommandLine& line, std::vector<std::string> arguments, const Streams& streams, int& exitCode) {
-  std::reverse(arguments.begin(), arguments.end());  // The parser takes them from the end.
+bool Parse(CommandLine& line, const std::vector<std::string>& arguments, const Streams& streams,
+           int& exitCode) {
   try {
-    line.app.parse(arguments);
+    line.app.parse(std::vector(arguments.rbegin(), arguments.rend()));  // The parser takes them from the end.
     return true;
+  } catch (const CLI::Success& help) {
+    exitCode = line.app.exit(help, streams.out, streams.err);
   } catch (const CLI::ParseError& error) {
-    const int code = line.app.exit(error, streams.out, streams.err);
-    exitCode = code == 0 ? kFine : kUnusable;
-    return false;
+    streams.err << UsageMessage(line.app, error, arguments) << std::flush;
+    exitCode = kUnusable;
   }
+  return false;
 }
 
 }  // namespace
@@ -117,7 +124,7 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
   Reporter reporter(streams.err);
   if (Parse(line, arguments, streams, exitCode)) {
     Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
-    line.verb(context);
+    line.run(context);
   }
   streams.out.flush();
   if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));

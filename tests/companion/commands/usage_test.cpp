@@ -1,5 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <CLI/App.hpp>
+#include <set>
+
+#include "plateconfig/commands/verbs.h"
 #include "support/companion.h"
 
 namespace plateconfig {
@@ -11,24 +15,142 @@ using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
 using ::testing::Not;
 
+using Words = std::vector<std::string>;
+
+/// A verb's options as the parser has them, without those that all verbs share.
+struct VerbOptions {
+  explicit VerbOptions(const Verb& verb) {
+    parser.set_help_flag();
+    verb.addOptions(parser);
+  }
+
+  Words LongNames() const {
+    Words names;
+    for (const CLI::Option* option : parser.get_options()) {
+      for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+    }
+    return names;
+  }
+
+  CLI::App parser;
+};
+
+/// The verb with everything that it requires. What stands there is a role, so that it is right for each verb.
+Words Complete(const Verb& verb) {
+  Words words = {verb.name};
+  const VerbOptions options(verb);
+  for (const CLI::Option* option : options.parser.get_options()) {
+    if (!option->get_required()) continue;
+    if (!option->get_positional()) words.push_back(option->get_name());
+    words.push_back("layers");
+  }
+  return words;
+}
+
+Words operator+(Words words, const Words& further) {
+  words.insert(words.end(), further.begin(), further.end());
+  return words;
+}
+
+/// The first line that a wrong command line gives; it says nothing but that, and exits with 2.
+std::string Complaint(const Words& arguments) {
+  const auto result = RunPlateconfig(arguments);
+  EXPECT_EQ(result.exitCode, 2) << ::testing::PrintToString(arguments);
+  EXPECT_THAT(result.out, IsEmpty()) << ::testing::PrintToString(arguments);
+  return result.err.substr(0, result.err.find('\n'));
+}
+
 TEST(Usage, HelpGoesToTheOutputAndIsFine) {
   for (const char* flag : {"--help", "-h"}) {
     const auto result = RunPlateconfig({flag});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.err, IsEmpty());
-    for (const char* word : {"folder", "process", "explain", "--format", "--lang", "Exit code"})
+    for (const char* word : {"folder", "--format", "--lang", "Exit code"})
       EXPECT_THAT(result.out, HasSubstr(word));
   }
 }
 
-TEST(Usage, EveryVerbHasItsOwnHelp) {
-  for (const char* verb : {"folder", "process", "explain"}) {
-    const auto result = RunPlateconfig({verb, "--help"});
-    EXPECT_EQ(result.exitCode, 0) << verb;
-    EXPECT_THAT(result.out, HasSubstr(verb));
+TEST(Usage, TheHelpListsTheVerbsInTheOrderOfTheTable) {
+  const std::string english = RunPlateconfig({"--help"}).out;
+  const std::string chinese = RunPlateconfig({"--help", "--lang", "zh"}).out;
+  std::size_t inEnglish = 0;
+  std::size_t inChinese = 0;
+  for (const Verb& verb : Verbs()) {
+    inEnglish = english.find(verb.english, english.find("\n  " + std::string(verb.name) + " ", inEnglish));
+    inChinese = chinese.find(verb.chinese, chinese.find("\n  " + std::string(verb.name) + " ", inChinese));
+    EXPECT_NE(inEnglish, std::string::npos) << verb.name;
+    EXPECT_NE(inChinese, std::string::npos) << verb.name;
   }
-  for (const char* option : {"--config", "--process-rules", "--process-settings"})
-    EXPECT_THAT(RunPlateconfig({"process", "--help"}).out, HasSubstr(option));
+}
+
+TEST(Usage, EveryVerbHasItsOwnHelpInBothLanguages) {
+  for (const Verb& verb : Verbs()) {
+    const auto english = RunPlateconfig({verb.name, "--help"});
+    const auto chinese = RunPlateconfig({"--lang", "zh", verb.name, "-h"});
+    EXPECT_EQ(english.exitCode, 0) << verb.name;
+    EXPECT_EQ(chinese.exitCode, 0) << verb.name;
+    EXPECT_THAT(english.err + chinese.err, IsEmpty()) << verb.name;
+    EXPECT_THAT(english.out, HasSubstr(verb.english));
+    EXPECT_THAT(chinese.out, HasSubstr(verb.chinese));
+    for (const std::string& option : VerbOptions(verb).LongNames()) {
+      EXPECT_THAT(english.out, HasSubstr(option)) << verb.name;
+      EXPECT_THAT(chinese.out, HasSubstr(option)) << verb.name;
+    }
+  }
+}
+
+TEST(Usage, NoTwoVerbsShareAName) {
+  std::set<std::string> names;
+  for (const Verb& verb : Verbs()) EXPECT_TRUE(names.insert(verb.name).second) << verb.name;
+  EXPECT_GE(names.size(), 7u);
+}
+
+TEST(Usage, EveryVerbRefusesAMisspelledOptionWithTheNearestOne) {
+  for (const Verb& verb : Verbs()) {
+    for (const std::string& option : VerbOptions(verb).LongNames() + Words{"--format", "--lang", "--help"}) {
+      const std::string wrong = option + "x";
+      EXPECT_EQ(Complaint(Complete(verb) + Words{wrong}),
+                "plateconfig: error: there is no option " + wrong + "; did you mean \"" + option + "\"?");
+      EXPECT_EQ(Complaint(Words{"--lang", "zh"} + Complete(verb) + Words{wrong}),
+                "plateconfig: error: 没有选项 " + wrong + "；是否应为“" + option + "”？");
+    }
+  }
+}
+
+TEST(Usage, EveryVerbRefusesAnOptionThatIsLikeNoOther) {
+  for (const Verb& verb : Verbs()) {
+    EXPECT_EQ(Complaint(Complete(verb) + Words{"--zzzzzzzz=1"}),
+              "plateconfig: error: there is no option --zzzzzzzz=1");
+  }
+}
+
+TEST(Usage, EveryVerbNamesWhatItRequires) {
+  for (const Verb& verb : Verbs()) {
+    const Words complete = Complete(verb);
+    if (complete.size() == 1) continue;
+    EXPECT_THAT(Complaint({verb.name}), ::testing::EndsWith(" is required"));
+    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}), HasSubstr("error: 缺少必需的 "));
+  }
+}
+
+TEST(Usage, EveryOptionOfEveryVerbWantsItsValueAndWantsItOnce) {
+  for (const Verb& verb : Verbs()) {
+    const VerbOptions options(verb);
+    for (const CLI::Option* option : options.parser.get_options()) {
+      if (option->get_positional() || option->get_items_expected_max() == 0) continue;
+      const std::string name = option->get_name();
+      EXPECT_EQ(Complaint(Complete(verb) + Words{name}),
+                "plateconfig: error: the value behind " + name + " is missing");
+      EXPECT_EQ(Complaint(Complete(verb) + Words{"--lang", "zh", name + "="}),
+                "plateconfig: error: " + name + " 之后缺少值");
+      if (option->get_items_expected_max() > 1) continue;
+      // The first of several values, or any name of a file.
+      const std::string type = option->get_type_name();
+      const std::string given = name + "=" + type.substr(0, type.find('|'));
+      EXPECT_EQ(Complaint(Complete(verb) + Words{given, given}),
+                "plateconfig: error: " + name + " is given more than once");
+    }
+  }
 }
 
 TEST(Usage, HelpSpeaksChineseWhenAskedTo) {
@@ -66,12 +188,6 @@ TEST(Usage, EveryWrongCommandLineExitsWithTwoAndSaysSo) {
   }
 }
 
-/// The first line that a wrong command line gives.
-std::string Complaint(const std::vector<std::string>& arguments) {
-  const std::string err = RunPlateconfig(arguments).err;
-  return err.substr(0, err.find('\n'));
-}
-
 TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
   EXPECT_EQ(Complaint({"folde"}), "plateconfig: error: there is no verb \"folde\"; did you mean \"folder\"?");
   EXPECT_EQ(Complaint({"process", "a.csv", "--foramt", "json"}),
@@ -94,6 +210,23 @@ TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({"--format", "json", "folder", "--format", "text"}),
             "plateconfig: error: --format is given more than once");
   EXPECT_EQ(Complaint({"show", "--config", ""}), "plateconfig: error: --config: the value is empty");
+}
+
+TEST(Usage, TheLastArgumentIsMissingItsValueOnlyWhenItIsNoValueItself) {
+  const std::string missing = "plateconfig: error: the value behind --config is missing";
+  EXPECT_EQ(Complaint({"show", "--config", "--config", "--config"}), missing);
+  // Two mistakes: the parser meets the end first.
+  EXPECT_EQ(Complaint({"show", "--format", "json", "--format", "text", "--config"}), missing);
+  const std::string repeated = "plateconfig: error: --format is given more than once";
+  EXPECT_EQ(Complaint({"show", "--format", "json", "--format", "text", "--config", "--config"}), repeated);
+  EXPECT_EQ(Complaint({"show", "--format", "json", "--format", "text", "--lang=en"}), repeated);
+  EXPECT_EQ(Complaint({"folder", "--format", "json", "--format", "text", ""}), repeated);
+  EXPECT_EQ(Complaint({"--lang", "en", "holes", "--types", "a", "b", "--lang", "en", "--explain"}),
+            "plateconfig: error: --lang is given more than once");
+  EXPECT_EQ(Complaint({"template", "layers", "-o"}),
+            "plateconfig: error: the value behind --output is missing");
+  EXPECT_EQ(Complaint({"template", "layers", "-ho"}),
+            "plateconfig: error: the value behind --output is missing");
 }
 
 TEST(Usage, AWrongCommandLineIsToldInChineseToo) {

@@ -26,9 +26,16 @@ TEST_F(LanguageTest, FillsThePlacesOfBothTexts) {
   EXPECT_EQ(Say("{} plates of {}", "{1} 的 {0} 块板", 3, "x"), "x 的 3 块板");
 }
 
-TEST_F(LanguageTest, BracesOfATextWithoutPlacesStandAsTheyAre) {
-  SetLanguage(Language::kEnglish);
-  EXPECT_EQ(Say("an object { … }", "对象 { … }"), "an object { … }");
+TEST_F(LanguageTest, ABraceIsWrittenTwice) {
+  EXPECT_EQ(Say("an object {{ … }}", "对象 {{ … }}"), "an object { … }");
+  SetLanguage(Language::kChinese);
+  EXPECT_EQ(Say("an object {{ … }}", "对象 {{ … }}"), "对象 { … }");
+}
+
+TEST_F(LanguageTest, APlainTextStandsAsItIs) {
+  EXPECT_EQ(SayPlain("a {} b {{", "甲 {}"), "a {} b {{");
+  SetLanguage(Language::kChinese);
+  EXPECT_EQ(SayPlain("a {} b {{", "甲 {}"), "甲 {}");
 }
 
 TEST_F(LanguageTest, BracesOfAnArgumentAreNoPlaces) {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "analysis/rules/explanation.h"
-#include "plateconfig/commands/command.h"
 #include "plateconfig/commands/plate_job.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "text/gbk.h"
@@ -37,7 +37,7 @@ const ConditionName& NamesOf(Condition condition) {
 }
 
 std::string ShownName(Condition condition) {
-  return Say(NamesOf(condition).english, NamesOf(condition).chinese);
+  return SayPlain(NamesOf(condition).english, NamesOf(condition).chinese);
 }
 
 /// Ten digits: enough for every size, and too few for the noise of a subtraction.
@@ -170,13 +170,10 @@ void RunExplain(const PlateJob& job, Context& context) {
 
 }  // namespace
 
-void AddExplainCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(app, "explain",
-                              Say("tell for each plate which rule row fits, and why none before it does",
-                                  "说明每块板符合哪一规则行，以及之前各行为何不符合"));
+Run ExplainOptions(CLI::App& command) {
   const auto job = std::make_shared<PlateJob>();
-  AddPlateOptions(*command, *job);
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunExplain(*job, context); }; });
+  AddPlateOptions(command, *job);
+  return [job](Context& context) { RunExplain(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -3,7 +3,7 @@
 
 #include "config/configuration_index.h"
 #include "config/table.h"
-#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/system/console.h"
@@ -88,11 +88,8 @@ void RunFolder(Context& context) {
 
 }  // namespace
 
-void AddFolderCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(app, "folder",
-                              Say("print the active configuration folder that TQConfig leads to, and why",
-                                  "显示 TQConfig 所指的有效配置文件夹及其由来"));
-  command->callback([&chosen] { chosen = RunFolder; });
+Run FolderOptions(CLI::App&) {
+  return RunFolder;
 }
 
 }  // namespace plateconfig

@@ -3,7 +3,7 @@
 #include <memory>
 #include <optional>
 
-#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/holes/hole_answer.h"
 #include "plateconfig/holes/hole_output.h"
 #include "plateconfig/holes/hole_reader.h"
@@ -28,8 +28,8 @@ std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
       std::move(more.begin(), more.end(), std::back_inserter(types));
       return more.size();
     };
-    VisitInput(file, context, read,
-               Say("no hole type was read from this file", "没有从此文件读到任何孔类型"));
+    VisitInput({file, Say("no hole type was read from this file", "没有从此文件读到任何孔类型")},
+               context.streams, context.reporter, read);
   }
   return types;
 }
@@ -51,7 +51,8 @@ class HoleLoop {
       }
       return count;
     };
-    VisitInput(file, context_, read, Say("no hole was read from this file", "没有从此文件读到任何孔"));
+    VisitInput({file, Say("no hole was read from this file", "没有从此文件读到任何孔")}, context_.streams,
+               context_.reporter, read);
   }
 
  private:
@@ -76,29 +77,25 @@ void RunHoles(const HoleJob& job, Context& context) {
 
 }  // namespace
 
-void AddHolesCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command =
-      AddVerb(app, "holes",
-              Say("list for each combined hole the types that it belongs to, with their scores, best first",
-                  "列出每个组合孔所属的类型及其得分，得分最高者在前"));
+Run HolesOptions(CLI::App& command) {
   const auto job = std::make_shared<HoleJob>();
   command
-      ->add_option("--types", job->typeFiles,
-                   Say("hole types: a CSV file (GBK or UTF-8) or a JSON file; may be given several times",
-                       "孔类型：CSV 文件（GBK 或 UTF-8）或 JSON 文件；可重复使用"))
+      .add_option("--types", job->typeFiles,
+                  Say("hole types: a CSV file (GBK or UTF-8) or a JSON file; may be given several times",
+                      "孔类型：CSV 文件（GBK 或 UTF-8）或 JSON 文件；可重复使用"))
       ->type_name(Say("FILE", "文件"))
       ->allow_extra_args(false)
       ->required();
-  command->add_flag("--explain", job->explains,
-                    Say("add the verdict on each segment, and the types that refuse the hole",
-                        "同时说明每一段的判定，以及不接受此孔的类型"));
+  command.add_flag("--explain", job->explains,
+                   Say("add the verdict on each segment, and the types that refuse the hole",
+                       "同时说明每一段的判定，以及不接受此孔的类型"));
   command
-      ->add_option("holes", job->files,
-                   Say("combined holes: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
-                       "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      .add_option("holes", job->files,
+                  Say("combined holes: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                      "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
       ->required();
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunHoles(*job, context); }; });
+  return [job](Context& context) { RunHoles(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -7,6 +7,7 @@
 #include "analysis/rules/feed_rules.h"
 #include "analysis/text/shown_text.h"
 #include "analysis/text/similar_name.h"
+#include "plateconfig/commands/options.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/tables/full_schema.h"
@@ -47,12 +48,11 @@ class PlateLoop {
 
  private:
   void VisitFile(const std::string& file) {
-    VisitInput(
-        file, context_,
-        [this](std::istream& in, const std::string& shownAs, Progress& progress) {
-          return Visit(in, shownAs, progress);
-        },
-        Say("no plate was read from this file", "没有从此文件读到任何板"));
+    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
+      return Visit(in, shownAs, progress);
+    };
+    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context_.streams,
+               context_.reporter, read);
   }
 
   std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {

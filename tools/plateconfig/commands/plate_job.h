@@ -6,8 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/plates/plate_reader.h"
+#include "plateconfig/tables/configuration.h"
 #include "rules/rule_tables.h"
 
 namespace plateconfig {

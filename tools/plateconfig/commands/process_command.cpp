@@ -1,8 +1,8 @@
 #include <memory>
 #include <optional>
 
-#include "plateconfig/commands/command.h"
 #include "plateconfig/commands/plate_job.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "rules/evaluation.h"
@@ -50,12 +50,10 @@ void RunProcess(const PlateJob& job, Context& context) {
 
 }  // namespace
 
-void AddProcessCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(
-      app, "process", Say("print the manufacturing-process text of each plate", "输出每块板的制造工艺文本"));
+Run ProcessOptions(CLI::App& command) {
   const auto job = std::make_shared<PlateJob>();
-  AddPlateOptions(*command, *job);
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunProcess(*job, context); }; });
+  AddPlateOptions(command, *job);
+  return [job](Context& context) { RunProcess(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -1,8 +1,8 @@
 #include <memory>
 #include <sstream>
 
-#include "plateconfig/commands/command.h"
-#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/commands/options.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/output/output_file.h"
@@ -136,17 +136,14 @@ void RunSchema(const SchemaJob& job, Context& context) {
 
 }  // namespace
 
-void AddSchemaCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(app, "schema",
-                              Say("print every table and column that the library reads, with defaults",
-                                  "列出库读取的所有表和列及其默认值"));
+Run SchemaOptions(CLI::App& command) {
   const auto job = std::make_shared<SchemaJob>();
-  command->add_option("--format", job->format, Say("text, json or markdown", "text、json 或 markdown"))
+  command.add_option("--format", job->format, Say("text, json or markdown", "text、json 或 markdown"))
       ->check(OneOf({"text", "json", "markdown"}))
       ->type_name("text|json|markdown");
-  command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
+  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunSchema(*job, context); }; });
+  return [job](Context& context) { RunSchema(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -2,8 +2,8 @@
 #include <memory>
 
 #include "config/numbers.h"
-#include "plateconfig/commands/command.h"
-#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/commands/options.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/tables/schema_words.h"
@@ -139,18 +139,15 @@ std::vector<Role> AllRoles() {
 
 }  // namespace
 
-void AddShowCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(app, "show",
-                              Say("print every setting of a configuration, and where it comes from",
-                                  "显示配置中的每一项设置及其来源"));
+Run ShowOptions(CLI::App& command) {
   const auto job = std::make_shared<ShowJob>();
-  AddConfigurationOptions(*command, AllRoles(), job->configuration);
+  AddConfigurationOptions(command, AllRoles(), job->configuration);
   const std::vector<std::string> names(kRoleNames.begin(), kRoleNames.end());
-  command->add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
+  command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
       ->check(OneOf(names));
-  AddRolesToHelp(*command, names);
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunShow(*job, context); }; });
+  AddRolesToHelp(command, names);
+  return [job](Context& context) { RunShow(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -1,7 +1,7 @@
 #include <memory>
 
-#include "plateconfig/commands/command.h"
-#include "plateconfig/commands/usage_message.h"
+#include "plateconfig/commands/options.h"
+#include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/output_file.h"
 #include "plateconfig/tables/full_schema.h"
@@ -32,20 +32,17 @@ std::vector<std::string> RoleNames() {
 
 }  // namespace
 
-void AddTemplateCommand(CLI::App& app, Verb& chosen) {
-  CLI::App* command = AddVerb(app, "template",
-                              Say("write a table with all columns of a role and their defaults (GBK, CR LF)",
-                                  "写出某一角色的表，含全部列及默认值（GBK，CR LF）"));
+Run TemplateOptions(CLI::App& command) {
   const auto job = std::make_shared<TemplateJob>();
-  command->add_option("role", job->role, Say("the role of the table", "表的角色"))
+  command.add_option("role", job->role, Say("the role of the table", "表的角色"))
       ->type_name(Say("ROLE", "角色"))
       ->required()
       ->check(OneOf(RoleNames()));
-  AddRolesToHelp(*command, RoleNames());
-  command->add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
+  AddRolesToHelp(command, RoleNames());
+  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
       ->type_name(Say("FILE", "文件"));
-  command->add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
-  command->callback([job, &chosen] { chosen = [job](Context& context) { RunTemplate(*job, context); }; });
+  command.add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
+  return [job](Context& context) { RunTemplate(*job, context); };
 }
 
 }  // namespace plateconfig

@@ -7,8 +7,9 @@
 #include <istream>
 #include <string>
 
-#include "plateconfig/commands/command.h"
 #include "plateconfig/input/progress.h"
+#include "plateconfig/messages/reporter.h"
+#include "plateconfig/system/streams.h"
 
 namespace plateconfig {
 
@@ -17,9 +18,12 @@ namespace plateconfig {
 using ReadInput =
     std::function<std::size_t(std::istream& in, const std::string& shownAs, Progress& progress)>;
 
-/// Opens the input (UTF-8; "-" is standard input) and has it read. One that can not be opened or read is an
-/// error; `nothingRead` is the warning for one that holds nothing.
-void VisitInput(const std::string& file, Context& context, const ReadInput& read,
-                const std::string& nothingRead);
+struct InputFile {
+  std::string name;         ///< UTF-8; "-" is standard input.
+  std::string nothingRead;  ///< The warning for one that holds nothing.
+};
+
+/// Opens the input and has it read. One that can not be opened or read is an error.
+void VisitInput(const InputFile& file, const Streams& streams, Reporter& reporter, const ReadInput& read);
 
 }  // namespace plateconfig

@@ -50,7 +50,7 @@ bool JsonValues::IsArray(const JsonNode& node) {
 }
 
 bool JsonValues::IsObject(const JsonNode& node) {
-  return Expect(node, JsonNode::Kind::kObject, Say("an object { … }", "对象 { … }"));
+  return Expect(node, JsonNode::Kind::kObject, Say("an object {{ … }}", "对象 {{ … }}"));
 }
 
 void JsonValues::Read(const JsonNode& node, bool& value) {

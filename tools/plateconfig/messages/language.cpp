@@ -21,7 +21,7 @@ Language SystemLanguage() {
   return SystemLocaleName().starts_with("zh") ? Language::kChinese : Language::kEnglish;
 }
 
-std::string Say(std::string_view english, std::string_view chinese) {
+std::string SayPlain(std::string_view english, std::string_view chinese) {
   return std::string(current == Language::kChinese ? chinese : english);
 }
 

@@ -22,15 +22,16 @@ Language CurrentLanguage();
 /// else English.
 Language SystemLanguage();
 
-/// One text in the current language, UTF-8.
-std::string Say(std::string_view english, std::string_view chinese);
+/// The text of the current language as it stands, UTF-8. For texts that a table holds.
+std::string SayPlain(std::string_view english, std::string_view chinese);
 
-/// The same with `{}` places, filled as fmt does; both texts take the same arguments.
+/// A text in the current language, UTF-8, its `{}` places filled as fmt does; a brace is written twice. Both
+/// texts take the same arguments, and one with a place that fits none of them does not compile.
 template <typename... Arguments>
-requires(sizeof...(Arguments) > 0) std::string
-    Say(std::string_view english, std::string_view chinese, const Arguments&... arguments) {
-  return fmt::vformat(CurrentLanguage() == Language::kChinese ? chinese : english,
-                      fmt::make_format_args(arguments...));
+std::string Say(fmt::format_string<const Arguments&...> english,
+                fmt::format_string<const Arguments&...> chinese, const Arguments&... arguments) {
+  const fmt::string_view text = CurrentLanguage() == Language::kChinese ? chinese : english;
+  return fmt::vformat(text, fmt::make_format_args(arguments...));
 }
 
 /// What a message about a wrong name ends with: the name that was probably meant; nothing when `similar` is

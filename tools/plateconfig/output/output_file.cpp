@@ -6,15 +6,12 @@
 #include <system_error>
 
 #include "plateconfig/messages/language.h"
+#include "plateconfig/system/file_kind.h"
 
 namespace plateconfig {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path PathFromUtf8(const std::string& path) {
-  return fs::path(std::u8string(path.begin(), path.end()));
-}
 
 /// A name in the same folder, because a file can be renamed within a file system only.
 fs::path TemporaryNameFor(fs::path path) {
@@ -41,11 +38,6 @@ bool WriteWhole(const fs::path& target, std::string_view bytes) {
   return isDone;
 }
 
-/// True for a device or a pipe: it is written into, because a rename would put a file in its place.
-bool IsStream(const fs::file_status& status) {
-  return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
-}
-
 /// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
 fs::path BehindLinks(const fs::path& path) {
   std::error_code error;
@@ -64,7 +56,7 @@ bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent 
     reporter.Error({path}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
     return false;
   }
-  const bool isStream = IsStream(status);
+  const bool isStream = IsPipeOrDevice(target);  // Written into: a rename would put a file in its place.
   if (ifPresent == IfPresent::kKeep && fs::exists(status) && !isStream) {
     reporter.Error({path},
                    Say("this file exists already; --force replaces it", "此文件已存在；用 --force 覆盖"));

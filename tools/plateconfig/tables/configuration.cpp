@@ -9,6 +9,7 @@
 #include "plateconfig/input/json_node.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/console.h"
+#include "plateconfig/system/file_kind.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
@@ -39,16 +40,33 @@ bool EndsWithSeparator(const std::string& path) {
 }  // namespace
 
 std::optional<TableFile> Configuration::Find(Role role) {
-  std::optional<TableFile> table = FindOptional(role);
-  if (!table && isUsable_) {
+  const std::optional<TableFile> table = NamedTable(role);
+  if (table) return ReadableAgain(*table);
+  if (isUsable_) {
     reporter_.Error({"plateconfig"}, Say("no table plays the role {0}: name it in {1}, or give --{0} FILE",
                                          "没有文件担任 {0} 角色：请在 {1} 中指定，或使用 --{0} 文件",
                                          NameOf(role), folder_.shownAs + kManifestName));
   }
-  return table;
+  return std::nullopt;
 }
 
 std::optional<TableFile> Configuration::FindOptional(Role role) {
+  const std::optional<TableFile> table = NamedTable(role);
+  return table ? ReadableAgain(*table) : std::nullopt;
+}
+
+std::optional<TableFile> Configuration::ReadableAgain(const TableFile& table) {
+  if (!IsPipeOrDevice(PathFromUtf8(table.shownAs))) return table;
+  const std::optional<std::string> copy = copies_.CopyOf(table.hostPath);
+  if (copy) return TableFile{*copy, table.shownAs};
+  reporter_.Error({table.shownAs},
+                  Say("this pipe or device can not be copied into the folder of temporary files, which a "
+                      "table from it needs; give a file instead",
+                      "无法把此管道或设备复制到临时文件夹，而由它提供的表需要这样做；请改用文件"));
+  return std::nullopt;
+}
+
+std::optional<TableFile> Configuration::NamedTable(Role role) {
   if (const auto named = options_.tables.find(role); named != options_.tables.end()) {
     return FromCommandLine(named->second);
   }
@@ -103,8 +121,8 @@ void Configuration::ReadManifest() {
   JsonNode root;
   if (!ParseJson(WithoutByteOrderMark(bytes->View()), {manifest.shownAs, 1, 1}, reporter_, root)) return;
   if (root.kind != JsonNode::Kind::kObject) {
-    reporter_.Error(root.place, Say("the manifest should be an object { role: file name, … }",
-                                    "清单应当是一个对象 { 角色: 文件名, … }"));
+    reporter_.Error(root.place, Say("the manifest should be an object {{ role: file name, … }}",
+                                    "清单应当是一个对象 {{ 角色: 文件名, … }}"));
     return;
   }
   isUsable_ = true;

@@ -10,6 +10,7 @@
 
 #include "analysis/schema/role.h"
 #include "plateconfig/messages/reporter.h"
+#include "plateconfig/tables/pipe_copies.h"
 
 namespace plateconfig {
 
@@ -22,24 +23,27 @@ struct ConfigurationOptions {
 };
 
 struct TableFile {
-  std::string hostPath;  ///< As the library takes it.
+  std::string hostPath;  ///< As the library takes it; of a pipe, that of a copy.
   std::string shownAs;   ///< UTF-8, for messages.
 };
 
+/// Lives as long as its tables are read.
 class Configuration {
  public:
   /// Both are referred to, not copied.
   Configuration(const ConfigurationOptions& options, Reporter& reporter)
       : options_(options), reporter_(reporter) {}
 
-  /// The table of a role; nothing when no file plays it, which is reported as an error, here or when the
-  /// manifest was looked for.
+  /// The table of a role; nothing when no file plays it or the copy of a pipe can not be written, which is
+  /// reported as an error, here or when the manifest was looked for.
   std::optional<TableFile> Find(Role role);
 
   /// The same without an error for a role that the manifest does not name.
   std::optional<TableFile> FindOptional(Role role);
 
  private:
+  std::optional<TableFile> NamedTable(Role role);
+  std::optional<TableFile> ReadableAgain(const TableFile& table);
   bool FindFolder();
   void ReadManifest();
   void ReadRole(const std::string& name, const JsonNode& file);
@@ -51,6 +55,7 @@ class Configuration {
   bool isUsable_ = false;  ///< The manifest was read; else what is wrong is reported already.
   TableFile folder_;       ///< Ends with a separator; empty when there is none.
   std::map<Role, std::string> manifest_;
+  PipeCopies copies_;
 };
 
 }  // namespace plateconfig

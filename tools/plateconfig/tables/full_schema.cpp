@@ -177,7 +177,7 @@ std::vector<std::string_view> SchemaRoles() {
 std::string TitleOf(std::string_view role) {
   const auto title =
       std::find_if(std::begin(kTitles), std::end(kTitles), [&](const Title& t) { return t.role == role; });
-  return title == std::end(kTitles) ? std::string() : Say(title->english, title->chinese);
+  return title == std::end(kTitles) ? std::string() : SayPlain(title->english, title->chinese);
 }
 
 }  // namespace plateconfig

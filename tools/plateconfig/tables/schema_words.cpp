@@ -45,7 +45,7 @@ constexpr Word kKinds[] = {
 std::string Translated(std::span<const Word> words, std::string_view english) {
   const auto found =
       std::find_if(words.begin(), words.end(), [&](const Word& word) { return word.english == english; });
-  return found == words.end() ? std::string(english) : Say(english, found->chinese);
+  return found == words.end() ? std::string(english) : SayPlain(english, found->chinese);
 }
 
 }  // namespace

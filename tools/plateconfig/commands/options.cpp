@@ -1,19 +1,30 @@
-#include "plateconfig/commands/command.h"
+#include "plateconfig/commands/options.h"
 
-#include "plateconfig/commands/usage_message.h"
+#include <algorithm>
+
+#include "analysis/text/shown_text.h"
+#include "analysis/text/similar_name.h"
 #include "plateconfig/messages/language.h"
 
 namespace plateconfig {
 
-std::string HelpDescription() {
-  return Say("print this help and stop", "显示帮助");
+CLI::Validator OneOf(std::vector<std::string> values) {
+  const auto check = [values = std::move(values)](std::string& value) -> std::string {
+    if (std::find(values.begin(), values.end(), value) != values.end()) return {};
+    return Say("\"{}\" is none of {}", "“{}”不是 {} 之一", ShownText(value), Listed(values)) +
+           DidYouMean(MostSimilarName(value, {values.begin(), values.end()}));
+  };
+  return CLI::Validator(check, "");
 }
 
-CLI::App* AddVerb(CLI::App& app, const std::string& name, const std::string& description) {
-  CLI::App* verb = app.add_subcommand(name, description);
-  verb->group(Say("Verbs", "命令"));
-  verb->set_help_flag("-h,--help", HelpDescription());
-  return verb;
+CLI::Validator NotEmpty() {
+  return CLI::Validator(
+      [](std::string& value) { return value.empty() ? Say("the value is empty", "值为空") : std::string(); },
+      "");
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+  return fmt::format("{}", fmt::join(names, ", "));
 }
 
 void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles) {
