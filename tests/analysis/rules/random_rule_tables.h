@@ -1,0 +1,41 @@
+#pragma once
+
+// Small random rule tables of few distinct bounds, so that rows often cover each other together, with every
+// oddity that a range cell can hold.
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "rules/random_cases.h"
+
+namespace plateconfig::test {
+
+inline constexpr int kSizes = 4;
+
+struct SpecRow {
+  std::array<std::string, kSizes> ranges;  ///< The cells.
+  bool isSoft = false;
+  bool hasProfile = false;
+  bool hasWireCutting = false;
+  std::array<std::string, 2> texts;  ///< Of the two processes.
+};
+
+/// A rule table before it becomes a file.
+struct SpecTable {
+  std::vector<int> soft, hard, profile, wireCutting;
+  bool listsProcesses = true;
+  std::vector<SpecRow> rows;
+};
+
+SpecTable MakeSpecTable(Random& random);
+/// The same table with a few things changed, now and then with none.
+SpecTable Changed(SpecTable table, Random& random);
+
+/// The table as a file (GBK). The row of `rows[i]` is `RowNumber(i)`.
+std::string CsvOf(const SpecTable& table);
+constexpr int RowNumber(std::size_t i) {
+  return static_cast<int>(i) + 2;
+}
+
+}  // namespace plateconfig::test
