@@ -15,13 +15,14 @@ constexpr unsigned kBitsPerTable = 2;
 // ---- rows ----
 
 /// The one place that knows how the rule tables hold a row.
-ModelRow ReadRow(const RuleTables& tables, const RuleRow& row) {
+ModelRow ReadRow(const RuleRow& row) {
   ModelRow model;
   model.row = row.lineNumber;
   for (std::size_t size = 0; size < kSizeCount; ++size) {
-    model.stated[size] = {row.*kSizeConditions[size].minimum, row.*kSizeConditions[size].maximum};
+    const SizeRange& range = row.*kSizeConditions[size].range;
+    model.stated[size] = {range.minimum, range.maximum};
   }
-  model.isSoft = row.materialColors == tables.softMaterialColors;
+  model.isSoft = row.material == Material::kSoft;
   model.hasProfile = row.hasProfile;
   model.hasWireCutting = row.hasWireCutting;
   return model;
@@ -132,7 +133,7 @@ RuleModel MakeRuleModel(const RuleTables& tables) {
   for (const ProcessRule& rule : tables.processRules) model.processes.push_back(rule.GetRuleName());
   CellNumbers numbers;
   for (const RuleRow& read : tables.ruleRows) {
-    ModelRow row = ReadRow(tables, read);
+    ModelRow row = ReadRow(read);
     std::transform(row.stated.begin(), row.stated.end(), row.box.begin(), AcceptedValues);
     const std::vector<std::string> cells = ProcessCells(model, row.row);
     row.processCells = numbers.NumberOf(cells);

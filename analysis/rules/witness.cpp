@@ -38,20 +38,11 @@ double Middle(const Interval& interval) {
   return interval.low + (high - interval.low) / 2;
 }
 
-class MatchSink : public EvaluationSink {
- public:
-  void OnMatch(const RuleRow& row, const std::string&) override { row_ = row.lineNumber; }
-  std::optional<int> Row() const { return row_; }
-
- private:
-  std::optional<int> row_;
-};
-
 std::string TextOf(const RuleTables& tables, const Plate& plate, const PlateFeatures& features) {
   std::vector<ProcessRule> rules = tables.processRules;
   FeedRules(rules, features);
-  EvaluationSink ignored;
-  return EvaluatePlate(tables, plate, rules, ignored);
+  SilentSink silent;
+  return EvaluatePlate(tables, plate, rules, silent);
 }
 
 /// Diameters that a parameter's number accepts, and such as another number close to it does not.
@@ -160,9 +151,8 @@ Plate RoundPlate(const PlateSpace& space, const PlateGroup& group, const Box& bo
 }
 
 std::optional<int> MatchedRow(const RuleTables& tables, const Plate& plate) {
-  MatchSink sink;
-  EvaluatePlate(tables, plate, {}, sink);
-  return sink.Row();
+  const RuleRow* const row = FindRow(tables, plate);
+  return row == nullptr ? std::nullopt : std::optional(row->lineNumber);
 }
 
 bool AcceptsAlone(const RuleTables& tables, int row, const Plate& plate) {
