@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "settings/cell_text.h"
+#include "keys/cell_text.h"
 
 namespace plateconfig {
 

@@ -4,12 +4,12 @@
 // reading.
 
 #include "settings/custom_default.h"
-#include "settings/key_table.h"
+#include "settings/style_kind.h"
 
 namespace plateconfig {
 
 template <typename Record>
-using CustomKey = Key<Record, CustomDefault::NoteStyle>;
+using CustomKey = StyledKey<Record, CustomDefault::NoteStyle>;
 
 using literals::operator""_gbk;
 

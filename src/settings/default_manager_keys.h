@@ -6,12 +6,12 @@
 // angle of 45). Drawings were made with tables that lack the column, and must come out the same again.
 
 #include "settings/default_manager.h"
-#include "settings/key_table.h"
+#include "settings/style_kind.h"
 
 namespace plateconfig {
 
 template <typename Record>
-using LayoutKey = Key<Record, DefaultManager::NoteStyle>;
+using LayoutKey = StyledKey<Record, DefaultManager::NoteStyle>;
 
 using literals::operator""_gbk;
 

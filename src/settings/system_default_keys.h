@@ -2,7 +2,7 @@
 
 // The tables of the system settings, one line per key in the order of reading.
 
-#include "settings/key_table.h"
+#include "keys/key_table.h"
 #include "settings/system_default.h"
 
 namespace plateconfig {

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "settings/key_table.h"
-#include "support/gbk_text.h"
 #include "support/temporary_folder.h"
 
 namespace plateconfig::test {
@@ -11,27 +9,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-struct Label {
-  double height = 0;
-  int layer = 0;
-  std::vector<int> colors;
-};
-
-constexpr Key<Label> kLabelKeys[] = {
-    {"字高"_gbk, Number{&Label::height, 3.5}, "mm", "height of label text"},
-    {"图层"_gbk, Integer{&Label::layer, 1}, "NX layer", "layer of label text"},
-};
-
-constexpr Key<Label> kSameColumn[] = {
-    {"图层"_gbk, Number{&Label::height, 3.5}, "mm", "height of label text"},
-};
-
-TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
-  static_assert(ColumnsAreUnique(kLabelKeys));
-  static_assert(!ColumnsAreUnique(kLabelKeys, kSameColumn));
-  static_assert(!ColumnsAreUnique(kSameColumn, kSameColumn));
-}
 
 TEST(Schema, NamesTheTwelveRolesOfTheSettingsClasses) {
   std::vector<std::string_view> roles;
@@ -82,14 +59,6 @@ TEST(Schema, ListsOfRecordsArePrintedDownTheirColumns) {
   const std::vector<Cells> values = LoadSettings("thread-hole-chamfer", path);
   EXPECT_THAT(values[3], ElementsAre("5_10", "10_20.5"));
   EXPECT_THAT(values[4], ElementsAre("3", "4.25"));
-}
-
-TEST(NumberText, IsTheShortestThatReadsBack) {
-  EXPECT_EQ(NumberText(0.1), "0.1");
-  EXPECT_EQ(NumberText(100000), "100000");
-  EXPECT_EQ(NumberText(-2.5), "-2.5");
-  EXPECT_EQ(NumberText(0), "0");
-  EXPECT_EQ(NumberText(1e22), "1e+22");
 }
 
 }  // namespace

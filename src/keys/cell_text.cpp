@@ -1,4 +1,4 @@
-#include "settings/cell_text.h"
+#include "keys/cell_text.h"
 
 #include <array>
 #include <charconv>
@@ -28,14 +28,6 @@ std::string NumberText(double value) {
   std::array<char, 400> text;
   const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format);
   return {text.data(), end};
-}
-
-std::string StyleText(const NoteStyleFields& style) {
-  std::string text = style.fontName;
-  for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
-    text += "|" + NumberText(number);
-  }
-  return text + "|" + IntToString(style.option);
 }
 
 bool ReadFlag(FlagLetters letters, std::string_view cell) {

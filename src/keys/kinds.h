@@ -23,8 +23,7 @@
 #include <vector>
 
 #include "config/numbers.h"
-#include "settings/cell_text.h"
-#include "settings/note_style.h"
+#include "keys/cell_text.h"
 
 namespace plateconfig {
 
@@ -126,21 +125,6 @@ struct Flag : KindOf<CellType::kFlag> {
   Cells WhenAbsent() const { return {FlagText(whenAbsent)}; }
 };
 
-/// A text style; without six fields the default style.
-template <typename Record, typename NoteStyle>
-struct Style : KindOf<CellType::kText> {
-  constexpr explicit Style(NoteStyle Record::*of) : field(of) {}
-
-  NoteStyle Record::*field;
-
-  static std::string_view Name() { return "style"; }
-  void Read(Record& record, const Cells& cells) const {
-    record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
-  }
-  Cells Print(const Record& record) const { return {StyleText(CopyStyle<NoteStyleFields>(record.*field))}; }
-  Cells WhenAbsent() const { return {StyleText(NoteStyleFields())}; }
-};
-
 /// A list of numbers that runs down its column. Reading appends; nothing is sorted, duplicates stay.
 template <typename Record>
 struct IntList : KindOf<CellType::kInteger, true> {
@@ -212,12 +196,9 @@ struct Range : KindOf<CellType::kText> {
   Cells WhenAbsent() const { return {}; }
 };
 
-/// Stands for the style record where a table has no styles.
-struct NoStyle : NoteStyleFields {};
-
-template <typename Record, typename NoteStyle>
-using Kind =
-    std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, Style<Record, NoteStyle>,
-                 IntList<Record>, TextList<Record>, JoinedInts<Record>, Range<Record>>;
+/// Every kind that all tables know, and those that only the tables of one folder have.
+template <typename Record, typename... Further>
+using Kind = std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, IntList<Record>,
+                          TextList<Record>, JoinedInts<Record>, Range<Record>, Further...>;
 
 }  // namespace plateconfig

@@ -9,8 +9,6 @@
 #include <utility>
 #include <vector>
 
-#include "settings/note_style.h"
-
 namespace plateconfig {
 
 /// Cells of one column, top to bottom (GBK).
@@ -36,9 +34,6 @@ enum class TakenCells {
 
 /// The shortest text that reads as the same number.
 std::string NumberText(double value);
-
-/// A style as a cell, its numbers as short as they go.
-std::string StyleText(const NoteStyleFields& style);
 
 bool ReadFlag(FlagLetters letters, std::string_view cell);
 /// Y or N, which every kind of flag reads back.

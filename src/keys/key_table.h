@@ -22,7 +22,7 @@
 #include <vector>
 
 #include "config/read_config_file.h"
-#include "settings/kinds.h"
+#include "keys/kinds.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -35,10 +35,11 @@ enum class RowRule {
 };
 
 /// One column: a setting of `Record`, or one field of the records that run down the rows.
-template <typename Record, typename NoteStyle = NoStyle>
+/// `Further` are kinds that this table has beside the common ones.
+template <typename Record, typename... Further>
 struct Key {
   std::string_view column;  // GBK
-  Kind<Record, NoteStyle> kind;
+  Kind<Record, Further...> kind;
   std::string_view unit;
   std::string_view help;
   RowRule rowRule = RowRule::kNone;
@@ -57,13 +58,13 @@ consteval bool ColumnsAreUnique(const Keys&... keys) {
   return std::adjacent_find(columns.begin(), columns.end()) == columns.end();
 }
 
-template <typename Record, typename NoteStyle>
-void ReadKey(const Key<Record, NoteStyle>& key, const Cells& cells, Record& record) {
+template <typename Record, typename... Further>
+void ReadKey(const Key<Record, Further...>& key, const Cells& cells, Record& record) {
   std::visit([&](const auto& kind) { kind.Read(record, cells); }, key.kind);
 }
 
-template <typename Record, typename NoteStyle>
-Cells PrintKey(const Key<Record, NoteStyle>& key, const Record& record) {
+template <typename Record, typename... Further>
+Cells PrintKey(const Key<Record, Further...>& key, const Record& record) {
   return std::visit([&](const auto& kind) { return kind.Print(record); }, key.kind);
 }
 
