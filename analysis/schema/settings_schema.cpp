@@ -37,7 +37,7 @@ class Snapshot {
   template <typename AnyKey>
   static ColumnSchema Describe(const AnyKey& key, bool isRowColumn) {
     const auto describe = [&](const auto& kind) {
-      ColumnSchema column{std::string(key.column), kind.Name(), kind.kType, key.unit, key.help, {}};
+      ColumnSchema column{std::string(key.column), kind.Form(), kind.kType, key.unit, key.help, {}};
       if (!isRowColumn) column.whenAbsent = kind.WhenAbsent();
       column.isList = kind.kIsList;
       column.isRowColumn = isRowColumn;

@@ -16,10 +16,10 @@
 namespace plateconfig {
 
 struct ColumnSchema {
-  std::string column;          ///< GBK
-  std::string_view kind;       ///< What its cells hold, English.
-  CellType type;               ///< What one value is.
-  std::string_view unit;       ///< UTF-8; empty when there is none.
+  std::string column;  ///< GBK
+  CellForm form;
+  CellType type;  ///< What one value is.
+  Unit unit;
   std::string_view help;       ///< English
   Cells whenAbsent;            ///< Cells (GBK) that say what an absent column says; none for an empty list.
   bool isList = false;         ///< One setting whose values run down the rows.

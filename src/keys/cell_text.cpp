@@ -48,16 +48,16 @@ std::string FlagText(bool value) {
   return value ? "Y" : "N";
 }
 
-std::string_view FlagName(FlagLetters letters) {
+CellForm FormOf(FlagLetters letters) {
   switch (letters) {
     case FlagLetters::kYesIfUpperY:
-      return "flag: yes for Y only";
+      return CellForm::kFlagYesIfUpperY;
     case FlagLetters::kYesIfY:
-      return "flag: yes for Y or y only";
+      return CellForm::kFlagYesIfY;
     case FlagLetters::kNoIfUpperN:
-      return "flag: no for N only";
+      return CellForm::kFlagNoIfUpperN;
     case FlagLetters::kNoIfN:
-      return "flag: no for N or n only";
+      return CellForm::kFlagNoIfN;
   }
   return {};
 }
@@ -69,14 +69,14 @@ void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken) {
   }
 }
 
-std::string_view TakenCellsName(TakenCells taken) {
+CellForm FormOf(TakenCells taken) {
   switch (taken) {
     case TakenCells::kNonZero:
-      return "list of integers other than 0";
+      return CellForm::kNonZeroIntegers;
     case TakenCells::kLayerNumbers:
-      return "list of integers from 1 to 256";
+      return CellForm::kLayerNumbers;
     case TakenCells::kFilled:
-      return "list of integers";
+      return CellForm::kIntegers;
   }
   return {};
 }

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "keys/cell_form.h"
+
 namespace plateconfig {
 
 /// Cells of one column, top to bottom (GBK).
@@ -38,10 +40,10 @@ std::string NumberText(double value);
 bool ReadFlag(FlagLetters letters, std::string_view cell);
 /// Y or N, which every kind of flag reads back.
 std::string FlagText(bool value);
-std::string_view FlagName(FlagLetters letters);
+CellForm FormOf(FlagLetters letters);
 
 void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken);
-std::string_view TakenCellsName(TakenCells taken);
+CellForm FormOf(TakenCells taken);
 Cells IntCells(std::span<const int> numbers);
 
 /// Lists inside one cell, joined by "_".

@@ -4,8 +4,8 @@
 // print and describe.
 //
 //   inline constexpr Key<LabelSettings> kLabelKeys[] = {
-//       // column        kind, field, when the column is absent      unit  what it is
-//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, "mm", "height of label text"},
+//       // column        kind, field, when the column is absent      unit       what it is
+//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, Unit::kMm, "height of label text"},
 //   };
 //   static_assert(ColumnsAreUnique(kLabelKeys));
 //
@@ -40,7 +40,7 @@ template <typename Record, typename... Further>
 struct Key {
   std::string_view column;  // GBK
   Kind<Record, Further...> kind;
-  std::string_view unit;
+  Unit unit;
   std::string_view help;
   RowRule rowRule = RowRule::kNone;
 };

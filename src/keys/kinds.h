@@ -1,14 +1,14 @@
 #pragma once
 
 // The kinds of cells. A kind knows everything about one sort of setting: how it is read from the cells of its
-// column, what an absent column gives, how it is printed, what it is called.
+// column, what an absent column gives, how it is printed, what its cells look like.
 //
 //   Number{&LabelSettings::textHeight, 3.5}
 //
 // Every kind has these members; `cells` are the column's, top to bottom, and empty when the column is absent
 // or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
 //
-// - `Name()`: what the documentation calls it.
+// - `Form()`: what its cells look like.
 // - `kType`, `kIsList`: what a value is, and whether the column is a list.
 // - `EmptyIsAbsent()`: whether an empty first cell counts as no column.
 // - `Read(record, cells)`: puts the cells' value into the record's field.
@@ -55,7 +55,7 @@ struct Number : KindOf<CellType::kNumber> {
   double Record::*field;
   double whenAbsent;
 
-  static std::string_view Name() { return "number"; }
+  static CellForm Form() { return CellForm::kNumber; }
   void Read(Record& record, const Cells& cells) const {
     // Kept: an empty first cell is a cell, and reads as 0.
     record.*field = cells.empty() ? whenAbsent : ParseDouble(cells.front());
@@ -74,8 +74,8 @@ struct Integer : KindOf<CellType::kInteger> {
   int whenAbsent;
   EmptyCell emptyCell;
 
-  std::string_view Name() const {
-    return emptyCell == EmptyCell::kCounts ? "integer" : "integer; empty = no column";
+  CellForm Form() const {
+    return emptyCell == EmptyCell::kCounts ? CellForm::kInteger : CellForm::kIntegerOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
@@ -96,8 +96,8 @@ struct Text : KindOf<CellType::kText> {
   std::string_view whenAbsent;  // GBK
   EmptyCell emptyCell;
 
-  std::string_view Name() const {
-    return emptyCell == EmptyCell::kCounts ? "text" : "text; empty = no column";
+  CellForm Form() const {
+    return emptyCell == EmptyCell::kCounts ? CellForm::kText : CellForm::kTextOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
@@ -117,7 +117,7 @@ struct Flag : KindOf<CellType::kFlag> {
   bool whenAbsent;
   FlagLetters letters;
 
-  std::string_view Name() const { return FlagName(letters); }
+  CellForm Form() const { return FormOf(letters); }
   void Read(Record& record, const Cells& cells) const {
     record.*field = cells.empty() ? whenAbsent : ReadFlag(letters, cells.front());
   }
@@ -135,7 +135,7 @@ struct IntList : KindOf<CellType::kInteger, true> {
   TakenCells taken;
   std::span<const int> whenNone;  ///< Appended to a list that is still empty.
 
-  std::string_view Name() const { return TakenCellsName(taken); }
+  CellForm Form() const { return FormOf(taken); }
   void Read(Record& record, const Cells& cells) const {
     std::vector<int>& list = record.*field;
     // Kept: what is there stays, so that a list grows each time that its table is read.
@@ -153,7 +153,7 @@ struct TextList : KindOf<CellType::kText, true> {
 
   std::vector<std::string> Record::*field;
 
-  static std::string_view Name() { return "list of texts"; }
+  static CellForm Form() { return CellForm::kTexts; }
   void Read(Record& record, const Cells& cells) const { record.*field = cells; }
   Cells Print(const Record& record) const { return record.*field; }
   Cells WhenAbsent() const { return {}; }
@@ -166,7 +166,7 @@ struct JoinedInts : KindOf<CellType::kText> {
 
   std::vector<int> Record::*field;
 
-  static std::string_view Name() { return "list of integers in one cell (12_6)"; }
+  static CellForm Form() { return CellForm::kJoinedIntegers; }
   void Read(Record& record, const Cells& cells) const {
     record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
   }
@@ -182,7 +182,7 @@ struct Range : KindOf<CellType::kText> {
   double Record::*minimum;
   double Record::*maximum;
 
-  static std::string_view Name() { return "range (10_200)"; }
+  static CellForm Form() { return CellForm::kRange; }
   static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
   void Read(Record& record, const Cells& cells) const {
     const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());

@@ -3,7 +3,6 @@
 // The kind of cells that hold a text style, for either class that has a record of styles.
 
 #include <string>
-#include <string_view>
 
 #include "keys/key_table.h"
 #include "settings/note_style.h"
@@ -17,7 +16,7 @@ struct Style : KindOf<CellType::kText> {
 
   NoteStyle Record::*field;
 
-  static std::string_view Name() { return "style"; }
+  static CellForm Form() { return CellForm::kStyle; }
   void Read(Record& record, const Cells& cells) const {
     record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
   }

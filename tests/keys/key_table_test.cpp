@@ -14,12 +14,12 @@ struct Label {
 };
 
 constexpr Key<Label> kLabelKeys[] = {
-    {"字高"_gbk, Number{&Label::height, 3.5}, "mm", "height of label text"},
-    {"图层"_gbk, Integer{&Label::layer, 1}, "NX layer", "layer of label text"},
+    {"字高"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
+    {"图层"_gbk, Integer{&Label::layer, 1}, Unit::kLayer, "layer of label text"},
 };
 
 constexpr Key<Label> kSameColumn[] = {
-    {"图层"_gbk, Number{&Label::height, 3.5}, "mm", "height of label text"},
+    {"图层"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
 };
 
 TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {

@@ -152,7 +152,7 @@ TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
 }
 
 TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
-  ColumnSchema column{"a,b", "text", CellType::kText, "", "", {"say \"hi\"", "plain"}};
+  ColumnSchema column{"a,b", CellForm::kText, CellType::kText, Unit::kNone, "", {"say \"hi\"", "plain"}};
   const TableSchema table{"bom", WhenUnreadable::kCountsAsEmpty, true, {column}};
   EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
 }

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <set>
-
 #include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_check.h"
 #include "support/companion.h"
@@ -125,14 +122,6 @@ TEST(TableCells, OnlyTheFirstRowOfASingleValueIsLookedAt) {
   CheckTable({files.WriteTable("t.csv", "密度(g/cm)\n7.85\nsteel\n"), "t.csv"}, *FindTableSchema("bom"), {},
              messages.reporter);
   EXPECT_EQ(messages.Text(), "");
-}
-
-TEST(TableCells, EveryKindOfCellIsCheckedOrTakesEveryText) {
-  const std::set<std::string_view> free = {"text", "style", "list of texts", "text; empty = no column"};
-  for (const TableSchema& table : FullSchema()) {
-    for (const ColumnSchema& column : table.columns)
-      EXPECT_NE(IsCheckedKind(column.kind), free.contains(column.kind)) << column.kind;
-  }
 }
 
 }  // namespace

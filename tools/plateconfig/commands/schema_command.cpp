@@ -30,8 +30,8 @@ void WriteText(const TableSchema& table, std::ostream& out) {
   out << table.role << ": " << TitleOf(table.role) << "\n";
   for (const ColumnSchema& column : table.columns) {
     out << "  " << GbkToUtf8(column.column) << ": " << column.help;
-    if (!column.unit.empty()) out << " [" << UnitText(column.unit) << "]";
-    out << "; " << KindText(column.kind);
+    if (column.unit != Unit::kNone) out << " [" << InWords(WordsOf(column.unit)) << "]";
+    out << "; " << InWords(WordsOf(column.form));
     if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
     out << "\n";
   }
@@ -43,8 +43,8 @@ Json ToJson(const TableSchema& table, const ColumnSchema& column) {
   for (const std::string& cell : column.whenAbsent) absent.push_back(GbkToUtf8(cell));
   return {{"role", table.role},
           {"column", GbkToUtf8(column.column)},
-          {"kind", column.kind},
-          {"unit", column.unit},
+          {"kind", WordsOf(column.form).english},
+          {"unit", WordsOf(column.unit).english},
           {"help", column.help},
           {"whenAbsent", absent},
           {"rows", column.isRowColumn},
@@ -76,8 +76,8 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     const std::string name = "`" + GbkToUtf8(column.column) + "`";
     out << "| " << (column.isPlaceholder ? "*" + name + "*" : name) << " | "
-        << Escaped(std::string(column.help)) << " | " << UnitText(column.unit) << " | "
-        << KindText(column.kind) << " | " << WhenAbsentCell(column) << " |\n";
+        << Escaped(std::string(column.help)) << " | " << InWords(WordsOf(column.unit)) << " | "
+        << InWords(WordsOf(column.form)) << " | " << WhenAbsentCell(column) << " |\n";
   }
 }
 

@@ -58,8 +58,8 @@ std::string ValueText(const ShownSetting& setting) {
 
 void WriteText(const ShownSetting& setting, std::ostream& out) {
   out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
-  if (!setting.schema.unit.empty() && !setting.value.empty())
-    out << "  [" << UnitText(setting.schema.unit) << "]";
+  if (setting.schema.unit != Unit::kNone && !setting.value.empty())
+    out << "  [" << InWords(WordsOf(setting.schema.unit)) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
 }
@@ -106,7 +106,7 @@ Json ToJson(const TableSchema& table, const std::optional<TableFile>& file, cons
           {"file", file ? Json(file->shownAs) : nullptr},
           {"column", GbkToUtf8(setting.schema.column)},
           {"value", ValueToJson(setting)},
-          {"unit", setting.schema.unit},
+          {"unit", WordsOf(setting.schema.unit).english},
           {"source", JsonName(setting.source)}};
 }
 

@@ -12,34 +12,32 @@
 namespace plateconfig {
 namespace {
 
-ColumnSchema Single(std::string_view column, std::string_view kind, CellType type,
-                    const std::string& whenAbsent) {
-  return {std::string(column), kind, type, {}, {}, {whenAbsent}};
+ColumnSchema Single(std::string_view column, CellForm form, CellType type, const std::string& whenAbsent) {
+  return {std::string(column), form, type, Unit::kNone, {}, {whenAbsent}};
 }
 
 ColumnSchema Number(std::string_view column, std::string_view help) {
-  ColumnSchema schema = Single(column, "number", CellType::kNumber, "0");
-  schema.unit = "mm";
+  ColumnSchema schema = Single(column, CellForm::kNumber, CellType::kNumber, "0");
+  schema.unit = Unit::kMm;
   schema.help = help;
   return schema;
 }
 
 ColumnSchema Flag(std::string_view column, std::string_view help) {
-  ColumnSchema schema = Single(column, FlagName(FlagLetters::kYesIfUpperY), CellType::kFlag, "N");
+  ColumnSchema schema = Single(column, CellForm::kFlagYesIfUpperY, CellType::kFlag, "N");
   schema.help = help;
   return schema;
 }
 
 ColumnSchema Text(std::string_view column, std::string_view help) {
-  ColumnSchema schema = Single(column, "text", CellType::kText, "");
+  ColumnSchema schema = Single(column, CellForm::kText, CellType::kText, "");
   schema.help = help;
   return schema;
 }
 
-/// A column of rows; `unit` and `kind` as in the settings' own schema.
-ColumnSchema Row(std::string_view column, std::string_view kind, std::string_view unit,
-                 std::string_view help) {
-  ColumnSchema schema{std::string(column), kind, CellType::kText, unit, help, {}};
+/// A column of rows; `unit` and `form` as in the settings' own schema.
+ColumnSchema Row(std::string_view column, CellForm form, Unit unit, std::string_view help) {
+  ColumnSchema schema{std::string(column), form, CellType::kText, unit, help, {}};
   schema.isRowColumn = true;
   return schema;
 }
@@ -54,20 +52,20 @@ TableSchema IndexTable() {
       kIndexRole,
       WhenUnreadable::kCountsAsEmpty,
       true,
-      {Row(kIndexFolderColumn, "text", "", "name of a configuration folder below config"),
-       Row(kIndexFlagColumn, FlagName(FlagLetters::kYesIfY), "", "whether the folder is the active one")}};
+      {Row(kIndexFolderColumn, CellForm::kText, Unit::kNone, "name of a configuration folder below config"),
+       Row(kIndexFlagColumn, CellForm::kFlagYesIfY, Unit::kNone, "whether the folder is the active one")}};
 }
 
 TableSchema ColumnWidthTable() {
-  ColumnSchema width = Single("列名"_gbk, "integer; empty = no column", CellType::kInteger, "100");
+  ColumnSchema width = Single("列名"_gbk, CellForm::kIntegerOrAbsent, CellType::kInteger, "100");
   width.help = "width of the column of this name; every column of the table is one";
   width.emptyIsAbsent = true;
   return {NameOf(Role::kColumnWidths), WhenUnreadable::kCountsAsEmpty, true, {Placeholder(width)}};
 }
 
 TableSchema ProcessSettingsTable() {
-  ColumnSchema layer = Single(columns::kTextLayer, "integer", CellType::kInteger, "0");
-  layer.unit = "NX layer";
+  ColumnSchema layer = Single(columns::kTextLayer, CellForm::kInteger, CellType::kInteger, "0");
+  layer.unit = Unit::kLayer;
   layer.help = "layer of the process text";
   return {NameOf(Role::kProcessSettings),
           WhenUnreadable::kCountsAsEmpty,
@@ -82,10 +80,11 @@ TableSchema ProcessSettingsTable() {
 }
 
 TableSchema ProcessRuleTable() {
-  ColumnSchema parameters = Row(columns::kParameterName, "text", "", "name of a general parameter");
+  ColumnSchema parameters =
+      Row(columns::kParameterName, CellForm::kText, Unit::kNone, "name of a general parameter");
   parameters.whenAbsent = {std::string(columns::kSoftMaterial), std::string(columns::kHardMaterial),
                            std::string(columns::kWireCuttingColors), std::string(columns::kProfileColors)};
-  ColumnSchema layer = Row(columns::kLayer, "integer", "NX layer",
+  ColumnSchema layer = Row(columns::kLayer, CellForm::kInteger, Unit::kLayer,
                            "layer of the plates of a rule row; a row without it is no rule row");
   layer.type = CellType::kInteger;
   return {
@@ -93,22 +92,20 @@ TableSchema ProcessRuleTable() {
       WhenUnreadable::kCountsAsEmpty,
       true,
       {parameters,
-       Row(columns::kParameterValue, "list of integers in one cell (12_6)", "colour index",
-           "colours of the parameter"),
-       Row(columns::kProcessName, "text", "", "name of a process, in the order of the text"),
-       Row(columns::kConditionType, "condition text", "", "condition under which the process applies"),
-       Row(columns::kConditionValue, "list of numbers in one cell (6_8.5)", "", "parameter of the condition"),
-       layer, Row(columns::kLengthRange, "range (10_200)", "mm", "lengths; empty = any"),
-       Row(columns::kWidthRange, "range (10_200)", "mm", "widths; empty = any"),
-       Row(columns::kHeightRange, "range (10_200)", "mm", "thicknesses; empty = any"),
-       Row(columns::kWeightRange, "range (10_200)", "kg", "weights; empty = any"),
-       Row(columns::kHasProfile, "exactly the parameter's name, or anything else", "",
-           "with or without a profile"),
-       Row(columns::kHasWireCutting, "exactly the parameter's name, or anything else", "",
-           "with or without wire cutting"),
-       Row(columns::kMaterial, "exactly the soft parameter's name, or anything else", "",
-           "soft or hard material"),
-       Placeholder(Row("工艺名称"_gbk, "text", "",
+       Row(columns::kParameterValue, CellForm::kJoinedIntegers, Unit::kColor, "colours of the parameter"),
+       Row(columns::kProcessName, CellForm::kText, Unit::kNone,
+           "name of a process, in the order of the text"),
+       Row(columns::kConditionType, CellForm::kConditionText, Unit::kNone,
+           "condition under which the process applies"),
+       Row(columns::kConditionValue, CellForm::kJoinedNumbers, Unit::kNone, "parameter of the condition"),
+       layer, Row(columns::kLengthRange, CellForm::kRange, Unit::kMm, "lengths; empty = any"),
+       Row(columns::kWidthRange, CellForm::kRange, Unit::kMm, "widths; empty = any"),
+       Row(columns::kHeightRange, CellForm::kRange, Unit::kMm, "thicknesses; empty = any"),
+       Row(columns::kWeightRange, CellForm::kRange, Unit::kKg, "weights; empty = any"),
+       Row(columns::kHasProfile, CellForm::kExactParameter, Unit::kNone, "with or without a profile"),
+       Row(columns::kHasWireCutting, CellForm::kExactParameter, Unit::kNone, "with or without wire cutting"),
+       Row(columns::kMaterial, CellForm::kExactSoftParameter, Unit::kNone, "soft or hard material"),
+       Placeholder(Row("工艺名称"_gbk, CellForm::kText, Unit::kNone,
                        "text of the process of this name; every process of the list is a column"))}};
 }
 

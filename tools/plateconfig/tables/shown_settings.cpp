@@ -84,7 +84,7 @@ std::vector<ShownSetting> GeneralParameters(const OpenTable& table, const std::s
   const RuleTables tables = LoadRuleTables(path, "");
   std::vector<ShownSetting> settings;
   const auto add = [&](std::string_view name, const std::vector<int>& colors) {
-    ColumnSchema column{std::string(name), "list of integers", CellType::kInteger, "colour index", {}, {}};
+    ColumnSchema column{std::string(name), CellForm::kIntegers, CellType::kInteger, Unit::kColor, {}, {}};
     column.isList = true;
     const bool isNamed =
         table.Reader().GetItemIndex(std::string(columns::kParameterName), std::string(name)) != -1;

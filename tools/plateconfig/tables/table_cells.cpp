@@ -23,26 +23,26 @@ std::string ReadAs(const std::string& value) {
   return Say("; it is read as {}", "；读作 {}", value);
 }
 
-std::string NumberMistake(const ColumnSchema&, const std::string& cell) {
+std::string NumberMistake(const std::string& cell) {
   if (StrictNumber(cell)) return {};
   return NotANumber(GbkToUtf8(cell)) + ReadAs(NumberText(ParseDouble(cell)));
 }
 
-std::string IntegerMistake(const ColumnSchema&, const std::string& cell) {
+std::string IntegerMistake(const std::string& cell) {
   if (StrictInteger(cell)) return {};
   return NotAnInteger(GbkToUtf8(cell)) + ReadAs(std::to_string(ParseInt(cell)));
 }
 
-std::string IntegersMistake(const ColumnSchema&, const std::string& cell) {
+std::string IntegersMistake(const std::string& cell) {
   if (StrictIntegers(cell)) return {};
   return NotIntegers(GbkToUtf8(cell)) + ReadAs(JoinInts(SplitInts(cell)));
 }
 
-std::string NumbersMistake(const ColumnSchema&, const std::string& cell) {
+std::string NumbersMistake(const std::string& cell) {
   return StrictNumbers(cell) ? std::string() : NotNumbers(GbkToUtf8(cell));
 }
 
-std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
+std::string RangeMistake(const std::string& cell) {
   const auto bounds = StrictNumbers(cell);
   if (bounds && bounds->size() == 2 && bounds->front() <= bounds->back()) return {};
   const auto read = SplitRange(cell);
@@ -50,13 +50,8 @@ std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
                                             : Say("; it counts as an empty cell", "；视为空单元格"));
 }
 
-std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
-  constexpr FlagLetters kAll[] = {FlagLetters::kYesIfUpperY, FlagLetters::kYesIfY, FlagLetters::kNoIfUpperN,
-                                  FlagLetters::kNoIfN};
-  const auto letters = std::find_if(std::begin(kAll), std::end(kAll),
-                                    [&](FlagLetters each) { return FlagName(each) == column.kind; });
-  if (letters == std::end(kAll)) return {};
-  const bool isYes = ReadFlag(*letters, cell);
+std::string FlagMistake(FlagLetters letters, const std::string& cell) {
+  const bool isYes = ReadFlag(letters, cell);
   const auto strict = StrictYesNo(cell);
   if (!strict) return NotYesNo(GbkToUtf8(cell)) + ReadAs(FlagText(isYes));
   if (*strict == isYes) return {};
@@ -64,7 +59,7 @@ std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
              FlagText(isYes));
 }
 
-std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
+std::string ConditionMistake(const std::string& cell) {
   if (FindRuleType(cell)) return {};
   std::vector<std::string> known(kConditionTexts.size());
   std::transform(kConditionTexts.begin(), kConditionTexts.end(), known.begin(),
@@ -108,29 +103,6 @@ std::string ExactMistake(const ColumnSchema& column, const std::string& cell) {
   return {};
 }
 
-struct KindCheck {
-  std::string_view begin;  ///< Of the kind's name. The first that fits counts.
-  std::string (*mistake)(const ColumnSchema& column, const std::string& cell);
-};
-
-constexpr KindCheck kKindChecks[] = {
-    {"number", NumberMistake},
-    {"integer", IntegerMistake},
-    {"list of integers in one cell", IntegersMistake},
-    {"list of integers", IntegerMistake},
-    {"list of numbers in one cell", NumbersMistake},
-    {"range", RangeMistake},
-    {"flag", FlagMistake},
-    {"condition", ConditionMistake},
-    {"exactly", ExactMistake},
-};
-
-const KindCheck* FindCheck(std::string_view kind) {
-  const auto check = std::find_if(std::begin(kKindChecks), std::end(kKindChecks),
-                                  [&](const KindCheck& each) { return kind.starts_with(each.begin); });
-  return check == std::end(kKindChecks) ? nullptr : check;
-}
-
 /// A general parameter of the rule table is found by its name.
 std::string ParameterMistake(const ColumnSchema& column, const std::string& cell) {
   if (std::find(column.whenAbsent.begin(), column.whenAbsent.end(), cell) != column.whenAbsent.end())
@@ -141,6 +113,45 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   if (similar.empty()) return {};
   return Say("\"{}\" is no general parameter", "“{}”不是通用要求", ShownText(name)) + DidYouMean(similar);
+}
+
+/// What is wrong with a cell that is not empty.
+std::string FilledCellMistake(const ColumnSchema& column, const std::string& cell) {
+  switch (column.form) {
+    case CellForm::kNumber:
+      return NumberMistake(cell);
+    case CellForm::kInteger:
+    case CellForm::kIntegerOrAbsent:
+    case CellForm::kIntegers:
+    case CellForm::kNonZeroIntegers:
+    case CellForm::kLayerNumbers:
+      return IntegerMistake(cell);
+    case CellForm::kText:
+    case CellForm::kTextOrAbsent:
+    case CellForm::kTexts:
+    case CellForm::kStyle:
+      return {};
+    case CellForm::kFlagYesIfUpperY:
+      return FlagMistake(FlagLetters::kYesIfUpperY, cell);
+    case CellForm::kFlagYesIfY:
+      return FlagMistake(FlagLetters::kYesIfY, cell);
+    case CellForm::kFlagNoIfUpperN:
+      return FlagMistake(FlagLetters::kNoIfUpperN, cell);
+    case CellForm::kFlagNoIfN:
+      return FlagMistake(FlagLetters::kNoIfN, cell);
+    case CellForm::kJoinedIntegers:
+      return IntegersMistake(cell);
+    case CellForm::kJoinedNumbers:
+      return NumbersMistake(cell);
+    case CellForm::kRange:
+      return RangeMistake(cell);
+    case CellForm::kConditionText:
+      return ConditionMistake(cell);
+    case CellForm::kExactParameter:
+    case CellForm::kExactSoftParameter:
+      return ExactMistake(column, cell);
+  }
+  return {};
 }
 
 struct CheckedColumn {
@@ -182,12 +193,7 @@ std::string_view DecidingColumn(const ColumnSchema& column) {
 std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
   if (cell.empty()) return {};
   if (column.column == columns::kParameterName) return ParameterMistake(column, cell);
-  const KindCheck* check = FindCheck(column.kind);
-  return check == nullptr ? std::string() : check->mistake(column, cell);
-}
-
-bool IsCheckedKind(std::string_view kind) {
-  return FindCheck(kind) != nullptr;
+  return FilledCellMistake(column, cell);
 }
 
 void ForEachCellMistake(

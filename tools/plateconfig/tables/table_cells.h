@@ -14,9 +14,6 @@ namespace plateconfig {
 /// it is what the column's kind says. An empty cell is never wrong.
 std::string CellMistake(const ColumnSchema& column, const std::string& cell);
 
-/// True when `CellMistake` has something to say of cells of this kind.
-bool IsCheckedKind(std::string_view kind);
-
 /// The column (GBK) whose empty cell makes that a row of the rule table does not count for this column; empty
 /// when it is the column itself, and in every other table.
 std::string_view DecidingColumn(const ColumnSchema& column);

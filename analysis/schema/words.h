@@ -1,0 +1,23 @@
+#pragma once
+
+// What the forms of cells and the units are called, in both languages of those who keep the tables. The
+// English words are also those of the schema's JSON.
+
+#include <string_view>
+
+#include "keys/cell_form.h"
+
+namespace plateconfig {
+
+/// The same in both languages, UTF-8.
+struct Words {
+  std::string_view english;
+  std::string_view chinese;
+};
+
+Words WordsOf(CellForm form);
+
+/// Empty for what has no unit.
+Words WordsOf(Unit unit);
+
+}  // namespace plateconfig
