@@ -1,46 +1,29 @@
 #include "analysis/rules/feed_rules.h"
 
+#include "rules/condition_texts.h"
+
 namespace plateconfig {
 namespace {
 
+std::vector<int> ColorsFor(ProcessRule::RuleType type, const PlateFeatures& features) {
+  const auto colors = features.colors.find(type);
+  return colors == features.colors.end() ? std::vector<int>() : colors->second;
+}
+
 void FeedRule(ProcessRule& rule, const PlateFeatures& features) {
-  const ProcessRule::RuleType type = rule.GetRuleType();
-  switch (type) {
-    case ProcessRule::CustomProcess:
-      rule.SetValue(features.customProcesses.contains(rule.GetRuleName()));
-      return;
-    case ProcessRule::HasRoundHole:
-    case ProcessRule::HasIrregularSlot:
-    case ProcessRule::HasThroughSlot:
-    case ProcessRule::HasThroughVerticalSlot:
-    case ProcessRule::HasThroughSpecialSlot:
-    case ProcessRule::HasBlindSlot:
-    case ProcessRule::HasBlindNormalSlot:
-    case ProcessRule::HasBlindSpecialSlot4:
-    case ProcessRule::HasBlindSpecialSlot5:
-      rule.SetValue(features.present.contains(type));
-      return;
-    case ProcessRule::RoundHoleDiameter:
-      rule.SetValue(features.diameters);
-      return;
-    case ProcessRule::HoleCountAtLeast:
-    case ProcessRule::HoleCountBelow:
+  switch (FedByOf(rule.GetRuleType())) {
+    case FedBy::kPresence:
+      return rule.SetValue(features.present.contains(rule.GetRuleType()));
+    case FedBy::kColors:
+      return rule.SetValue(ColorsFor(rule.GetRuleType(), features));
+    case FedBy::kDiameters:
+      return rule.SetValue(features.diameters);
+    case FedBy::kCount:
       // A count that nobody took is not a count of 0: the rule stays as it is, not valid.
       if (features.holeCount) rule.SetHoleCount(*features.holeCount);
       return;
-    case ProcessRule::MachiningColor:
-    case ProcessRule::RoundHoleColor:
-    case ProcessRule::ThroughSlotColor:
-    case ProcessRule::ThroughVerticalSlotColor:
-    case ProcessRule::ThroughSpecialSlotColor:
-    case ProcessRule::BlindSlotColor:
-    case ProcessRule::BlindNormalSlotColor:
-    case ProcessRule::BlindSpecialSlotColor4:
-    case ProcessRule::BlindSpecialSlotColor5: {
-      const auto colors = features.colors.find(type);
-      rule.SetValue(colors == features.colors.end() ? std::vector<int>() : colors->second);
-      return;
-    }
+    case FedBy::kByHand:
+      return rule.SetValue(features.customProcesses.contains(rule.GetRuleName()));
   }
 }
 

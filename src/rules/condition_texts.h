@@ -1,6 +1,8 @@
 #pragma once
 
-// The condition texts of the process list and the rule type that each selects.
+// The conditions of the process list: the texts that select each type, and how a plate feeds it. A further
+// text is one line below. A further type has a line below and a case in `FedByOf`; the compiler tells every
+// place that must know it.
 
 #include <array>
 #include <optional>
@@ -49,5 +51,47 @@ inline constexpr auto kConditionTexts = [] {
 
 /// The type that a condition text (GBK) selects; nothing for a text that is none of them.
 std::optional<ProcessRule::RuleType> FindRuleType(std::string_view text);
+
+/// What is known of a plate decides a condition in one of these ways.
+enum class FedBy {
+  kPresence,   ///< The feature is there or not.
+  kColors,     ///< The NX colour indices found on the feature.
+  kDiameters,  ///< The diameters of the round holes, mm.
+  kCount,      ///< The number of holes.
+  kByHand,     ///< Somebody orders the process for this plate.
+};
+
+constexpr FedBy FedByOf(ProcessRule::RuleType type) {
+  switch (type) {
+    case ProcessRule::CustomProcess:
+      return FedBy::kByHand;
+    case ProcessRule::HasRoundHole:
+    case ProcessRule::HasIrregularSlot:
+    case ProcessRule::HasThroughSlot:
+    case ProcessRule::HasThroughVerticalSlot:
+    case ProcessRule::HasThroughSpecialSlot:
+    case ProcessRule::HasBlindSlot:
+    case ProcessRule::HasBlindNormalSlot:
+    case ProcessRule::HasBlindSpecialSlot4:
+    case ProcessRule::HasBlindSpecialSlot5:
+      return FedBy::kPresence;
+    case ProcessRule::RoundHoleDiameter:
+      return FedBy::kDiameters;
+    case ProcessRule::HoleCountAtLeast:
+    case ProcessRule::HoleCountBelow:
+      return FedBy::kCount;
+    case ProcessRule::MachiningColor:
+    case ProcessRule::RoundHoleColor:
+    case ProcessRule::ThroughSlotColor:
+    case ProcessRule::ThroughVerticalSlotColor:
+    case ProcessRule::ThroughSpecialSlotColor:
+    case ProcessRule::BlindSlotColor:
+    case ProcessRule::BlindNormalSlotColor:
+    case ProcessRule::BlindSpecialSlotColor4:
+    case ProcessRule::BlindSpecialSlotColor5:
+      return FedBy::kColors;
+  }
+  return FedBy::kByHand;  // A number that is no type: as a text that is no condition.
+}
 
 }  // namespace plateconfig

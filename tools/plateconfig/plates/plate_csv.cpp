@@ -46,24 +46,24 @@ StoreCell StoreInteger(const PlateIntegerField& field) {
 StoreCell StoreFeature(const Feature& feature) {
   return [&feature](const std::string& text, PlateInput& input) -> std::string {
     PlateFeatures& features = input.features;
-    switch (feature.kind) {
-      case FeatureKind::kPresent:
+    switch (feature.Feeding()) {
+      case FedBy::kPresence:
         return StoreParsed(text, StrictYesNo, NotYesNo, [&](bool yes) {
           if (yes) features.present.insert(feature.type);
         });
-      case FeatureKind::kCustomProcess:
+      case FedBy::kByHand:
         return StoreParsed(text, StrictYesNo, NotYesNo, [&](bool yes) {
           if (yes) features.customProcesses.insert(feature.processName);
         });
-      case FeatureKind::kColors:
+      case FedBy::kColors:
         return StoreParsed(text, StrictIntegers, NotIntegers, [&](const std::vector<int>& colors) {
           auto& all = features.colors[feature.type];
           all.insert(all.end(), colors.begin(), colors.end());
         });
-      case FeatureKind::kDiameters:
+      case FedBy::kDiameters:
         return StoreParsed(text, StrictNumbers, NotNumbers,
                            [&](const std::vector<double>& diameters) { features.diameters = diameters; });
-      case FeatureKind::kHoleCount:
+      case FedBy::kCount:
         if (text.empty()) return {};
         return StoreParsed(text, StrictInteger, NotAnInteger, [&](int count) { features.holeCount = count; });
     }

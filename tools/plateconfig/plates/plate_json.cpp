@@ -70,7 +70,7 @@ class PlateObject {
     if (!values_.IsObject(node)) return;
     for (const auto& [name, value] : node.members) {
       const Feature* feature = vocabulary_.Find(name);
-      if (feature != nullptr && feature->kind != FeatureKind::kCustomProcess) {
+      if (feature != nullptr && feature->Feeding() != FedBy::kByHand) {
         ReadFeature(*feature, value);
       } else {
         WarnOfUnknown(name, value);
@@ -80,16 +80,21 @@ class PlateObject {
 
   void ReadFeature(const Feature& feature, const JsonNode& node) {
     PlateFeatures& features = plate_.features;
-    if (feature.kind == FeatureKind::kPresent) {
-      bool isPresent = false;
-      values_.Read(node, isPresent);
-      if (isPresent) features.present.insert(feature.type);
-    } else if (feature.kind == FeatureKind::kColors) {
-      values_.Read(node, features.colors[feature.type]);
-    } else if (feature.kind == FeatureKind::kDiameters) {
-      values_.Read(node, features.diameters);
-    } else {
-      values_.Read(node, features.holeCount.emplace());
+    switch (feature.Feeding()) {
+      case FedBy::kPresence: {
+        bool isPresent = false;
+        values_.Read(node, isPresent);
+        if (isPresent) features.present.insert(feature.type);
+        return;
+      }
+      case FedBy::kColors:
+        return values_.Read(node, features.colors[feature.type]);
+      case FedBy::kDiameters:
+        return values_.Read(node, features.diameters);
+      case FedBy::kCount:
+        return values_.Read(node, features.holeCount.emplace());
+      case FedBy::kByHand:
+        return;  // These stand in a list of their own.
     }
   }
 
@@ -99,7 +104,7 @@ class PlateObject {
       std::string name;
       values_.Read(item, name);
       const Feature* feature = vocabulary_.Find(name);
-      if (feature != nullptr && feature->kind == FeatureKind::kCustomProcess) {
+      if (feature != nullptr && feature->Feeding() == FedBy::kByHand) {
         plate_.features.customProcesses.insert(feature->processName);
       } else if (item.kind == JsonNode::Kind::kString) {
         WarnOfUnknown(name, item);
@@ -109,7 +114,7 @@ class PlateObject {
 
   void WarnOfUnknown(const std::string& name, const JsonNode& node) {
     if (const Feature* feature = vocabulary_.Find(name)) {
-      const bool isCustom = feature->kind == FeatureKind::kCustomProcess;
+      const bool isCustom = feature->Feeding() == FedBy::kByHand;
       reporter_.Warning(node.place,
                         Say("\"{}\" belongs into \"{}\" and is ignored here", "“{}”应写在“{}”中，此处已忽略",
                             name, isCustom ? kCustomProcesses : kFeatures));

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "analysis/rules/plate_features.h"
+#include "rules/condition_texts.h"
 #include "rules/process_rule.h"
 
 namespace plateconfig {
@@ -17,12 +18,12 @@ namespace plateconfig {
 /// The column (UTF-8) of the number of holes, which serves both count conditions.
 inline constexpr std::string_view kHoleCountName = "孔数量";
 
-enum class FeatureKind { kPresent, kColors, kDiameters, kHoleCount, kCustomProcess };
-
 struct Feature {
-  FeatureKind kind;
   ProcessRule::RuleType type;
-  std::string processName;  ///< GBK; for `kCustomProcess`.
+  std::string processName;  ///< GBK; of a process that is ordered by hand.
+
+  /// What its value is, and where it goes.
+  FedBy Feeding() const { return FedByOf(type); }
 };
 
 class PlateVocabulary {
