@@ -10,7 +10,7 @@ namespace {
 /// fail.
 double RelativeMiss(const Refusal& refusal) {
   const double miss = refusal.Miss();
-  const double bound = refusal.value < refusal.minimum ? refusal.minimum : refusal.maximum;
+  const double bound = refusal.value < refusal.range.minimum ? refusal.range.minimum : refusal.range.maximum;
   return miss / (miss + std::max(std::fabs(bound), 1.0));
 }
 
@@ -23,30 +23,29 @@ double RefusedRow::Distance() const {
 }
 
 void ExplanationSink::OnRow(const RuleRow& row) {
-  row_ = &row;
   rows_.push_back({row.lineNumber, {}});
 }
 
 void ExplanationSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, bool passed) {
   if (passed) return;
   Refusal refusal{size.condition};
-  refusal.minimum = row.*size.minimum;
-  refusal.maximum = row.*size.maximum;
+  refusal.range = row.*size.range;
   refusal.value = plate.*size.value;
   rows_.back().refusals.push_back(std::move(refusal));
 }
 
-void ExplanationSink::OnMaterial(const RuleRow& row, const Plate&, bool passed) {
+void ExplanationSink::OnMaterial(const std::vector<int>& accepted, const Plate&, bool passed) {
   if (passed) return;
   Refusal refusal{Condition::kMaterial};
-  refusal.colors = row.materialColors;
+  refusal.colors = accepted;
   rows_.back().refusals.push_back(std::move(refusal));
 }
 
-void ExplanationSink::OnFaces(Condition condition, bool wanted, bool present) {
+void ExplanationSink::OnFaces(Condition condition, const std::vector<int>& colors, bool wanted,
+                              bool present) {
   if (wanted == present) return;
   Refusal refusal{condition};
-  refusal.colors = condition == Condition::kProfile ? row_->profileColors : row_->wireCuttingColors;
+  refusal.colors = colors;
   refusal.isWanted = wanted;
   rows_.back().refusals.push_back(std::move(refusal));
 }

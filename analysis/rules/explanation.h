@@ -14,8 +14,7 @@ namespace plateconfig {
 struct Refusal {
   Condition condition;
   // Size conditions: what the row allows and what the plate has.
-  double minimum = 0;
-  double maximum = 0;
+  SizeRange range = {};
   double value = 0;
   // Material: the body colours that the row accepts. Profile and wire cutting: the face colours that count as
   // it.
@@ -23,9 +22,9 @@ struct Refusal {
   // Profile and wire cutting: whether the row asks for it.
   bool isWanted = false;
 
-  bool IsSize() const { return condition <= Condition::kWeight; }
+  bool IsSize() const { return plateconfig::IsSize(condition); }
   /// By how much a size is outside its range, always positive.
-  double Miss() const { return value < minimum ? minimum - value : value - maximum; }
+  double Miss() const { return value < range.minimum ? range.minimum - value : value - range.maximum; }
 };
 
 struct RefusedRow {
@@ -43,8 +42,8 @@ class ExplanationSink : public EvaluationSink {
   bool WantsEveryCondition() const override { return true; }
   void OnRow(const RuleRow& row) override;
   void OnSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, bool passed) override;
-  void OnMaterial(const RuleRow& row, const Plate& plate, bool passed) override;
-  void OnFaces(Condition condition, bool wanted, bool present) override;
+  void OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool passed) override;
+  void OnFaces(Condition condition, const std::vector<int>& colors, bool wanted, bool present) override;
   void OnMatch(const RuleRow& row, const std::string& text) override;
 
   /// The rows that were tried in vain, in the order of the table, or the nearest first when no row matched.
@@ -52,7 +51,6 @@ class ExplanationSink : public EvaluationSink {
   std::optional<int> MatchedLine() const { return matchedLine_; }
 
  private:
-  const RuleRow* row_ = nullptr;
   std::vector<RefusedRow> rows_;
   std::optional<int> matchedLine_;
 };

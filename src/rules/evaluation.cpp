@@ -1,6 +1,8 @@
 #include "rules/evaluation.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "config/text_helpers.h"
 #include "text/gbk.h"
@@ -10,54 +12,101 @@ namespace {
 
 using namespace literals;
 
+/// True when `kConditions` is what a row is tested for, in that order: it is the list by which others check
+/// theirs.
+consteval bool ConditionsAreThoseTested() {
+  std::size_t at = 0;
+  for (const SizeCondition& size : kSizeConditions) {
+    if (kConditions[at++] != size.condition) return false;
+  }
+  if (kConditions[at++] != Condition::kMaterial) return false;
+  for (const FaceCondition& faces : kFaceConditions) {
+    if (kConditions[at++] != faces.condition) return false;
+  }
+  return at == std::size(kConditions);
+}
+static_assert(ConditionsAreThoseTested());
+
 bool HaveCommonColor(const std::vector<int>& a, const std::vector<int>& b) {
   return std::find_first_of(a.begin(), a.end(), b.begin(), b.end()) != a.end();
 }
 
-bool TestSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, EvaluationSink& sink) {
-  const double value = plate.*size.value;
-  // Kept: the minimum has no tolerance, the maximum has one.
-  const bool passed = !(row.*size.minimum > value || value > row.*size.maximum + kMaximumTolerance);
-  sink.OnSize(size, row, plate, passed);
-  return passed;
-}
-
-bool TestMaterial(const RuleRow& row, const Plate& plate, EvaluationSink& sink) {
-  const auto& accepted = row.materialColors;
-  const bool passed =
-      accepted.empty() || std::find(accepted.begin(), accepted.end(), plate.color) != accepted.end();
-  sink.OnMaterial(row, plate, passed);
-  return passed;
-}
-
-bool TestFaces(Condition condition, bool wanted, bool present, EvaluationSink& sink) {
-  sink.OnFaces(condition, wanted, present);
-  return wanted == present;
-}
-
-bool TestCondition(Condition condition, const RuleRow& row, const Plate& plate, EvaluationSink& sink) {
-  switch (condition) {
-    case Condition::kMaterial:
-      return TestMaterial(row, plate, sink);
-    case Condition::kProfile:
-      return TestFaces(condition, row.hasProfile, HaveCommonColor(plate.faceColors, row.profileColors), sink);
-    case Condition::kWireCutting:
-      return TestFaces(condition, row.hasWireCutting,
-                       HaveCommonColor(plate.faceColors, row.wireCuttingColors), sink);
-    default:
-      return TestSize(kSizeConditions[static_cast<std::size_t>(condition)], row, plate, sink);
+/// One plate in front of the rows of a table; the one place that knows when a row fits. What is the same for
+/// every row is found once.
+class RowTest {
+ public:
+  RowTest(const RuleTables& tables, const Plate& plate, EvaluationSink& sink)
+      : tables_(tables),
+        plate_(plate),
+        sink_(sink.Listens() ? &sink : nullptr),
+        everyCondition_(sink_ != nullptr && sink_->WantsEveryCondition()) {
+    for (std::size_t i = 0; i < std::size(kFaceConditions); ++i)
+      present_[i] = HaveCommonColor(plate.faceColors, tables.*kFaceConditions[i].colors);
+    if (sink_ != nullptr) ReportColors();
   }
-}
 
-bool RowFits(const RuleRow& row, const Plate& plate, EvaluationSink& sink) {
-  sink.OnRow(row);
-  bool fits = true;
-  for (const Condition condition : kConditions) {
-    if (TestCondition(condition, row, plate, sink)) continue;
-    fits = false;
-    if (!sink.WantsEveryCondition()) break;
+  bool Fits(const RuleRow& row) const {
+    if (sink_ != nullptr) sink_->OnRow(row);
+    bool fits = true;
+    const auto isRefused = [&](bool passed) {
+      fits = fits && passed;
+      return !fits && !everyCondition_;
+    };
+    for (const SizeCondition& size : kSizeConditions) {
+      if (isRefused(TestSize(size, row))) return false;
+    }
+    if (isRefused(TestMaterial(row))) return false;
+    for (std::size_t i = 0; i < std::size(kFaceConditions); ++i) {
+      if (isRefused(TestFaces(kFaceConditions[i], present_[i], row))) return false;
+    }
+    return fits;
   }
-  return fits;
+
+  void ReportMatch(const RuleRow& row, const std::string& text) const {
+    if (sink_ != nullptr) sink_->OnMatch(row, text);
+  }
+
+ private:
+  void ReportColors() const {
+    // Kept: without a row no colour is looked for, so that none is shown, whatever the table's parameters
+    // say.
+    const std::vector<int> none;
+    const bool hasRows = !tables_.ruleRows.empty();
+    sink_->OnColors(plate_, hasRows ? tables_.profileColors : none,
+                    hasRows ? tables_.wireCuttingColors : none);
+  }
+
+  bool TestSize(const SizeCondition& size, const RuleRow& row) const {
+    const bool passed = (row.*size.range).Accepts(plate_.*size.value);
+    if (sink_ != nullptr) sink_->OnSize(size, row, plate_, passed);
+    return passed;
+  }
+
+  bool TestMaterial(const RuleRow& row) const {
+    const std::vector<int>& accepted = tables_.MaterialColors(row.material);
+    const bool passed =
+        accepted.empty() || std::find(accepted.begin(), accepted.end(), plate_.color) != accepted.end();
+    if (sink_ != nullptr) sink_->OnMaterial(accepted, plate_, passed);
+    return passed;
+  }
+
+  bool TestFaces(const FaceCondition& faces, bool present, const RuleRow& row) const {
+    const bool wanted = row.*faces.wanted;
+    if (sink_ != nullptr) sink_->OnFaces(faces.condition, tables_.*faces.colors, wanted, present);
+    return wanted == present;
+  }
+
+  const RuleTables& tables_;
+  const Plate& plate_;
+  EvaluationSink* const sink_;  // Null when nobody listens.
+  const bool everyCondition_;
+  std::array<bool, std::size(kFaceConditions)> present_{};  // Whether a face has one of the colours.
+};
+
+const RuleRow* FirstRow(const RuleTables& tables, const RowTest& test) {
+  const auto row = std::find_if(tables.ruleRows.begin(), tables.ruleRows.end(),
+                                [&](const RuleRow& candidate) { return test.Fits(candidate); });
+  return row == tables.ruleRows.end() ? nullptr : &*row;
 }
 
 std::string AssembleText(const RuleTables& tables, const RuleRow& row,
@@ -74,24 +123,20 @@ std::string AssembleText(const RuleTables& tables, const RuleRow& row,
   return text;
 }
 
-void ReportColors(const RuleTables& tables, const Plate& plate, EvaluationSink& sink) {
-  // Every row holds the same two lists. Without a row there is none to show, whatever the table's parameters
-  // say.
-  const RuleRow none;
-  const RuleRow& first = tables.ruleRows.empty() ? none : tables.ruleRows.front();
-  sink.OnColors(plate, first.profileColors, first.wireCuttingColors);
-}
-
 }  // namespace
+
+const RuleRow* FindRow(const RuleTables& tables, const Plate& plate) {
+  SilentSink nobody;
+  return FirstRow(tables, RowTest(tables, plate, nobody));
+}
 
 std::string EvaluatePlate(const RuleTables& tables, const Plate& plate, const std::vector<ProcessRule>& rules,
                           EvaluationSink& sink) {
-  ReportColors(tables, plate, sink);
-  const auto match = std::find_if(tables.ruleRows.begin(), tables.ruleRows.end(),
-                                  [&](const RuleRow& row) { return RowFits(row, plate, sink); });
-  if (match == tables.ruleRows.end()) return {};
-  std::string text = AssembleText(tables, *match, rules);
-  sink.OnMatch(*match, text);
+  const RowTest test(tables, plate, sink);
+  const RuleRow* const row = FirstRow(tables, test);
+  if (row == nullptr) return {};
+  std::string text = AssembleText(tables, *row, rules);
+  test.ReportMatch(*row, text);
   return text;
 }
 

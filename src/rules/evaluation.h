@@ -4,6 +4,8 @@
 // a sink: the diagnostic file is one sink, the companion's explanation another, so that the two can never
 // disagree.
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -29,24 +31,39 @@ inline constexpr Condition kConditions[] = {Condition::kLength,     Condition::k
                                             Condition::kWeight,     Condition::kMaterial, Condition::kProfile,
                                             Condition::kWireCutting};
 
-/// How far above the maximum of a range a value is still inside; there is no tolerance below the minimum.
-inline constexpr double kMaximumTolerance = 0.001;
-
-/// One of the four conditions that compare a number with a range.
+/// A condition that compares a size of the plate with the row's range.
 struct SizeCondition {
   Condition condition;
   double Plate::*value;
-  double RuleRow::*minimum;
-  double RuleRow::*maximum;
+  SizeRange RuleRow::*range;
 };
 
-/// The first of `kConditions`, in the same order.
+/// In the order in which they are tested; the material comes behind them.
 inline constexpr SizeCondition kSizeConditions[] = {
-    {Condition::kLength, &Plate::length, &RuleRow::dbMinLength, &RuleRow::dbMaxLength},
-    {Condition::kWidth, &Plate::width, &RuleRow::dbMinWidth, &RuleRow::dbMaxWidth},
-    {Condition::kHeight, &Plate::height, &RuleRow::dbMinHeight, &RuleRow::dbMaxHeight},
-    {Condition::kWeight, &Plate::weight, &RuleRow::dbMinWeight, &RuleRow::dbMaxWeight},
+    {Condition::kLength, &Plate::length, &RuleRow::length},
+    {Condition::kWidth, &Plate::width, &RuleRow::width},
+    {Condition::kHeight, &Plate::height, &RuleRow::height},
+    {Condition::kWeight, &Plate::weight, &RuleRow::weight},
 };
+
+/// A condition that looks for the table's colours among the plate's face colours.
+struct FaceCondition {
+  Condition condition;
+  std::vector<int> RuleTables::*colors;
+  bool RuleRow::*wanted;  ///< Whether a face must have one of the colours, or none may.
+};
+
+/// In the order in which they are tested, behind the material.
+inline constexpr FaceCondition kFaceConditions[] = {
+    {Condition::kProfile, &RuleTables::profileColors, &RuleRow::hasProfile},
+    {Condition::kWireCutting, &RuleTables::wireCuttingColors, &RuleRow::hasWireCutting},
+};
+
+/// True for a condition that `kSizeConditions` has.
+constexpr bool IsSize(Condition condition) {
+  return std::ranges::find(kSizeConditions, condition, &SizeCondition::condition) !=
+         std::end(kSizeConditions);
+}
 
 /// Takes the steps of one evaluation. Every call is optional.
 class EvaluationSink {
@@ -62,21 +79,33 @@ class EvaluationSink {
   virtual void OnRow(const RuleRow&) {}
   /// A number was compared with the row's range.
   virtual void OnSize(const SizeCondition&, const RuleRow&, const Plate&, bool /*passed*/) {}
-  /// The body's colour was looked for among the row's material colours.
-  virtual void OnMaterial(const RuleRow&, const Plate&, bool /*passed*/) {}
-  /// Profile or wire cutting: whether the row asks for it, and whether a face of the plate has one of its
-  /// colours.
-  virtual void OnFaces(Condition, bool /*wanted*/, bool /*present*/) {}
+  /// The body's colour was looked for among the colours of the row's material.
+  virtual void OnMaterial(const std::vector<int>& /*accepted*/, const Plate&, bool /*passed*/) {}
+  /// Profile or wire cutting: whether the row asks for it, and whether a face of the plate has one of the
+  /// colours that stand for it.
+  virtual void OnFaces(Condition, const std::vector<int>& /*colors*/, bool /*wanted*/, bool /*present*/) {}
   /// The first row whose conditions all hold, and the text that it gives.
   virtual void OnMatch(const RuleRow&, const std::string& /*text*/) {}
 
   /// True to see every condition of a row, also behind its first one that fails.
   virtual bool WantsEveryCondition() const { return false; }
+  /// False to be told nothing once the plate is measured. Asked once per evaluation.
+  virtual bool Listens() const { return true; }
 };
 
-/// The process text (GBK) of a plate: of the first row whose conditions all hold, the cell of each valid
-/// rule's process in the order of `rules`, joined by the connect text, behind the row's line number when the
-/// settings ask for it. Empty when no row fits.
+/// For an evaluation whose steps interest nobody.
+class SilentSink : public EvaluationSink {
+ public:
+  bool Listens() const override { return false; }
+};
+
+/// The first row whose conditions all hold for the plate; null when there is none. Nobody is told of the
+/// steps.
+const RuleRow* FindRow(const RuleTables& tables, const Plate& plate);
+
+/// The process text (GBK) of a plate: of the row that `FindRow` finds, the cell of each valid rule's process
+/// in the order of `rules`, joined by the connect text, behind the row's line number when the settings ask
+/// for it. Empty when no row fits.
 std::string EvaluatePlate(const RuleTables& tables, const Plate& plate, const std::vector<ProcessRule>& rules,
                           EvaluationSink& sink);
 

@@ -1,31 +1,25 @@
 #pragma once
 
-// One row of conditions of a rule table.
+// One row of conditions of a rule table: what it accepts, as data.
 
-#include <vector>
+#include "rules/size_range.h"
 
 namespace plateconfig {
 
-/// The largest value of a range whose cell is empty or malformed.
-inline constexpr double kUnboundedMaximum = 999999;
+/// Which of the table's two lists of body colours a row accepts.
+enum class Material { kSoft, kHard };
 
-/// Lengths in mm, weights as the caller of the evaluation measures them; colours are NX colour indices.
+/// The colours themselves belong to the table; a row says only which of them it asks for.
 struct RuleRow {
   int lineNumber = 0;  ///< Line of the spreadsheet, the header being line 1.
   int layer = 0;       ///< NX layer number; stored for the host, not a condition.
-  double dbMinLength = 0;
-  double dbMaxLength = kUnboundedMaximum;
-  double dbMinWidth = 0;
-  double dbMaxWidth = kUnboundedMaximum;
-  double dbMinHeight = 0;
-  double dbMaxHeight = kUnboundedMaximum;
-  double dbMinWeight = 0;
-  double dbMaxWeight = kUnboundedMaximum;
-  std::vector<int> materialColors;  ///< Body colours that the row accepts; empty accepts any.
-  std::vector<int> profileColors;
-  std::vector<int> wireCuttingColors;
-  bool hasProfile = false;
-  bool hasWireCutting = false;
+  SizeRange length;
+  SizeRange width;
+  SizeRange height;
+  SizeRange weight;
+  Material material = Material::kHard;
+  bool hasProfile = false;      ///< Whether a face must have one of the profile colours, or none may.
+  bool hasWireCutting = false;  ///< The same for the wire-cutting colours.
 };
 
 }  // namespace plateconfig

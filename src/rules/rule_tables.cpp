@@ -69,11 +69,9 @@ std::vector<ProcessRule> LoadProcessList(const ReadConfigFile& table) {
 }
 
 /// Takes a range cell min_max; any other count of pieces leaves the bounds as they are.
-void TakeRange(const std::string& cell, double& minimum, double& maximum) {
+void TakeRange(const std::string& cell, SizeRange& range) {
   const auto bounds = VectorToDouble(SplitString(cell, "_"));
-  if (bounds.size() != 2) return;
-  minimum = bounds[0];
-  maximum = bounds[1];
+  if (bounds.size() == 2) range = {bounds[0], bounds[1]};
 }
 
 /// The columns of the rule rows.
@@ -91,29 +89,26 @@ struct RowColumns {
   Column layer, length, width, height, weight, profile, wireCutting, material;
 };
 
-RuleRow MakeRow(const RuleTables& tables, const RowColumns& cells, std::size_t row) {
+RuleRow MakeRow(const RowColumns& cells, std::size_t row) {
   RuleRow rule;
   rule.lineNumber = static_cast<int>(row) + 2;  // The header is line 1.
   rule.layer = ParseInt(cells.layer[row]);
-  TakeRange(cells.length[row], rule.dbMinLength, rule.dbMaxLength);
-  TakeRange(cells.width[row], rule.dbMinWidth, rule.dbMaxWidth);
-  TakeRange(cells.height[row], rule.dbMinHeight, rule.dbMaxHeight);
-  TakeRange(cells.weight[row], rule.dbMinWeight, rule.dbMaxWeight);
+  TakeRange(cells.length[row], rule.length);
+  TakeRange(cells.width[row], rule.width);
+  TakeRange(cells.height[row], rule.height);
+  TakeRange(cells.weight[row], rule.weight);
   // Kept: everything that is not exactly the soft material is hard, an empty cell included.
-  const bool isSoft = cells.material[row] == columns::kSoftMaterial;
-  rule.materialColors = isSoft ? tables.softMaterialColors : tables.hardMaterialColors;
-  rule.profileColors = tables.profileColors;
-  rule.wireCuttingColors = tables.wireCuttingColors;
+  rule.material = cells.material[row] == columns::kSoftMaterial ? Material::kSoft : Material::kHard;
   rule.hasProfile = cells.profile[row] == columns::kProfileColors;
   rule.hasWireCutting = cells.wireCutting[row] == columns::kWireCuttingColors;
   return rule;
 }
 
-std::vector<RuleRow> LoadRuleRows(const RuleTables& tables) {
-  const RowColumns cells(tables.ruleTable);
+std::vector<RuleRow> LoadRuleRows(const ReadConfigFile& table) {
+  const RowColumns cells(table);
   std::vector<RuleRow> rows;
   for (std::size_t row = 0; row < cells.layer.Size(); ++row) {
-    if (!cells.layer[row].empty()) rows.push_back(MakeRow(tables, cells, row));
+    if (!cells.layer[row].empty()) rows.push_back(MakeRow(cells, row));
   }
   return rows;
 }
@@ -126,7 +121,7 @@ RuleTables LoadRuleTables(const std::string& ruleTablePath, const std::string& s
   tables.ruleTable.OpenConfigFile(ruleTablePath);
   LoadColors(tables);
   tables.processRules = LoadProcessList(tables.ruleTable);
-  tables.ruleRows = LoadRuleRows(tables);
+  tables.ruleRows = LoadRuleRows(tables.ruleTable);
   return tables;
 }
 

@@ -22,11 +22,16 @@ struct RuleTables {
   std::string textFont;
   bool outputLineNumber = false;
   bool appendAttribute = false;
-  std::vector<int> profileColors;
-  std::vector<int> wireCuttingColors;
+  std::vector<int> profileColors;      ///< Face colours that stand for a profile.
+  std::vector<int> wireCuttingColors;  ///< Face colours that stand for wire cutting.
   std::vector<int> softMaterialColors;
   std::vector<int> hardMaterialColors;
   ReadConfigFile ruleTable;  ///< Kept for the process texts.
+
+  /// The body colours of a material; an empty list accepts any colour.
+  const std::vector<int>& MaterialColors(Material material) const {
+    return material == Material::kSoft ? softMaterialColors : hardMaterialColors;
+  }
 };
 
 /// Loads both tables (host paths). What is missing stays as `RuleTables` starts: empty texts and lists, 0,

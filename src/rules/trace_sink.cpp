@@ -1,5 +1,7 @@
 #include "rules/trace_sink.h"
 
+#include <algorithm>
+
 #include "config/numbers.h"
 #include "config/text_helpers.h"
 #include "text/gbk.h"
@@ -10,31 +12,43 @@ namespace {
 using namespace literals;
 
 struct SizeTexts {
+  Condition condition;
   std::string_view refusal;
   std::string_view minimum;
   std::string_view maximum;
 };
 
-// In the order of kSizeConditions.
 constexpr SizeTexts kSizeTexts[] = {
-    {"长度不符合此规则！"_gbk, "最小长度："_gbk, "最大长度："_gbk},
-    {"宽度不符合此规则！"_gbk, "最小宽度："_gbk, "最大宽度："_gbk},
-    {"高度不符合此规则！"_gbk, "最小高度："_gbk, "最大高度："_gbk},
-    {"重量不符合此规则！"_gbk, "最小重量："_gbk, "最大重量："_gbk},
+    {Condition::kLength, "长度不符合此规则！"_gbk, "最小长度："_gbk, "最大长度："_gbk},
+    {Condition::kWidth, "宽度不符合此规则！"_gbk, "最小宽度："_gbk, "最大宽度："_gbk},
+    {Condition::kHeight, "高度不符合此规则！"_gbk, "最小高度："_gbk, "最大高度："_gbk},
+    {Condition::kWeight, "重量不符合此规则！"_gbk, "最小重量："_gbk, "最大重量："_gbk},
 };
+static_assert(std::ranges::equal(kSizeTexts, kSizeConditions, {}, &SizeTexts::condition,
+                                 &SizeCondition::condition));
 
 struct FaceTexts {
+  Condition condition;
   std::string_view wanted;
   std::string_view presentButNotWanted;
   std::string_view wantedButNotPresent;
 };
 
 // The blank in front of the first colon belongs to the label.
-constexpr FaceTexts kProfileTexts = {"bHaveProfileColor :"_gbk, "bInclude && !bHaveProfileColor！"_gbk,
-                                     "!bInclude && bHaveProfileColor！"_gbk};
-constexpr FaceTexts kWireCuttingTexts = {"bHaveWireCuttingColor :"_gbk,
-                                         "bInclude && !bHaveWireCuttingColor！"_gbk,
-                                         "!bInclude && bHaveWireCuttingColor！"_gbk};
+constexpr FaceTexts kFaceTexts[] = {
+    {Condition::kProfile, "bHaveProfileColor :"_gbk, "bInclude && !bHaveProfileColor！"_gbk,
+     "!bInclude && bHaveProfileColor！"_gbk},
+    {Condition::kWireCutting, "bHaveWireCuttingColor :"_gbk, "bInclude && !bHaveWireCuttingColor！"_gbk,
+     "!bInclude && bHaveWireCuttingColor！"_gbk},
+};
+static_assert(std::ranges::equal(kFaceTexts, kFaceConditions, {}, &FaceTexts::condition,
+                                 &FaceCondition::condition));
+
+/// The texts of a condition. There is one row for each, as the compiler has checked.
+template <typename Texts, std::size_t count>
+const Texts& TextsOf(const Texts (&texts)[count], Condition condition) {
+  return *std::ranges::find(texts, condition, &Texts::condition);
+}
 
 }  // namespace
 
@@ -48,6 +62,11 @@ void TraceSink::Line(std::string_view label, double value) {
 
 void TraceSink::Line(std::string_view label, int value) {
   text_.append(label).append(IntToString(value)).append("\n");
+}
+
+void TraceSink::RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range) {
+  Line(minimum, range.minimum);
+  Line(maximum, range.maximum);
 }
 
 void TraceSink::OnBody(const Plate& plate) {
@@ -80,21 +99,20 @@ void TraceSink::OnRow(const RuleRow& row) {
 
 void TraceSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate&, bool passed) {
   if (passed) return;
-  const SizeTexts& texts = kSizeTexts[static_cast<std::size_t>(size.condition)];
+  const SizeTexts& texts = TextsOf(kSizeTexts, size.condition);
   Line(texts.refusal);
-  Line(texts.minimum, row.*size.minimum);
-  Line(texts.maximum, row.*size.maximum);
+  RangeLines(texts.minimum, texts.maximum, row.*size.range);
 }
 
-void TraceSink::OnMaterial(const RuleRow& row, const Plate& plate, bool passed) {
+void TraceSink::OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool passed) {
   if (passed) return;
   Line("材料颜色不符合此规则！"_gbk);
   Line("材料颜色:"_gbk, plate.color);
-  for (const int color : row.materialColors) Line("材料颜色配置:"_gbk, color);
+  for (const int color : accepted) Line("材料颜色配置:"_gbk, color);
 }
 
-void TraceSink::OnFaces(Condition condition, bool wanted, bool present) {
-  const FaceTexts& texts = condition == Condition::kProfile ? kProfileTexts : kWireCuttingTexts;
+void TraceSink::OnFaces(Condition condition, const std::vector<int>&, bool wanted, bool present) {
+  const FaceTexts& texts = TextsOf(kFaceTexts, condition);
   Line(texts.wanted, wanted ? 1 : 0);
   Line("bInclude:", present ? 1 : 0);
   if (present && !wanted) Line(texts.presentButNotWanted);
@@ -102,17 +120,14 @@ void TraceSink::OnFaces(Condition condition, bool wanted, bool present) {
 }
 
 void TraceSink::OnMatch(const RuleRow& row, const std::string& text) {
-  Line("vecRuleInfos[i].dbMinLength；"_gbk, row.dbMinLength);
-  Line("vecRuleInfos[i].dbMaxLength；"_gbk, row.dbMaxLength);
-  Line("vecRuleInfos[i].dbMinWidth；"_gbk, row.dbMinWidth);
-  Line("vecRuleInfos[i].dbMaxWidth；"_gbk, row.dbMaxWidth);
-  Line("vecRuleInfos[i].dbMinHeight；"_gbk, row.dbMinHeight);
-  Line("vecRuleInfos[i].dbMaxHeight；"_gbk, row.dbMaxHeight);
+  RangeLines("vecRuleInfos[i].dbMinLength；"_gbk, "vecRuleInfos[i].dbMaxLength；"_gbk, row.length);
+  RangeLines("vecRuleInfos[i].dbMinWidth；"_gbk, "vecRuleInfos[i].dbMaxWidth；"_gbk, row.width);
+  RangeLines("vecRuleInfos[i].dbMinHeight；"_gbk, "vecRuleInfos[i].dbMaxHeight；"_gbk, row.height);
   Line(text);
 }
 
 std::unique_ptr<EvaluationSink> MakeTraceSink(DiagnosticFile& file) {
-  if (!file.IsOpen()) return std::make_unique<EvaluationSink>();
+  if (!file.IsOpen()) return std::make_unique<SilentSink>();
   return std::make_unique<TraceSink>(file);
 }
 

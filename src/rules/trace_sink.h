@@ -26,14 +26,15 @@ class TraceSink : public EvaluationSink {
                 const std::vector<int>& wireCutting) override;
   void OnRow(const RuleRow& row) override;
   void OnSize(const SizeCondition& size, const RuleRow& row, const Plate& plate, bool passed) override;
-  void OnMaterial(const RuleRow& row, const Plate& plate, bool passed) override;
-  void OnFaces(Condition condition, bool wanted, bool present) override;
+  void OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool passed) override;
+  void OnFaces(Condition condition, const std::vector<int>& colors, bool wanted, bool present) override;
   void OnMatch(const RuleRow& row, const std::string& text) override;
 
  private:
   void Line(std::string_view text);
   void Line(std::string_view label, double value);
   void Line(std::string_view label, int value);
+  void RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range);
   void ColorBlock(std::string_view title, std::string_view label, const std::vector<int>& colors);
 
   DiagnosticFile& file_;

@@ -17,6 +17,8 @@ namespace {
 int MatchedLine(const RuleTables& tables, const Plate& plate) {
   RecordingSink sink;
   EvaluatePlate(tables, plate, {}, sink);
+  const RuleRow* row = FindRow(tables, plate);
+  EXPECT_EQ(row == nullptr ? 0 : row->lineNumber, sink.matchedLine);
   return sink.matchedLine;
 }
 
@@ -27,7 +29,7 @@ std::string Steps(const RuleTables& tables, const Plate& plate, bool everyCondit
 }
 
 std::string Text(const RuleTables& tables, const std::vector<ProcessRule>& rules, const Plate& plate = {}) {
-  EvaluationSink sink;
+  SilentSink sink;
   return EvaluatePlate(tables, plate, rules, sink);
 }
 
@@ -235,6 +237,20 @@ TEST(EvaluationSteps, AnExplanationDoesNotChangeTheMatch) {
   RecordingSink sink(true);
   EvaluatePlate(tables, MakePlate(80), {}, sink);
   EXPECT_EQ(sink.matchedLine, 3);
+}
+
+/// Would note the steps, but does not listen.
+class DeafSink : public RecordingSink {
+ public:
+  bool Listens() const override { return false; }
+};
+
+TEST(EvaluationSteps, ASinkThatDoesNotListenIsToldNothingAndChangesNothing) {
+  const RuleTables tables = LoadTexts("模板所在图层,长度范围,钻孔\n1,0_50,钻5\n1,0_100,钻8\n");
+  DeafSink sink;
+  EXPECT_EQ(EvaluatePlate(tables, MakePlate(80), {ValidRule("钻孔")}, sink), Gbk("钻8"));
+  EXPECT_EQ(sink.steps, "");
+  EXPECT_EQ(sink.matchedLine, 0);
 }
 
 // ---- text ----

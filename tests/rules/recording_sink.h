@@ -14,15 +14,13 @@ class RecordingSink : public EvaluationSink {
 
   void OnRow(const RuleRow& row) override { Note("row" + std::to_string(row.lineNumber)); }
   void OnSize(const SizeCondition& size, const RuleRow&, const Plate&, bool passed) override {
-    constexpr const char* kNames[] = {"length", "width", "height", "weight"};
-    Note(std::string(kNames[static_cast<std::size_t>(size.condition)]) + (passed ? "+" : "-"));
+    Note(NameOf(size.condition) + (passed ? "+" : "-"));
   }
-  void OnMaterial(const RuleRow&, const Plate&, bool passed) override {
-    Note(passed ? "material+" : "material-");
+  void OnMaterial(const std::vector<int>&, const Plate&, bool passed) override {
+    Note(NameOf(Condition::kMaterial) + (passed ? "+" : "-"));
   }
-  void OnFaces(Condition condition, bool wanted, bool present) override {
-    Note(std::string(condition == Condition::kProfile ? "profile" : "wire") +
-         (wanted == present ? "+" : "-"));
+  void OnFaces(Condition condition, const std::vector<int>&, bool wanted, bool present) override {
+    Note(NameOf(condition) + (wanted == present ? "+" : "-"));
   }
   void OnMatch(const RuleRow& row, const std::string&) override { matchedLine = row.lineNumber; }
   bool WantsEveryCondition() const override { return everyCondition_; }
@@ -31,6 +29,26 @@ class RecordingSink : public EvaluationSink {
   int matchedLine = 0;  ///< 0 when no row matched.
 
  private:
+  static std::string NameOf(Condition condition) {
+    switch (condition) {
+      case Condition::kLength:
+        return "length";
+      case Condition::kWidth:
+        return "width";
+      case Condition::kHeight:
+        return "height";
+      case Condition::kWeight:
+        return "weight";
+      case Condition::kMaterial:
+        return "material";
+      case Condition::kProfile:
+        return "profile";
+      case Condition::kWireCutting:
+        return "wire";
+    }
+    return "";
+  }
+
   void Note(const std::string& word) { steps += (steps.empty() ? "" : " ") + word; }
 
   bool everyCondition_;

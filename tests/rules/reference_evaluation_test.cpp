@@ -155,6 +155,8 @@ class Batch {
     sink.OnBody(measured);
     ASSERT_EQ(EvaluatePlate(tables, measured, rules, sink), naive.text) << GbkToUtf8(naive.trace);
     ASSERT_EQ(sink.line, naive.line) << GbkToUtf8(naive.trace);
+    const RuleRow* row = FindRow(tables, measured);
+    ASSERT_EQ(row == nullptr ? 0 : row->lineNumber, naive.line) << GbkToUtf8(naive.trace);
   }
 
   static void CompareLibrary(const ProcessRuleLibrary& library, const std::vector<ProcessRule>& rules,

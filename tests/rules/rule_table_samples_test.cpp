@@ -17,8 +17,6 @@ namespace {
 
 using testing::ElementsAre;
 
-using Range = std::pair<double, double>;
-
 RuleTables LoadSample(const std::string& name) {
   const std::string folder = PLATECONFIG_SAMPLES_DIR "/config/" + name;
   return LoadRuleTables(Gbk(folder + "/工艺规则.csv"), Gbk(folder + "/工艺设置.csv"));
@@ -43,8 +41,8 @@ TEST(RuleTableSamples, TheStandardConfigurationLoadsWhole) {
   const RuleRow& first = tables.ruleRows.front();
   EXPECT_EQ(first.lineNumber, 2);
   EXPECT_EQ(first.layer, 18);
-  EXPECT_EQ(Range(first.dbMinLength, first.dbMaxLength), Range(180, 350));
-  EXPECT_EQ(Range(first.dbMinHeight, first.dbMaxHeight), Range(30, 60));
+  EXPECT_EQ(first.length, (SizeRange{180, 350}));
+  EXPECT_EQ(first.height, (SizeRange{30, 60}));
   EXPECT_TRUE(first.hasProfile && first.hasWireCutting);
   EXPECT_EQ(tables.ruleRows.back().lineNumber, 72);
 }
@@ -60,7 +58,7 @@ TEST(RuleTableSamples, ThePrecisionConfigurationLoadsWhole) {
   EXPECT_TRUE(tables.outputLineNumber);
   EXPECT_FALSE(tables.appendAttribute);
   EXPECT_EQ(tables.ruleRows.back().lineNumber, 40);
-  EXPECT_EQ(Range(tables.ruleRows.back().dbMinLength, tables.ruleRows.back().dbMaxLength), Range(10, 600));
+  EXPECT_EQ(tables.ruleRows.back().length, (SizeRange{10, 600}));
 }
 
 TEST(RuleTableSamples, UseEveryKindOfCondition) {
@@ -87,7 +85,7 @@ TEST(RuleTableSamples, RowsAreOfBothMaterialsAndOfEveryNeed) {
     std::set<std::pair<bool, bool>> needs;
     const RuleTables tables = LoadSample(name);
     for (const RuleRow& row : tables.ruleRows) {
-      soft += row.materialColors == tables.softMaterialColors ? 1 : 0;
+      soft += row.material == Material::kSoft ? 1 : 0;
       needs.emplace(row.hasProfile, row.hasWireCutting);
     }
     EXPECT_EQ(soft, name == "标准" ? 48 : 24);

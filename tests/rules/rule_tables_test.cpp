@@ -16,8 +16,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using Range = std::pair<double, double>;
-
 // ---- settings ----
 
 RuleTables LoadSettings(std::string_view settings) {
@@ -206,47 +204,47 @@ TEST(RuleTableRanges, TwoPiecesAreMinimumAndMaximum) {
   const RuleTables tables = LoadTexts(Joined(kRowHeader, "1,10_200,20_300.5,5_60,0_45,,,,,\n"));
   ASSERT_EQ(tables.ruleRows.size(), 1u);
   const RuleRow& row = tables.ruleRows[0];
-  EXPECT_EQ(Range(row.dbMinLength, row.dbMaxLength), Range(10, 200));
-  EXPECT_EQ(Range(row.dbMinWidth, row.dbMaxWidth), Range(20, 300.5));
-  EXPECT_EQ(Range(row.dbMinHeight, row.dbMaxHeight), Range(5, 60));
-  EXPECT_EQ(Range(row.dbMinWeight, row.dbMaxWeight), Range(0, 45));
+  EXPECT_EQ(row.length, (SizeRange{10, 200}));
+  EXPECT_EQ(row.width, (SizeRange{20, 300.5}));
+  EXPECT_EQ(row.height, (SizeRange{5, 60}));
+  EXPECT_EQ(row.weight, (SizeRange{0, 45}));
 }
 
 TEST(RuleTableRanges, AnyOtherCountOfPiecesKeepsTheDefaults) {
   for (const std::string_view cell : {"", "10", "10_20_30", "10-200", "__"}) {
     const RuleRow length = LoadRow("长度范围", cell);
-    EXPECT_EQ(Range(length.dbMinLength, length.dbMaxLength), Range(0, 999999)) << cell;
+    EXPECT_EQ(length.length, (SizeRange{0, 999999})) << cell;
     const RuleRow width = LoadRow("宽度范围", cell);
-    EXPECT_EQ(Range(width.dbMinWidth, width.dbMaxWidth), Range(0, 999999)) << cell;
+    EXPECT_EQ(width.width, (SizeRange{0, 999999})) << cell;
     const RuleRow height = LoadRow("厚度范围", cell);
-    EXPECT_EQ(Range(height.dbMinHeight, height.dbMaxHeight), Range(0, 999999)) << cell;
+    EXPECT_EQ(height.height, (SizeRange{0, 999999})) << cell;
     const RuleRow weight = LoadRow("重量范围", cell);
-    EXPECT_EQ(Range(weight.dbMinWeight, weight.dbMaxWeight), Range(0, 999999)) << cell;
+    EXPECT_EQ(weight.weight, (SizeRange{0, 999999})) << cell;
   }
 }
 
 TEST(RuleTableRanges, PiecesThatAreNoNumbersReadAsZero) {
-  const std::pair<std::string_view, Range> cells[] = {
+  const std::pair<std::string_view, SizeRange> cells[] = {
       {"10_", {10, 0}}, {"_200", {0, 200}},       {"_", {0, 0}},
       {"a_b", {0, 0}},  {"10mm_1e3", {10, 1000}}, {"200_10", {200, 10}}};
   for (const auto& [cell, range] : cells) {
     const RuleRow row = LoadRow("长度范围", cell);
-    EXPECT_EQ(Range(row.dbMinLength, row.dbMaxLength), range) << cell;
+    EXPECT_EQ(row.length, range) << cell;
   }
 }
 
 TEST(RuleTableRanges, TheSecondByteOfAChineseCharacterDoesNotSeparate) {
   const RuleRow row = LoadRow("长度范围", "乢10_200");
-  EXPECT_EQ(Range(row.dbMinLength, row.dbMaxLength), Range(0, 200));
+  EXPECT_EQ(row.length, (SizeRange{0, 200}));
 }
 
 TEST(RuleTableRows, ARowWithoutALayerIsNoRuleRow) {
   const RuleTables tables = LoadTexts("模板所在图层,长度范围\n,1_2\n12,3_4\n,\n 13x,5_6\n");
   ASSERT_EQ(tables.ruleRows.size(), 2u);
   EXPECT_EQ(tables.ruleRows[0].layer, 12);
-  EXPECT_EQ(tables.ruleRows[0].dbMinLength, 3);
+  EXPECT_EQ(tables.ruleRows[0].length.minimum, 3);
   EXPECT_EQ(tables.ruleRows[1].layer, 13);
-  EXPECT_EQ(tables.ruleRows[1].dbMinLength, 5);
+  EXPECT_EQ(tables.ruleRows[1].length.minimum, 5);
 }
 
 TEST(RuleTableRows, LineNumbersAreThoseOfTheSpreadsheet) {
@@ -265,24 +263,29 @@ TEST(RuleTableRows, ALayerThatIsNoNumberIsARowOnLayerZero) {
   EXPECT_EQ(LoadTexts("模板所在图层\nx\n").ruleRows.at(0).layer, 0);
 }
 
+/// The body colours that the first row accepts.
+std::vector<int> FirstRowsColors(const RuleTables& tables) {
+  return tables.MaterialColors(tables.ruleRows.at(0).material);
+}
+
 constexpr std::string_view kMaterials =
     "通用要求,通用参数,模板所在图层,材质要求\n软料（体颜色）,12,,\n硬料（体颜色）,42,,\n";
 
 TEST(RuleTableRows, TheSoftMaterialSelectsTheSoftColors) {
   const RuleTables tables = LoadTexts(Joined(kMaterials, ",,1,软料（体颜色）\n"));
-  EXPECT_THAT(tables.ruleRows.at(0).materialColors, ElementsAre(12));
+  EXPECT_THAT(FirstRowsColors(tables), ElementsAre(12));
 }
 
 TEST(RuleTableRows, EveryOtherMaterialSelectsTheHardColors) {
   for (const std::string_view cell : {"硬料（体颜色）", "软料（体颜色） ", "软料", "软料(体颜色)", "P20"}) {
     const RuleTables tables = LoadTexts(Joined(kMaterials, ",,1,", cell) + "\n");
-    EXPECT_THAT(tables.ruleRows.at(0).materialColors, ElementsAre(42)) << cell;
+    EXPECT_THAT(FirstRowsColors(tables), ElementsAre(42)) << cell;
   }
 }
 
 TEST(RuleTableRows, AnEmptyMaterialSelectsTheHardColors) {
-  EXPECT_THAT(LoadTexts(Joined(kMaterials, ",,1,\n")).ruleRows.at(0).materialColors, ElementsAre(42));
-  EXPECT_THAT(LoadTexts(Joined(kMaterials, ",,1\n")).ruleRows.at(0).materialColors, ElementsAre(42));
+  EXPECT_THAT(FirstRowsColors(LoadTexts(Joined(kMaterials, ",,1,\n"))), ElementsAre(42));
+  EXPECT_THAT(FirstRowsColors(LoadTexts(Joined(kMaterials, ",,1\n"))), ElementsAre(42));
 }
 
 TEST(RuleTableRows, ProfileAndWireCuttingAreWantedByTheirExactTexts) {
@@ -296,22 +299,13 @@ TEST(RuleTableRows, ProfileAndWireCuttingAreWantedByTheirExactTexts) {
   }
 }
 
-TEST(RuleTableRows, EveryRowHoldsTheTablesFaceColors) {
-  const RuleTables tables = LoadTexts("模板所在图层,通用要求,通用参数\n1,有型面,186_190\n2,有线割,103\n");
-  ASSERT_EQ(tables.ruleRows.size(), 2u);
-  for (const RuleRow& row : tables.ruleRows) {
-    EXPECT_THAT(row.profileColors, ElementsAre(186, 190));
-    EXPECT_THAT(row.wireCuttingColors, ElementsAre(103));
-  }
-}
-
 TEST(RuleTableRows, MissingColumnsReadAsEmptyCells) {
   const RuleTables tables = LoadTexts("模板所在图层,通用要求,通用参数\n7,硬料（体颜色）,42\n");
   ASSERT_EQ(tables.ruleRows.size(), 1u);
   const RuleRow& row = tables.ruleRows[0];
-  EXPECT_EQ(Range(row.dbMinLength, row.dbMaxLength), Range(0, 999999));
-  EXPECT_EQ(Range(row.dbMinWeight, row.dbMaxWeight), Range(0, 999999));
-  EXPECT_THAT(row.materialColors, ElementsAre(42));
+  EXPECT_EQ(row.length, (SizeRange{0, 999999}));
+  EXPECT_EQ(row.weight, (SizeRange{0, 999999}));
+  EXPECT_THAT(FirstRowsColors(tables), ElementsAre(42));
   EXPECT_FALSE(row.hasProfile);
   EXPECT_FALSE(row.hasWireCutting);
 }
@@ -329,7 +323,7 @@ TEST(RuleTables, TheGroupsOfColumnsOnlyShareTheRows) {
   EXPECT_EQ(tables.processRules.size(), 1u);
   ASSERT_EQ(tables.ruleRows.size(), 1u);
   EXPECT_EQ(tables.ruleRows[0].lineNumber, 3);
-  EXPECT_THAT(tables.ruleRows[0].profileColors, ElementsAre(186));
+  EXPECT_THAT(tables.profileColors, ElementsAre(186));
 }
 
 TEST(RuleTables, AMissingTableGivesAnEmptyLibrary) {

@@ -16,8 +16,7 @@ RuleRow Row(int line) {
 
 RuleRow RowOfLength(int line, double minimum, double maximum) {
   RuleRow row = Row(line);
-  row.dbMinLength = minimum;
-  row.dbMaxLength = maximum;
+  row.length = {minimum, maximum};
   return row;
 }
 
@@ -27,9 +26,9 @@ Plate PlateOfLength(double length) {
   return plate;
 }
 
-/// What a plate meets in a table of these rows. The sink refers to the rows' tables no longer than the call.
-ExplanationSink Explain(const std::vector<RuleRow>& rows, const Plate& plate) {
-  RuleTables tables;
+/// What a plate meets in a table of these rows and of the colours of `tables`. The sink refers to the tables
+/// no longer than the call.
+ExplanationSink Explain(const std::vector<RuleRow>& rows, const Plate& plate, RuleTables tables = {}) {
   tables.ruleRows = rows;
   ExplanationSink sink;
   EvaluatePlate(tables, plate, {}, sink);
@@ -60,8 +59,7 @@ TEST(Explanation, ASizeComesWithItsBoundsAndItsMiss) {
   const auto tooLong = Explain({RowOfLength(2, 100, 1200)}, PlateOfLength(1203)).RefusedRows();
   const Refusal& above = tooLong.at(0).refusals.at(0);
   EXPECT_EQ(above.condition, Condition::kLength);
-  EXPECT_EQ(above.minimum, 100);
-  EXPECT_EQ(above.maximum, 1200);
+  EXPECT_EQ(above.range, (SizeRange{100, 1200}));
   EXPECT_EQ(above.value, 1203);
   EXPECT_EQ(above.Miss(), 3);
   const auto tooShort = Explain({RowOfLength(2, 100, 1200)}, PlateOfLength(92)).RefusedRows();
@@ -70,14 +68,15 @@ TEST(Explanation, ASizeComesWithItsBoundsAndItsMiss) {
 
 TEST(Explanation, EveryConditionThatFailsIsListedInTheirOrder) {
   RuleRow row = Row(2);
-  row.dbMinLength = row.dbMinWidth = row.dbMinHeight = row.dbMinWeight = 10;
-  row.materialColors = {12};
-  row.profileColors = {190};
+  row.length = row.width = row.height = row.weight = {10, 20};
   row.hasProfile = true;
-  row.wireCuttingColors = {103};
+  RuleTables tables;
+  tables.hardMaterialColors = {12};
+  tables.profileColors = {190};
+  tables.wireCuttingColors = {103};
   Plate plate;
   plate.faceColors = {103};
-  const auto rows = Explain({row}, plate).RefusedRows();
+  const auto rows = Explain({row}, plate, tables).RefusedRows();
   EXPECT_THAT(Conditions(rows.at(0)),
               ElementsAre(Condition::kLength, Condition::kWidth, Condition::kHeight, Condition::kWeight,
                           Condition::kMaterial, Condition::kProfile, Condition::kWireCutting));
@@ -85,14 +84,17 @@ TEST(Explanation, EveryConditionThatFailsIsListedInTheirOrder) {
 
 TEST(Explanation, ColoursComeWithWhatTheRowWanted) {
   RuleRow row = Row(2);
-  row.materialColors = {12, 87};
-  row.profileColors = {190};
+  row.material = Material::kSoft;
   row.hasProfile = true;
-  row.wireCuttingColors = {103, 181};
+  RuleTables tables;
+  tables.softMaterialColors = {12, 87};
+  tables.hardMaterialColors = {42};
+  tables.profileColors = {190};
+  tables.wireCuttingColors = {103, 181};
   Plate plate;
   plate.color = 42;
   plate.faceColors = {103};
-  const auto refusals = Explain({row}, plate).RefusedRows().at(0).refusals;
+  const auto refusals = Explain({row}, plate, tables).RefusedRows().at(0).refusals;
   EXPECT_THAT(refusals.at(0).colors, ElementsAre(12, 87));
   EXPECT_THAT(refusals.at(1).colors, ElementsAre(190));
   EXPECT_TRUE(refusals.at(1).isWanted);
@@ -109,7 +111,7 @@ TEST(Explanation, WithoutAMatchTheNearestRowComesFirst) {
 
 TEST(Explanation, OneConditionFarOutIsNearerThanTwoThatJustFail) {
   RuleRow two = RowOfLength(2, 0, 1202);
-  two.dbMinWidth = 1;
+  two.width.minimum = 1;
   const auto sink = Explain({two, RowOfLength(3, 0, 1)}, PlateOfLength(1203));
   EXPECT_THAT(Lines(sink), ElementsAre(3, 2));
 }

@@ -15,24 +15,25 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 struct ConditionName {
+  Condition condition;
   const char* json;
   const char* english;
   const char* chinese;
 };
 
-// In the order of kConditions.
 constexpr ConditionName kConditionNames[] = {
-    {"length", "length", "长度"},
-    {"width", "width", "宽度"},
-    {"thickness", "thickness", "厚度"},
-    {"weight", "weight", "重量"},
-    {"material", "material", "材质"},
-    {"profile", "profile", "型面"},
-    {"wireCutting", "wire cutting", "线割"},
+    {Condition::kLength, "length", "length", "长度"},
+    {Condition::kWidth, "width", "width", "宽度"},
+    {Condition::kHeight, "thickness", "thickness", "厚度"},
+    {Condition::kWeight, "weight", "weight", "重量"},
+    {Condition::kMaterial, "material", "material", "材质"},
+    {Condition::kProfile, "profile", "profile", "型面"},
+    {Condition::kWireCutting, "wireCutting", "wire cutting", "线割"},
 };
+static_assert(std::ranges::equal(kConditionNames, kConditions, {}, &ConditionName::condition));
 
 const ConditionName& NamesOf(Condition condition) {
-  return kConditionNames[static_cast<std::size_t>(condition)];
+  return *std::ranges::find(kConditionNames, condition, &ConditionName::condition);
 }
 
 std::string ShownName(Condition condition) {
@@ -58,11 +59,11 @@ std::vector<int> Common(const std::vector<int>& faces, const std::vector<int>& c
 }
 
 std::string SizeText(const Refusal& refusal) {
-  const bool isBelow = refusal.value < refusal.minimum;
+  const bool isBelow = refusal.value < refusal.range.minimum;
   return Say("{0} {1} is {2} {3} the range {4} to {5}", "{0} {1} {3}范围 {4} 到 {5}，相差 {2}",
              ShownName(refusal.condition), Number(refusal.value), Number(refusal.Miss()),
-             isBelow ? Say("below", "小于") : Say("above", "大于"), Number(refusal.minimum),
-             Number(refusal.maximum));
+             isBelow ? Say("below", "小于") : Say("above", "大于"), Number(refusal.range.minimum),
+             Number(refusal.range.maximum));
 }
 
 std::string FacesText(const Refusal& refusal, const Plate& plate) {
@@ -130,7 +131,7 @@ void WriteText(const PlateInput& input, const ExplanationSink& explanation, cons
 Json ToJson(const Refusal& refusal, const Plate& plate) {
   Json json = {{"condition", NamesOf(refusal.condition).json}};
   if (refusal.IsSize()) {
-    json.update({{"minimum", refusal.minimum}, {"maximum", refusal.maximum}});
+    json.update({{"minimum", refusal.range.minimum}, {"maximum", refusal.range.maximum}});
     json.update({{"value", refusal.value}, {"missedBy", refusal.Miss()}});
   } else if (refusal.condition == Condition::kMaterial) {
     json.update({{"accepted", refusal.colors}, {"value", plate.color}});
