@@ -103,4 +103,8 @@ std::optional<std::pair<double, double>> SplitRange(const std::string& cell) {
   return std::pair(bounds[0], bounds[1]);
 }
 
+std::string RangeText(double minimum, double maximum) {
+  return NumberText(minimum) + "_" + NumberText(maximum);
+}
+
 }  // namespace plateconfig

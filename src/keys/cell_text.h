@@ -52,5 +52,6 @@ std::string JoinInts(const std::vector<int>& numbers);
 
 /// The bounds of a cell min_max; nothing unless it has exactly two pieces.
 std::optional<std::pair<double, double>> SplitRange(const std::string& cell);
+std::string RangeText(double minimum, double maximum);
 
 }  // namespace plateconfig

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -31,7 +32,17 @@ namespace plateconfig {
 enum class RowRule {
   kNone,
   kRequired,  ///< A row whose cell the kind does not accept is skipped.
+  kDecides,   ///< The same, and no mistake: without the cell, the row's other columns are somebody's remarks.
   kBounds,    ///< Rows count down to the column's last filled cell.
+};
+
+/// What a column is for beside holding values.
+enum class ColumnUse {
+  kValues,
+  kParameterNames,   ///< Its cells name the general parameters.
+  kParameterValues,  ///< Its cells are what they are.
+  kColumnNames,      ///< Its cells name further columns.
+  kPlaceholder,      ///< It stands for columns whose names the user chooses.
 };
 
 /// One column: a setting of `Record`, or one field of the records that run down the rows.
@@ -43,6 +54,13 @@ struct Key {
   Unit unit;
   std::string_view help;
   RowRule rowRule = RowRule::kNone;
+  ColumnUse use = ColumnUse::kValues;
+};
+
+/// A record of a list that knows where its row stands.
+template <typename Record>
+concept KnowsItsLine = requires(Record& record) {
+  { record.lineNumber } -> std::same_as<int&>;
 };
 
 /// False when the rows name a column twice. Takes all rows that read the same table.
@@ -88,9 +106,7 @@ class Loader {
     std::size_t rows = 0;
     for (const Cells& column : columns) rows = std::max(rows, column.size());
     for (std::size_t row = 0; row < rows; ++row) {
-      if (!RowCounts(keys, columns, row)) continue;
-      Record& record = list.emplace_back();
-      for (std::size_t i = 0; i < std::size(keys); ++i) ReadKey(keys[i], {CellAt(columns[i], row)}, record);
+      if (RowCounts(keys, columns, row)) list.push_back(ReadRow<Record>(keys, columns, row));
     }
   }
 
@@ -102,6 +118,19 @@ class Loader {
       while (!cells.empty() && cells.back().empty()) cells.pop_back();
     }
     return cells;
+  }
+
+  template <typename Record, typename Keys>
+  static Record ReadRow(const Keys& keys, const std::vector<Cells>& columns, std::size_t row) {
+    Record record{};
+    if constexpr (KnowsItsLine<Record>)
+      record.lineNumber = static_cast<int>(row) + 2;  // The header is line 1.
+    Cells cell(1);
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+      cell.front() = CellAt(columns[i], row);
+      ReadKey(keys[i], cell, record);
+    }
+    return record;
   }
 
   template <typename Keys>

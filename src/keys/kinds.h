@@ -15,10 +15,14 @@
 // - `Print(record)`: the field as one cell, or as those of a list.
 // - `WhenAbsent()`: what an absent column gives.
 // - `Accepts(cell)`: whether a row of several columns may hold this cell.
+// - `Says(cell)`: false for a cell of a row that leaves the field as a fresh record has it.
+// - `Exact()`: the texts of a cell that has to be exactly one of them.
 
+#include <concepts>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -27,13 +31,23 @@
 
 namespace plateconfig {
 
-/// What most kinds have in common.
+/// What a cell that is compared with one text should hold, GBK: that text, or what says the opposite. Empty
+/// for any other cell.
+struct ExactTexts {
+  std::string_view wanted;
+  std::string_view opposite;
+};
+
+/// What most kinds have in common; a kind that has no value for an absent column belongs to rows.
 template <CellType type, bool isList = false>
 struct KindOf {
   static constexpr CellType kType = type;
   static constexpr bool kIsList = isList;
   static bool EmptyIsAbsent() { return false; }
   static bool Accepts(const std::string& cell) { return !cell.empty(); }
+  static bool Says(const std::string&) { return true; }
+  static ExactTexts Exact() { return {}; }
+  static Cells WhenAbsent() { return {}; }
 };
 
 /// What an empty first cell means.
@@ -156,7 +170,6 @@ struct TextList : KindOf<CellType::kText, true> {
   static CellForm Form() { return CellForm::kTexts; }
   void Read(Record& record, const Cells& cells) const { record.*field = cells; }
   Cells Print(const Record& record) const { return record.*field; }
-  Cells WhenAbsent() const { return {}; }
 };
 
 /// A list of numbers inside one cell, joined by "_". Every piece counts; one that is no number is 0.
@@ -171,7 +184,6 @@ struct JoinedInts : KindOf<CellType::kText> {
     record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
   }
   Cells Print(const Record& record) const { return {JoinInts(record.*field)}; }
-  Cells WhenAbsent() const { return {}; }
 };
 
 /// Two bounds inside one cell, min_max; any other number of pieces leaves them as they are.
@@ -184,20 +196,33 @@ struct Range : KindOf<CellType::kText> {
 
   static CellForm Form() { return CellForm::kRange; }
   static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
+  static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
   void Read(Record& record, const Cells& cells) const {
     const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());
     if (!bounds) return;
     record.*minimum = bounds->first;
     record.*maximum = bounds->second;
   }
-  Cells Print(const Record& record) const {
-    return {NumberText(record.*minimum) + "_" + NumberText(record.*maximum)};
-  }
-  Cells WhenAbsent() const { return {}; }
+  Cells Print(const Record& record) const { return {RangeText(record.*minimum, record.*maximum)}; }
+};
+
+/// What the walkers ask of every kind.
+template <typename Any, typename Record>
+concept KindOfCell = requires(const Any& kind, Record& record, const Cells& cells, const std::string& cell) {
+  { kind.Form() } -> std::same_as<CellForm>;
+  { Any::kType } -> std::convertible_to<CellType>;
+  { Any::kIsList } -> std::convertible_to<bool>;
+  { kind.EmptyIsAbsent() } -> std::same_as<bool>;
+  kind.Read(record, cells);
+  { kind.Print(std::as_const(record)) } -> std::same_as<Cells>;
+  { kind.WhenAbsent() } -> std::same_as<Cells>;
+  { kind.Accepts(cell) } -> std::same_as<bool>;
+  { kind.Says(cell) } -> std::same_as<bool>;
+  { kind.Exact() } -> std::same_as<ExactTexts>;
 };
 
 /// Every kind that all tables know, and those that only the tables of one folder have.
-template <typename Record, typename... Further>
+template <typename Record, KindOfCell<Record>... Further>
 using Kind = std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, IntList<Record>,
                           TextList<Record>, JoinedInts<Record>, Range<Record>, Further...>;
 

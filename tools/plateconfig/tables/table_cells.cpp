@@ -13,7 +13,6 @@
 #include "plateconfig/messages/shown_text.h"
 #include "plateconfig/messages/similar_name.h"
 #include "rules/condition_texts.h"
-#include "rules/rule_columns.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -71,36 +70,14 @@ std::string ConditionMistake(const std::string& cell) {
   return mistake + DidYouMean(similar);
 }
 
-/// Of a cell that looks like `exact` but for a letter, which makes it mean the opposite.
-std::string AlmostMistake(std::string_view exact, const std::string& cell) {
-  if (cell == exact) return {};
+/// Of a cell that looks like the wanted text but for a letter, which makes it mean the opposite.
+std::string ExactMistake(const ExactTexts& exact, const std::string& cell) {
+  if (cell == exact.wanted || cell == exact.opposite) return {};
   const std::string name = GbkToUtf8(cell);
-  const std::string wanted = GbkToUtf8(exact);
+  const std::string wanted = GbkToUtf8(exact.wanted);
   if (MostSimilarName(name, {wanted}).empty()) return {};
   return Say("\"{}\" is not exactly \"{}\" and counts as its opposite",
              "“{}”与“{}”不完全相同，因此视为相反的要求", ShownText(name), wanted);
-}
-
-/// The text that a cell of a rule row has to be exactly, and the one that says the opposite.
-struct ExactText {
-  std::string_view column;
-  std::string_view exact;
-  std::string_view opposite;
-};
-
-using namespace literals;
-
-constexpr ExactText kExactTexts[] = {
-    {columns::kHasProfile, columns::kProfileColors, "无型面"_gbk},
-    {columns::kHasWireCutting, columns::kWireCuttingColors, "无线割"_gbk},
-    {columns::kMaterial, columns::kSoftMaterial, columns::kHardMaterial},
-};
-
-std::string ExactMistake(const ColumnSchema& column, const std::string& cell) {
-  for (const ExactText& text : kExactTexts) {
-    if (column.column == text.column && cell != text.opposite) return AlmostMistake(text.exact, cell);
-  }
-  return {};
 }
 
 /// A general parameter of the rule table is found by its name.
@@ -149,7 +126,7 @@ std::string FilledCellMistake(const ColumnSchema& column, const std::string& cel
       return ConditionMistake(cell);
     case CellForm::kExactParameter:
     case CellForm::kExactSoftParameter:
-      return ExactMistake(column, cell);
+      return ExactMistake(column.exact, cell);
   }
   return {};
 }
@@ -162,15 +139,14 @@ struct CheckedColumn {
 
 /// The column that decides whether a row counts for this one, where the table has it.
 std::optional<std::size_t> FindDeciding(const ColumnSchema& column, const Table& table) {
-  const std::string_view name = DecidingColumn(column);
-  return name.empty() ? std::nullopt : table.FindColumn(name);
+  return column.decidedBy.empty() ? std::nullopt : table.FindColumn(column.decidedBy);
 }
 
 /// The columns that the library reads, by their place in the table.
 std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
   std::map<std::size_t, CheckedColumn> columns;
   for (const ColumnSchema& column : schema.columns) {
-    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
+    const auto at = column.use == ColumnUse::kPlaceholder ? std::nullopt : table.FindColumn(column.column);
     if (!at) continue;
     const std::size_t lastRow = column.isList || column.isRowColumn ? table.RowCount() : 1;
     columns.insert({*at, {column, FindDeciding(column, table), lastRow}});
@@ -180,19 +156,9 @@ std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const Ta
 
 }  // namespace
 
-std::string_view DecidingColumn(const ColumnSchema& column) {
-  if (column.column == columns::kConditionType || column.column == columns::kConditionValue)
-    return columns::kProcessName;
-  const bool isRuleRow = column.column == columns::kLengthRange || column.column == columns::kWidthRange ||
-                         column.column == columns::kHeightRange || column.column == columns::kWeightRange ||
-                         column.column == columns::kHasProfile || column.column == columns::kHasWireCutting ||
-                         column.column == columns::kMaterial;
-  return isRuleRow ? columns::kLayer : std::string_view();
-}
-
 std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
   if (cell.empty()) return {};
-  if (column.column == columns::kParameterName) return ParameterMistake(column, cell);
+  if (column.use == ColumnUse::kParameterNames) return ParameterMistake(column, cell);
   return FilledCellMistake(column, cell);
 }
 
