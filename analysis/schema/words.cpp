@@ -68,10 +68,6 @@ Words WordsOf(Unit unit) {
       return {"count", "个"};
     case Unit::kRows:
       return {"rows", "行"};
-    case Unit::kSeconds:
-      return {"seconds", "秒"};
-    case Unit::kKg:
-      return {"kg", "kg"};
     case Unit::kDensity:
       return {"g/cm³", "g/cm³"};
   }

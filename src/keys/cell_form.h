@@ -29,6 +29,7 @@ enum class CellForm {
   kExactSoftParameter,  ///< Exactly the name of the soft material's parameter, or anything else.
 };
 
+/// Where nothing says what a value is measured in, there is none: a guess would be taken for a fact.
 enum class Unit {
   kNone,
   kMm,
@@ -39,8 +40,6 @@ enum class Unit {
   kDecimals,
   kCount,
   kRows,
-  kSeconds,
-  kKg,
   kDensity,  ///< g/cm³
 };
 

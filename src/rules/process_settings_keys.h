@@ -14,8 +14,8 @@ using literals::operator""_gbk;
 inline constexpr Key<RuleTables> kProcessSettingsKeys[] = {
     {"连接符号"_gbk, Text{&RuleTables::connectText}, Unit::kNone, "text between two processes"},
     {"输入文字方式"_gbk, Flag{&RuleTables::singleLine, false, FlagLetters::kYesIfUpperY}, Unit::kNone, "place the processes as one line"},
-    {"制造流程左边距"_gbk, Number{&RuleTables::leftMargin}, Unit::kMm, "left margin of the process text"},
-    {"制造流程顶边距"_gbk, Number{&RuleTables::topMargin}, Unit::kMm, "top margin of the process text"},
+    {"制造流程左边距"_gbk, Number{&RuleTables::leftMargin}, Unit::kNone, "left margin of the process text"},
+    {"制造流程顶边距"_gbk, Number{&RuleTables::topMargin}, Unit::kNone, "top margin of the process text"},
     {"制造流程CAD图层"_gbk, Integer{&RuleTables::textLayer}, Unit::kLayer, "layer of the process text"},
     {"制造流程文字样式"_gbk, Text{&RuleTables::textFont}, Unit::kNone, "font of the process text"},
     {"输出行号"_gbk, Flag{&RuleTables::outputLineNumber, false, FlagLetters::kYesIfUpperY}, Unit::kNone, "write the line of the matching row in front"},

@@ -64,7 +64,7 @@ inline constexpr ConditionKey<RuleRow> kRuleRowKeys[] = {
     {"长度范围"_gbk, Sizes{&RuleRow::length}, Unit::kMm, "lengths; empty = any"},
     {"宽度范围"_gbk, Sizes{&RuleRow::width}, Unit::kMm, "widths; empty = any"},
     {"厚度范围"_gbk, Sizes{&RuleRow::height}, Unit::kMm, "thicknesses; empty = any"},
-    {"重量范围"_gbk, Sizes{&RuleRow::weight}, Unit::kKg, "weights; empty = any"},
+    {"重量范围"_gbk, Sizes{&RuleRow::weight}, Unit::kNone, "weights; empty = any"},
     {"有无型面"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasProfile, CellForm::kExactParameter, {kProfile.name, true}, {"无型面"_gbk, false}}, Unit::kNone, "with or without a profile"},
     {"有无线割"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasWireCutting, CellForm::kExactParameter, {kWireCutting.name, true}, {"无线割"_gbk, false}}, Unit::kNone, "with or without wire cutting"},
     {"材质要求"_gbk, Exactly<RuleRow, Material>{&RuleRow::material, CellForm::kExactSoftParameter, {kSoftMaterial.name, Material::kSoft}, {kHardMaterial.name, Material::kHard}}, Unit::kNone, "soft or hard material"},

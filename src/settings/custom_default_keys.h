@@ -26,23 +26,23 @@ inline constexpr CustomKey<CustomDefault::NormalInfo> kNormalKeys[] = {
 };
 
 inline constexpr CustomKey<CustomDefault::MainSheetInfo> kMainSheetKeys[] = {
-    {"爆炸图-左边距"_gbk, Number{&CustomDefault::MainSheetInfo::leftMargin, 0.2}, Unit::kRatio, "left margin of the exploded view"},
-    {"爆炸图-顶边距"_gbk, Number{&CustomDefault::MainSheetInfo::topMargin, 0.2}, Unit::kRatio, "top margin of the exploded view"},
+    {"爆炸图-左边距"_gbk, Number{&CustomDefault::MainSheetInfo::leftMargin, 0.2}, Unit::kNone, "left margin of the exploded view"},
+    {"爆炸图-顶边距"_gbk, Number{&CustomDefault::MainSheetInfo::topMargin, 0.2}, Unit::kNone, "top margin of the exploded view"},
     {"爆炸图-视图图组尺寸与图框尺寸比例"_gbk, Number{&CustomDefault::MainSheetInfo::viewGroupRatio, 0.6}, Unit::kRatio, "view group to frame, exploded view"},
 };
 
 inline constexpr CustomKey<CustomDefault::SubSheetInfo> kSubSheetKeys[] = {
-    {"分图-左边距"_gbk, Number{&CustomDefault::SubSheetInfo::leftMargin, 0.1}, Unit::kRatio, "left margin of a sub-sheet"},
-    {"分图-顶边距"_gbk, Number{&CustomDefault::SubSheetInfo::topMargin, 0.1}, Unit::kRatio, "top margin of a sub-sheet"},
+    {"分图-左边距"_gbk, Number{&CustomDefault::SubSheetInfo::leftMargin, 0.1}, Unit::kNone, "left margin of a sub-sheet"},
+    {"分图-顶边距"_gbk, Number{&CustomDefault::SubSheetInfo::topMargin, 0.1}, Unit::kNone, "top margin of a sub-sheet"},
     {"分图-视图图组尺寸与图框尺寸比例"_gbk, Number{&CustomDefault::SubSheetInfo::viewGroupRatio, 0.5}, Unit::kRatio, "view group to frame, sub-sheet"},
     {"分图-视图间距比例"_gbk, Number{&CustomDefault::SubSheetInfo::viewGapRatio, 0.05}, Unit::kRatio, "spacing of views on a sub-sheet"},
 };
 
 inline constexpr CustomKey<CustomDefault::MachineInfo> kMachineKeys[] = {
-    {"加工注解-左边距-横版布局"_gbk, Number{&CustomDefault::MachineInfo::leftMarginLandscape, 0.75}, Unit::kRatio, "left margin of the machining notes, landscape"},
-    {"加工注解-顶边距-横版布局"_gbk, Number{&CustomDefault::MachineInfo::topMarginLandscape, 0.1}, Unit::kRatio, "top margin of the machining notes, landscape"},
-    {"加工注解-左边距-竖版布局"_gbk, Number{&CustomDefault::MachineInfo::leftMarginPortrait, 0.1}, Unit::kRatio, "left margin of the machining notes, portrait"},
-    {"加工注解-顶边距-竖版布局"_gbk, Number{&CustomDefault::MachineInfo::topMarginPortrait, 0.75}, Unit::kRatio, "top margin of the machining notes, portrait"},
+    {"加工注解-左边距-横版布局"_gbk, Number{&CustomDefault::MachineInfo::leftMarginLandscape, 0.75}, Unit::kNone, "left margin of the machining notes, landscape"},
+    {"加工注解-顶边距-横版布局"_gbk, Number{&CustomDefault::MachineInfo::topMarginLandscape, 0.1}, Unit::kNone, "top margin of the machining notes, landscape"},
+    {"加工注解-左边距-竖版布局"_gbk, Number{&CustomDefault::MachineInfo::leftMarginPortrait, 0.1}, Unit::kNone, "left margin of the machining notes, portrait"},
+    {"加工注解-顶边距-竖版布局"_gbk, Number{&CustomDefault::MachineInfo::topMarginPortrait, 0.75}, Unit::kNone, "top margin of the machining notes, portrait"},
     {"加工注解-分行线图层"_gbk, Integer{&CustomDefault::MachineInfo::separatorLayer, 1}, Unit::kLayer, "layer of the lines between the note rows"},
     {"加工注解-注解图层"_gbk, Integer{&CustomDefault::MachineInfo::noteLayer, 1}, Unit::kLayer, "layer of the machining notes"},
     {"加工注解-分行线颜色"_gbk, Integer{&CustomDefault::MachineInfo::separatorColor, 1}, Unit::kColor, "colour of the lines between the note rows"},
@@ -62,15 +62,15 @@ inline constexpr CustomKey<CustomDefault::FeatureMarkInfo> kFeatureMarkKeys[] = 
 };
 
 inline constexpr CustomKey<CustomDefault::SubSheetMarkInfo> kSubSheetMarkKeys[] = {
-    {"分图代号-左边距"_gbk, Number{&CustomDefault::SubSheetMarkInfo::leftMargin, 0.05}, Unit::kRatio, "left margin of a sub-sheet's code"},
-    {"分图代号-顶边距"_gbk, Number{&CustomDefault::SubSheetMarkInfo::topMargin, 0.05}, Unit::kRatio, "top margin of a sub-sheet's code"},
+    {"分图代号-左边距"_gbk, Number{&CustomDefault::SubSheetMarkInfo::leftMargin, 0.05}, Unit::kNone, "left margin of a sub-sheet's code"},
+    {"分图代号-顶边距"_gbk, Number{&CustomDefault::SubSheetMarkInfo::topMargin, 0.05}, Unit::kNone, "top margin of a sub-sheet's code"},
     {"分图代号-注解图层"_gbk, Integer{&CustomDefault::SubSheetMarkInfo::layer, 1}, Unit::kLayer, "layer of the sub-sheets' codes"},
     {"分图代号-注解样式"_gbk, Style{&CustomDefault::SubSheetMarkInfo::style}, Unit::kNone, "style of the sub-sheets' codes"},
 };
 
 inline constexpr CustomKey<CustomDefault::BallMarkInfo> kBallMarkKeys[] = {
-    {"球标-底边距"_gbk, Number{&CustomDefault::BallMarkInfo::bottomMargin, 0.8}, Unit::kRatio, "bottom margin of the ball marks"},
-    {"球标-顶边距"_gbk, Number{&CustomDefault::BallMarkInfo::topMargin, 0.2}, Unit::kRatio, "top margin of the ball marks"},
+    {"球标-底边距"_gbk, Number{&CustomDefault::BallMarkInfo::bottomMargin, 0.8}, Unit::kNone, "bottom margin of the ball marks"},
+    {"球标-顶边距"_gbk, Number{&CustomDefault::BallMarkInfo::topMargin, 0.2}, Unit::kNone, "top margin of the ball marks"},
     {"球标-圆圈直径"_gbk, Number{&CustomDefault::BallMarkInfo::circleDiameter, 12.0}, Unit::kMm, "diameter of a ball mark's circle"},
     {"球标-文字大小与圆圈直径的比例"_gbk, Number{&CustomDefault::BallMarkInfo::textToCircleRatio, 0.8}, Unit::kRatio, "text of a ball mark to its circle"},
     {"球标-注解图层"_gbk, Integer{&CustomDefault::BallMarkInfo::layer, 1}, Unit::kLayer, "layer of the ball marks"},
@@ -81,8 +81,8 @@ inline constexpr CustomKey<CustomDefault::BallMarkInfo> kBallMarkKeys[] = {
 // Frame information.
 
 inline constexpr CustomKey<CustomDefault::FrameInfo> kFrameKeys[] = {
-    {"图框信息-左边距"_gbk, Number{&CustomDefault::FrameInfo::leftMargin}, Unit::kRatio, "left margin of a frame text"},
-    {"图框信息-顶边距"_gbk, Number{&CustomDefault::FrameInfo::topMargin}, Unit::kRatio, "top margin of a frame text"},
+    {"图框信息-左边距"_gbk, Number{&CustomDefault::FrameInfo::leftMargin}, Unit::kNone, "left margin of a frame text"},
+    {"图框信息-顶边距"_gbk, Number{&CustomDefault::FrameInfo::topMargin}, Unit::kNone, "top margin of a frame text"},
     {"图框信息-注解图层"_gbk, Integer{&CustomDefault::FrameInfo::layer}, Unit::kLayer, "layer of a frame text"},
     {"图框信息-属性名称"_gbk, Text{&CustomDefault::FrameInfo::attrName}, Unit::kNone, "part attribute that the frame shows", RowRule::kRequired},
     {"图框信息-注解样式"_gbk, Style{&CustomDefault::FrameInfo::style}, Unit::kNone, "style of a frame text"},

@@ -43,7 +43,7 @@ inline constexpr LayoutKey<DefaultManager> kLayoutKeys[] = {
     {"基准圆的标准直径"_gbk, Number{&DefaultManager::circleDiameter, 0.2}, Unit::kMm, "standard diameter of the datum circles"},
 
     {"视图间距与图纸长度的比例"_gbk, Number{&DefaultManager::viewGapRatio, 0.2}, Unit::kRatio, "gap between views to length of the sheet"},
-    {"视图外框与视图的距离"_gbk, Number{&DefaultManager::viewBoxMargin, 0.05}, Unit::kRatio, "distance of a view's box from the view"},
+    {"视图外框与视图的距离"_gbk, Number{&DefaultManager::viewBoxMargin, 0.05}, Unit::kNone, "distance of a view's box from the view"},
     {"视图外框的颜色"_gbk, Integer{&DefaultManager::viewBoxColor, 1}, Unit::kColor, "colour of the view boxes"},
     {"材料图俯视图外框的图层"_gbk, Integer{&DefaultManager::materialTopBoxLayer, 1}, Unit::kLayer, "view box layer, material drawing, top view"},
     {"材料图主视图外框的图层"_gbk, Integer{&DefaultManager::materialFrontBoxLayer, 1}, Unit::kLayer, "view box layer, material drawing, front view"},
@@ -84,8 +84,8 @@ inline constexpr LayoutKey<DefaultManager> kLayoutKeys[] = {
     {"改模注释左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::modifyYRatioSmall, 0.8}, Unit::kRatio, "mould-change note on small sheets: Y to height of the sheet"},
     {"改模注释的样式"_gbk, Style{&DefaultManager::modifyStyle}, Unit::kNone, "style of the mould-change note"},
 
-    {"球标顶边距"_gbk, Number{&DefaultManager::ballMarkTopMargin, 0.95}, Unit::kRatio, "top margin of the ball marks"},
-    {"球标底边距"_gbk, Number{&DefaultManager::ballMarkBottomMargin, 0.05}, Unit::kRatio, "bottom margin of the ball marks"},
+    {"球标顶边距"_gbk, Number{&DefaultManager::ballMarkTopMargin, 0.95}, Unit::kNone, "top margin of the ball marks"},
+    {"球标底边距"_gbk, Number{&DefaultManager::ballMarkBottomMargin, 0.05}, Unit::kNone, "bottom margin of the ball marks"},
     {"球标基准圆直径"_gbk, Number{&DefaultManager::ballMarkDiameter, 10.0}, Unit::kMm, "diameter of a ball mark's circle"},
     {"文字与外圆的比例"_gbk, Number{&DefaultManager::ballMarkTextRatio, 0.8}, Unit::kRatio, "text of a ball mark to its circle"},
     {"球标所在图层"_gbk, Integer{&DefaultManager::ballMarkLayer, 1}, Unit::kLayer, "layer of the ball marks"},

@@ -36,7 +36,7 @@ inline constexpr SystemKey kSystemKeys[] = {
     {"标准件基准圆的图层"_gbk, Integer{&SystemDefault::standardPartDatumCircleLayer, 1}, Unit::kLayer, "datum circle layer, standard parts"},
     {"基准圆的颜色"_gbk, Integer{&SystemDefault::datumCircleColor, 1}, Unit::kColor, "colour of the datum circles"},
     {"基准圆的标准直径"_gbk, Number{&SystemDefault::datumCircleDiameter, 0.2}, Unit::kMm, "standard diameter of the datum circles"},
-    {"视图外框与视图的距离"_gbk, Number{&SystemDefault::viewFrameGap, 0.05}, Unit::kRatio, "gap between a view and its outer frame"},
+    {"视图外框与视图的距离"_gbk, Number{&SystemDefault::viewFrameGap, 0.05}, Unit::kNone, "gap between a view and its outer frame"},
     {"视图外框的颜色"_gbk, Integer{&SystemDefault::viewFrameColor, 1}, Unit::kColor, "colour of the views' outer frames"},
     {"材料图俯视图外框的图层"_gbk, Integer{&SystemDefault::materialTopFrameLayer, 1}, Unit::kLayer, "view frame layer, material drawing, top view"},
     {"材料图主视图外框的图层"_gbk, Integer{&SystemDefault::materialFrontFrameLayer, 1}, Unit::kLayer, "view frame layer, material drawing, front view"},
@@ -63,18 +63,18 @@ inline constexpr SystemKey kSystemKeys[] = {
 };
 
 inline constexpr Key<SystemDefault::WeightRule> kWeightRuleKeys[] = {
-    {"实体最小重量"_gbk, Number{&SystemDefault::WeightRule::minWeight}, Unit::kKg, "least weight of a body that counts"},
-    {"实体最大重量"_gbk, Number{&SystemDefault::WeightRule::maxWeight}, Unit::kKg, "largest weight of a body that counts"},
+    {"实体最小重量"_gbk, Number{&SystemDefault::WeightRule::minWeight}, Unit::kNone, "least weight of a body that counts"},
+    {"实体最大重量"_gbk, Number{&SystemDefault::WeightRule::maxWeight}, Unit::kNone, "largest weight of a body that counts"},
     {"实体面最大数量"_gbk, Integer{&SystemDefault::WeightRule::maxFaceCount}, Unit::kCount, "most faces of a body that counts", RowRule::kRequired},
 };
 
 // System settings, behind the weight rules. Kept: for two keys alone an empty first cell is as good as none.
 inline constexpr SystemKey kExportKeys[] = {
     {"是否设置制图曲线颜色"_gbk, Flag{&SystemDefault::setDrawingCurveColor, false, FlagLetters::kYesIfUpperY}, Unit::kNone, "set the colour of drawing curves"},
-    {"视图精度"_gbk, Number{&SystemDefault::viewPrecision, 0.005}, Unit::kMm, "precision of the views"},
+    {"视图精度"_gbk, Number{&SystemDefault::viewPrecision, 0.005}, Unit::kNone, "precision of the views"},
     {"CAD注册表路径"_gbk, TextList{&SystemDefault::cadRegistryPaths}, Unit::kNone, "registry keys of the CAD program"},
     {"CAD注册表字段名称"_gbk, TextList{&SystemDefault::cadRegistryValueNames}, Unit::kNone, "registry values of the CAD program"},
-    {"UG导出CAD弹出没有DOC时间"_gbk, Integer{&SystemDefault::noDocWaitTime, 5, EmptyCell::kIsAbsent}, Unit::kSeconds, "wait before the no-document prompt of the export"},
+    {"UG导出CAD弹出没有DOC时间"_gbk, Integer{&SystemDefault::noDocWaitTime, 5, EmptyCell::kIsAbsent}, Unit::kNone, "wait before the no-document prompt of the export"},
     {"CAD转换版本"_gbk, Integer{&SystemDefault::cadVersion, 9, EmptyCell::kIsAbsent}, Unit::kNone, "version of the CAD file format written"},
 };
 
