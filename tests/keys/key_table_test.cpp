@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "support/temporary_folder.h"
+
 namespace plateconfig::test {
 namespace {
 
@@ -26,6 +28,50 @@ TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
   static_assert(ColumnsAreUnique(kLabelKeys));
   static_assert(!ColumnsAreUnique(kLabelKeys, kSameColumn));
   static_assert(!ColumnsAreUnique(kSameColumn, kSameColumn));
+}
+
+// ---- Lists of records ----
+
+struct Bolt {
+  int lineNumber = 0;
+  std::string name;
+  int count = 7;
+};
+
+constexpr Key<Bolt> kBoltKeys[] = {
+    {"名称"_gbk, Text{&Bolt::name}, Unit::kNone, "name", RowRule::kDecides},
+    {"数量"_gbk, Integer{&Bolt::count, 9}, Unit::kCount, "count"},
+};
+
+std::vector<Bolt> LoadBolts(const std::string& table) {
+  const TemporaryFolder folder;
+  ReadConfigFile reader;
+  reader.OpenConfigFile(folder.WriteTable("table.csv", table));
+  std::vector<Bolt> bolts;
+  Loader(reader).WalkRows(bolts, kBoltKeys);
+  return bolts;
+}
+
+TEST(KeyTable, ARowWithoutTheCellThatDecidesIsNoRow) {
+  const std::vector<Bolt> bolts = LoadBolts("名称,数量\nM6,4\n,5\nM8,\n");
+  ASSERT_EQ(bolts.size(), 2u);
+  EXPECT_EQ(bolts[0].name, "M6");
+  EXPECT_EQ(bolts[0].count, 4);
+  EXPECT_EQ(bolts[1].name, "M8");
+  EXPECT_EQ(bolts[1].count, 0);
+}
+
+TEST(KeyTable, ARecordThatKnowsItsLineIsToldTheOneOfTheSpreadsheet) {
+  const std::vector<Bolt> bolts = LoadBolts("名称,数量\nM6,4\n,5\nM8,6\n");
+  ASSERT_EQ(bolts.size(), 2u);
+  EXPECT_EQ(bolts[0].lineNumber, 2);
+  EXPECT_EQ(bolts[1].lineNumber, 4);
+}
+
+TEST(KeyTable, ARowsCellOfAnAbsentColumnIsAnEmptyCell) {
+  const std::vector<Bolt> bolts = LoadBolts("名称\nM6\n");
+  ASSERT_EQ(bolts.size(), 1u);
+  EXPECT_EQ(bolts[0].count, 0);
 }
 
 TEST(NumberText, IsTheShortestThatReadsBack) {
