@@ -16,7 +16,8 @@ class OneTable {
  public:
   OneTable() {
     nlohmann::json roles;
-    for (const std::string_view role : plateconfig::kRoleNames) roles[std::string(role)] = "table.csv";
+    for (const plateconfig::RoleRow& role : plateconfig::ManifestRoles())
+      roles[std::string(role.name)] = "table.csv";
     folder_.WriteBytes("tables.json", roles.dump());
   }
 

@@ -9,7 +9,7 @@
 
 #include "config/numbers.h"
 #include "config/text_helpers.h"
-#include "rules/rule_columns.h"
+#include "rules/rule_table_keys.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -136,13 +136,11 @@ NewRow RowForBox(const RuleModel& model, const PlateSpace& space, const PlateGro
     const std::string cell = CoveringRangeCell(box[size]);
     maker.Add(kRangeColumns[size], cell, cell == emptyRange);
   }
-  maker.Add(columns::kHasProfile, std::string(answers.profile ? columns::kProfileColors : kNoProfile),
+  maker.Add(columns::kHasProfile, std::string(answers.profile ? kProfile.name : kNoProfile),
             !answers.profile);
-  maker.Add(columns::kHasWireCutting,
-            std::string(answers.wireCutting ? columns::kWireCuttingColors : kNoWireCutting),
+  maker.Add(columns::kHasWireCutting, std::string(answers.wireCutting ? kWireCutting.name : kNoWireCutting),
             !answers.wireCutting);
-  maker.Add(columns::kMaterial, std::string(isSoft ? columns::kSoftMaterial : columns::kHardMaterial),
-            !isSoft);
+  maker.Add(columns::kMaterial, std::string(isSoft ? kSoftMaterial.name : kHardMaterial.name), !isSoft);
   return maker.Take();
 }
 

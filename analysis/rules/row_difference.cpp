@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "rules/rule_columns.h"
+#include "rules/rule_table_keys.h"
 
 namespace plateconfig {
 namespace {

@@ -7,7 +7,7 @@
 #include <map>
 #include <utility>
 
-#include "rules/rule_columns.h"
+#include "rules/rule_table_keys.h"
 
 namespace plateconfig {
 namespace {

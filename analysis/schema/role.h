@@ -1,14 +1,19 @@
 #pragma once
 
-// The parts that tables play in a configuration.
+// The parts that tables play in a configuration, one row each. A new one is a value and a row, and the
+// compiler points at whoever has to know what its table holds.
 
-#include <array>
 #include <optional>
+#include <span>
 #include <string_view>
+#include <vector>
+
+#include "analysis/schema/words.h"
 
 namespace plateconfig {
 
 enum class Role {
+  kIndex,  ///< config/standard.csv, which stands beside the configurations; the manifest does not name it.
   kColumnWidths,
   kProcessSettings,
   kProcessRules,
@@ -26,34 +31,31 @@ enum class Role {
   kReplaceContent,
 };
 
-/// What the manifest and the options call each role, in the order of `Role`.
-inline constexpr auto kRoleNames = std::to_array<std::string_view>({
-    "column-widths",
-    "process-settings",
-    "process-rules",
-    "layout-defaults",
-    "custom-settings",
-    "frame-info",
-    "thread-hole-chamfer",
-    "system-settings",
-    "layers",
-    "texts",
-    "connect-string",
-    "triangle-symbol",
-    "bom",
-    "dwg-folder",
-    "replace-content",
-});
+/// What a table that can not be opened does.
+enum class WhenUnreadable {
+  kCountsAsEmpty,    ///< Every setting gets the value of its absent column.
+  kChangesNothing,   ///< Every setting stays as it was.
+  kThrowsIfMissing,  ///< A missing file is an exception; any other counts as empty.
+};
 
-constexpr std::string_view NameOf(Role role) {
-  return kRoleNames[static_cast<std::size_t>(role)];
-}
+struct RoleRow {
+  Role role;
+  std::string_view name;  ///< As the manifest and the options have it.
+  WhenUnreadable whenUnreadable;
+  bool isAlwaysRead;  ///< A constructor reads it: without a file it counts as one that is missing.
+  Words title;        ///< One sentence on what its table holds.
+};
 
-constexpr std::optional<Role> FindRole(std::string_view name) {
-  for (std::size_t index = 0; index < kRoleNames.size(); ++index) {
-    if (kRoleNames[index] == name) return static_cast<Role>(index);
-  }
-  return std::nullopt;
-}
+/// All roles, the index first, in the order of `Role`.
+std::span<const RoleRow> Roles();
+/// Those that a manifest may name: all but the index.
+std::span<const RoleRow> ManifestRoles();
+
+const RoleRow& RowOf(Role role);
+std::string_view NameOf(Role role);
+std::vector<std::string_view> NamesOf(std::span<const RoleRow> roles);
+
+/// The role of a name; nothing when none of `roles` has it.
+std::optional<Role> FindRole(std::string_view name, std::span<const RoleRow> roles = Roles());
 
 }  // namespace plateconfig

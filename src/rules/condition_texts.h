@@ -49,6 +49,9 @@ inline constexpr auto kConditionTexts = [] {
   });
 }();
 
+/// The line of a condition text (GBK); null for a text that is none of them.
+const ConditionText* FindConditionText(std::string_view text);
+
 /// The type that a condition text (GBK) selects; nothing for a text that is none of them.
 std::optional<ProcessRule::RuleType> FindRuleType(std::string_view text);
 

@@ -6,99 +6,99 @@
 // angle of 45). Drawings were made with tables that lack the column, and must come out the same again.
 
 #include "settings/default_manager.h"
-#include "settings/key_table.h"
+#include "settings/style_kind.h"
 
 namespace plateconfig {
 
 template <typename Record>
-using LayoutKey = Key<Record, DefaultManager::NoteStyle>;
+using LayoutKey = StyledKey<Record, DefaultManager::NoteStyle>;
 
 using literals::operator""_gbk;
 
 // clang-format off
 inline constexpr LayoutKey<DefaultManager> kLayoutKeys[] = {
-    {"出二个视图的图层"_gbk, IntList{&DefaultManager::twoViewLayers, TakenCells::kNonZero}, "NX layer", "layers drawn with two views"},
-    {"不放球标的图层"_gbk, IntList{&DefaultManager::noBallMarkLayers, TakenCells::kNonZero}, "NX layer", "layers that get no ball mark"},
-    {"标准件的图层"_gbk, IntList{&DefaultManager::standardPartLayers, TakenCells::kNonZero}, "NX layer", "layers of standard parts"},
-    {"不出分图的图层"_gbk, IntList{&DefaultManager::noSubSheetLayers, TakenCells::kNonZero}, "NX layer", "layers that get no sub-sheet"},
+    {"出二个视图的图层"_gbk, IntList{&DefaultManager::twoViewLayers, TakenCells::kNonZero}, Unit::kLayer, "layers drawn with two views"},
+    {"不放球标的图层"_gbk, IntList{&DefaultManager::noBallMarkLayers, TakenCells::kNonZero}, Unit::kLayer, "layers that get no ball mark"},
+    {"标准件的图层"_gbk, IntList{&DefaultManager::standardPartLayers, TakenCells::kNonZero}, Unit::kLayer, "layers of standard parts"},
+    {"不出分图的图层"_gbk, IntList{&DefaultManager::noSubSheetLayers, TakenCells::kNonZero}, Unit::kLayer, "layers that get no sub-sheet"},
 
-    {"图层间距"_gbk, Number{&DefaultManager::layerSpacing, 5000.0}, "mm", "spacing between layers"},
-    {"同一个图层图框之间的距离"_gbk, Number{&DefaultManager::sameLayerFrameGap, 100.0}, "mm", "gap between the frames of one layer"},
-    {"爆炸图和分图图框之间的距离"_gbk, Number{&DefaultManager::explodedSubSheetFrameGap, 2000.0}, "mm", "gap between the frames of exploded view and sub-sheets"},
-    {"水平方向所有视图总长度与图纸长度的比例"_gbk, Number{&DefaultManager::viewsLengthRatio, 0.8}, "ratio", "length of all views in a row to length of the sheet"},
-    {"竖直方向所有视图总长度与图纸高度的比例"_gbk, Number{&DefaultManager::viewsHeightRatio, 0.8}, "ratio", "height of all views in a column to height of the sheet"},
-    {"俯视图左上角交点X坐标所占图纸长度的比例"_gbk, Number{&DefaultManager::topViewXRatio, 0.3}, "ratio", "upper left corner of the top view: X to length of the sheet"},
-    {"俯视图左上角交点Y坐标所占图纸高度的比例"_gbk, Number{&DefaultManager::topViewYRatio, 0.7}, "ratio", "upper left corner of the top view: Y to height of the sheet"},
-    {"大图纸小图纸的分割距离"_gbk, Number{&DefaultManager::sheetSplitSize, 300.0}, "mm", "size that separates large from small sheets"},
+    {"图层间距"_gbk, Number{&DefaultManager::layerSpacing, 5000.0}, Unit::kMm, "spacing between layers"},
+    {"同一个图层图框之间的距离"_gbk, Number{&DefaultManager::sameLayerFrameGap, 100.0}, Unit::kMm, "gap between the frames of one layer"},
+    {"爆炸图和分图图框之间的距离"_gbk, Number{&DefaultManager::explodedSubSheetFrameGap, 2000.0}, Unit::kMm, "gap between the frames of exploded view and sub-sheets"},
+    {"水平方向所有视图总长度与图纸长度的比例"_gbk, Number{&DefaultManager::viewsLengthRatio, 0.8}, Unit::kRatio, "length of all views in a row to length of the sheet"},
+    {"竖直方向所有视图总长度与图纸高度的比例"_gbk, Number{&DefaultManager::viewsHeightRatio, 0.8}, Unit::kRatio, "height of all views in a column to height of the sheet"},
+    {"俯视图左上角交点X坐标所占图纸长度的比例"_gbk, Number{&DefaultManager::topViewXRatio, 0.3}, Unit::kRatio, "upper left corner of the top view: X to length of the sheet"},
+    {"俯视图左上角交点Y坐标所占图纸高度的比例"_gbk, Number{&DefaultManager::topViewYRatio, 0.7}, Unit::kRatio, "upper left corner of the top view: Y to height of the sheet"},
+    {"大图纸小图纸的分割距离"_gbk, Number{&DefaultManager::sheetSplitSize, 300.0}, Unit::kMm, "size that separates large from small sheets"},
 
-    {"注释文件所在的图层"_gbk, Integer{&DefaultManager::noteLayer, 1}, "NX layer", "layer of the notes"},
-    {"表头注释所占的图层"_gbk, Integer{&DefaultManager::headerNoteLayer, 1}, "NX layer", "layer of the header notes"},
-    {"图框的图层"_gbk, Integer{&DefaultManager::frameLayer, 1}, "NX layer", "layer of the frame"},
-    {"图框的颜色"_gbk, Integer{&DefaultManager::frameColor, 1}, "colour index", "colour of the frame"},
+    {"注释文件所在的图层"_gbk, Integer{&DefaultManager::noteLayer, 1}, Unit::kLayer, "layer of the notes"},
+    {"表头注释所占的图层"_gbk, Integer{&DefaultManager::headerNoteLayer, 1}, Unit::kLayer, "layer of the header notes"},
+    {"图框的图层"_gbk, Integer{&DefaultManager::frameLayer, 1}, Unit::kLayer, "layer of the frame"},
+    {"图框的颜色"_gbk, Integer{&DefaultManager::frameColor, 1}, Unit::kColor, "colour of the frame"},
 
-    {"爆炸图基准圆的图层"_gbk, Integer{&DefaultManager::explodedCircleLayer, 1}, "NX layer", "datum circle layer, exploded view"},
-    {"材料图基准圆的图层"_gbk, Integer{&DefaultManager::materialCircleLayer, 1}, "NX layer", "datum circle layer, material drawing"},
-    {"标准件基准圆的图层"_gbk, Integer{&DefaultManager::standardCircleLayer, 1}, "NX layer", "datum circle layer, standard parts"},
-    {"基准圆的颜色"_gbk, Integer{&DefaultManager::circleColor, 1}, "colour index", "colour of the datum circles"},
-    {"基准圆的标准直径"_gbk, Number{&DefaultManager::circleDiameter, 0.2}, "mm", "standard diameter of the datum circles"},
+    {"爆炸图基准圆的图层"_gbk, Integer{&DefaultManager::explodedCircleLayer, 1}, Unit::kLayer, "datum circle layer, exploded view"},
+    {"材料图基准圆的图层"_gbk, Integer{&DefaultManager::materialCircleLayer, 1}, Unit::kLayer, "datum circle layer, material drawing"},
+    {"标准件基准圆的图层"_gbk, Integer{&DefaultManager::standardCircleLayer, 1}, Unit::kLayer, "datum circle layer, standard parts"},
+    {"基准圆的颜色"_gbk, Integer{&DefaultManager::circleColor, 1}, Unit::kColor, "colour of the datum circles"},
+    {"基准圆的标准直径"_gbk, Number{&DefaultManager::circleDiameter, 0.2}, Unit::kMm, "standard diameter of the datum circles"},
 
-    {"视图间距与图纸长度的比例"_gbk, Number{&DefaultManager::viewGapRatio, 0.2}, "ratio", "gap between views to length of the sheet"},
-    {"视图外框与视图的距离"_gbk, Number{&DefaultManager::viewBoxMargin, 0.05}, "ratio", "distance of a view's box from the view"},
-    {"视图外框的颜色"_gbk, Integer{&DefaultManager::viewBoxColor, 1}, "colour index", "colour of the view boxes"},
-    {"材料图俯视图外框的图层"_gbk, Integer{&DefaultManager::materialTopBoxLayer, 1}, "NX layer", "view box layer, material drawing, top view"},
-    {"材料图主视图外框的图层"_gbk, Integer{&DefaultManager::materialFrontBoxLayer, 1}, "NX layer", "view box layer, material drawing, front view"},
-    {"材料图左视图外框的图层"_gbk, Integer{&DefaultManager::materialLeftBoxLayer, 1}, "NX layer", "view box layer, material drawing, left view"},
-    {"标准件俯视图外框的图层"_gbk, Integer{&DefaultManager::standardTopBoxLayer, 1}, "NX layer", "view box layer, standard parts, top view"},
-    {"标准件主视图外框的图层"_gbk, Integer{&DefaultManager::standardFrontBoxLayer, 1}, "NX layer", "view box layer, standard parts, front view"},
-    {"标准件左视图外框的图层"_gbk, Integer{&DefaultManager::standardLeftBoxLayer, 1}, "NX layer", "view box layer, standard parts, left view"},
+    {"视图间距与图纸长度的比例"_gbk, Number{&DefaultManager::viewGapRatio, 0.2}, Unit::kRatio, "gap between views to length of the sheet"},
+    {"视图外框与视图的距离"_gbk, Number{&DefaultManager::viewBoxMargin, 0.05}, Unit::kNone, "distance of a view's box from the view"},
+    {"视图外框的颜色"_gbk, Integer{&DefaultManager::viewBoxColor, 1}, Unit::kColor, "colour of the view boxes"},
+    {"材料图俯视图外框的图层"_gbk, Integer{&DefaultManager::materialTopBoxLayer, 1}, Unit::kLayer, "view box layer, material drawing, top view"},
+    {"材料图主视图外框的图层"_gbk, Integer{&DefaultManager::materialFrontBoxLayer, 1}, Unit::kLayer, "view box layer, material drawing, front view"},
+    {"材料图左视图外框的图层"_gbk, Integer{&DefaultManager::materialLeftBoxLayer, 1}, Unit::kLayer, "view box layer, material drawing, left view"},
+    {"标准件俯视图外框的图层"_gbk, Integer{&DefaultManager::standardTopBoxLayer, 1}, Unit::kLayer, "view box layer, standard parts, top view"},
+    {"标准件主视图外框的图层"_gbk, Integer{&DefaultManager::standardFrontBoxLayer, 1}, Unit::kLayer, "view box layer, standard parts, front view"},
+    {"标准件左视图外框的图层"_gbk, Integer{&DefaultManager::standardLeftBoxLayer, 1}, Unit::kLayer, "view box layer, standard parts, left view"},
 
-    {"穿丝孔的图层"_gbk, Integer{&DefaultManager::wireHoleLayer, 1}, "NX layer", "layer of wire-threading holes"},
-    {"穿丝孔的颜色"_gbk, Integer{&DefaultManager::wireHoleColor, 1}, "colour index", "colour of wire-threading holes"},
-    {"大槽小槽的分割尺寸"_gbk, Number{&DefaultManager::slotSplitSize, 20.0}, "mm", "size that separates large from small slots"},
-    {"大穿丝孔直径"_gbk, Number{&DefaultManager::largeWireHoleDiameter, 1.0}, "mm", "diameter of large wire-threading holes"},
-    {"小穿丝孔直径"_gbk, Number{&DefaultManager::smallWireHoleDiameter, 0.5}, "mm", "diameter of small wire-threading holes"},
+    {"穿丝孔的图层"_gbk, Integer{&DefaultManager::wireHoleLayer, 1}, Unit::kLayer, "layer of wire-threading holes"},
+    {"穿丝孔的颜色"_gbk, Integer{&DefaultManager::wireHoleColor, 1}, Unit::kColor, "colour of wire-threading holes"},
+    {"大槽小槽的分割尺寸"_gbk, Number{&DefaultManager::slotSplitSize, 20.0}, Unit::kMm, "size that separates large from small slots"},
+    {"大穿丝孔直径"_gbk, Number{&DefaultManager::largeWireHoleDiameter, 1.0}, Unit::kMm, "diameter of large wire-threading holes"},
+    {"小穿丝孔直径"_gbk, Number{&DefaultManager::smallWireHoleDiameter, 0.5}, Unit::kMm, "diameter of small wire-threading holes"},
 
-    {"代号左上角交点X坐标所占图纸长度的比例"_gbk, Number{&DefaultManager::codeXRatio, 0.2}, "ratio", "upper left corner of the code: X to length of the sheet"},
-    {"代号左上角交点Y坐标所占图纸高度的比例"_gbk, Number{&DefaultManager::codeYRatio, 0.8}, "ratio", "upper left corner of the code: Y to height of the sheet"},
-    {"代号注释的样式"_gbk, Style{&DefaultManager::codeStyle}, "", "style of the code"},
+    {"代号左上角交点X坐标所占图纸长度的比例"_gbk, Number{&DefaultManager::codeXRatio, 0.2}, Unit::kRatio, "upper left corner of the code: X to length of the sheet"},
+    {"代号左上角交点Y坐标所占图纸高度的比例"_gbk, Number{&DefaultManager::codeYRatio, 0.8}, Unit::kRatio, "upper left corner of the code: Y to height of the sheet"},
+    {"代号注释的样式"_gbk, Style{&DefaultManager::codeStyle}, Unit::kNone, "style of the code"},
 
-    {"特征代号注释角度"_gbk, Number{&DefaultManager::featureCodeAngle, 0.2}, "degrees", "angle of the feature codes"},
-    {"特征代号注释距离比例"_gbk, Number{&DefaultManager::featureCodeDistanceRatio, 0.8}, "ratio", "distance of the feature codes"},
-    {"特征代号注释的样式"_gbk, Style{&DefaultManager::featureCodeStyle}, "", "style of the feature codes"},
+    {"特征代号注释角度"_gbk, Number{&DefaultManager::featureCodeAngle, 0.2}, Unit::kDegrees, "angle of the feature codes"},
+    {"特征代号注释距离比例"_gbk, Number{&DefaultManager::featureCodeDistanceRatio, 0.8}, Unit::kRatio, "distance of the feature codes"},
+    {"特征代号注释的样式"_gbk, Style{&DefaultManager::featureCodeStyle}, Unit::kNone, "style of the feature codes"},
 
-    {"加工要求左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::processXRatioLarge, 0.2}, "ratio", "process note on large sheets: X to length of the sheet"},
-    {"加工要求左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::processYRatioLarge, 0.8}, "ratio", "process note on large sheets: Y to height of the sheet"},
-    {"加工要求左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::processXRatioSmall, 0.2}, "ratio", "process note on small sheets: X to length of the sheet"},
-    {"加工要求左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::processYRatioSmall, 0.8}, "ratio", "process note on small sheets: Y to height of the sheet"},
-    {"加工要求注释的样式"_gbk, Style{&DefaultManager::processStyle}, "", "style of the process note"},
+    {"加工要求左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::processXRatioLarge, 0.2}, Unit::kRatio, "process note on large sheets: X to length of the sheet"},
+    {"加工要求左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::processYRatioLarge, 0.8}, Unit::kRatio, "process note on large sheets: Y to height of the sheet"},
+    {"加工要求左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::processXRatioSmall, 0.2}, Unit::kRatio, "process note on small sheets: X to length of the sheet"},
+    {"加工要求左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::processYRatioSmall, 0.8}, Unit::kRatio, "process note on small sheets: Y to height of the sheet"},
+    {"加工要求注释的样式"_gbk, Style{&DefaultManager::processStyle}, Unit::kNone, "style of the process note"},
 
-    {"属性注释左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::attributeXRatioLarge, 0.2}, "ratio", "attribute note on large sheets: X to length of the sheet"},
-    {"属性注释左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::attributeYRatioLarge, 0.8}, "ratio", "attribute note on large sheets: Y to height of the sheet"},
-    {"属性注释左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::attributeXRatioSmall, 0.2}, "ratio", "attribute note on small sheets: X to length of the sheet"},
-    {"属性注释左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::attributeYRatioSmall, 0.8}, "ratio", "attribute note on small sheets: Y to height of the sheet"},
-    {"属性注释的样式"_gbk, Style{&DefaultManager::attributeStyle}, "", "style of the attribute note"},
+    {"属性注释左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::attributeXRatioLarge, 0.2}, Unit::kRatio, "attribute note on large sheets: X to length of the sheet"},
+    {"属性注释左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::attributeYRatioLarge, 0.8}, Unit::kRatio, "attribute note on large sheets: Y to height of the sheet"},
+    {"属性注释左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::attributeXRatioSmall, 0.2}, Unit::kRatio, "attribute note on small sheets: X to length of the sheet"},
+    {"属性注释左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::attributeYRatioSmall, 0.8}, Unit::kRatio, "attribute note on small sheets: Y to height of the sheet"},
+    {"属性注释的样式"_gbk, Style{&DefaultManager::attributeStyle}, Unit::kNone, "style of the attribute note"},
 
-    {"改模注释左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::modifyXRatioLarge, 0.2}, "ratio", "mould-change note on large sheets: X to length of the sheet"},
-    {"改模注释左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::modifyYRatioLarge, 0.8}, "ratio", "mould-change note on large sheets: Y to height of the sheet"},
-    {"改模注释左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::modifyXRatioSmall, 0.2}, "ratio", "mould-change note on small sheets: X to length of the sheet"},
-    {"改模注释左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::modifyYRatioSmall, 0.8}, "ratio", "mould-change note on small sheets: Y to height of the sheet"},
-    {"改模注释的样式"_gbk, Style{&DefaultManager::modifyStyle}, "", "style of the mould-change note"},
+    {"改模注释左上角交点X坐标所占图纸长度的比例-大图"_gbk, Number{&DefaultManager::modifyXRatioLarge, 0.2}, Unit::kRatio, "mould-change note on large sheets: X to length of the sheet"},
+    {"改模注释左上角交点Y坐标所占图纸高度的比例-大图"_gbk, Number{&DefaultManager::modifyYRatioLarge, 0.8}, Unit::kRatio, "mould-change note on large sheets: Y to height of the sheet"},
+    {"改模注释左上角交点X坐标所占图纸长度的比例-小图"_gbk, Number{&DefaultManager::modifyXRatioSmall, 0.2}, Unit::kRatio, "mould-change note on small sheets: X to length of the sheet"},
+    {"改模注释左上角交点Y坐标所占图纸高度的比例-小图"_gbk, Number{&DefaultManager::modifyYRatioSmall, 0.8}, Unit::kRatio, "mould-change note on small sheets: Y to height of the sheet"},
+    {"改模注释的样式"_gbk, Style{&DefaultManager::modifyStyle}, Unit::kNone, "style of the mould-change note"},
 
-    {"球标顶边距"_gbk, Number{&DefaultManager::ballMarkTopMargin, 0.95}, "ratio", "top margin of the ball marks"},
-    {"球标底边距"_gbk, Number{&DefaultManager::ballMarkBottomMargin, 0.05}, "ratio", "bottom margin of the ball marks"},
-    {"球标基准圆直径"_gbk, Number{&DefaultManager::ballMarkDiameter, 10.0}, "mm", "diameter of a ball mark's circle"},
-    {"文字与外圆的比例"_gbk, Number{&DefaultManager::ballMarkTextRatio, 0.8}, "ratio", "text of a ball mark to its circle"},
-    {"球标所在图层"_gbk, Integer{&DefaultManager::ballMarkLayer, 1}, "NX layer", "layer of the ball marks"},
-    {"线条颜色"_gbk, Integer{&DefaultManager::ballMarkLineColor, 1}, "colour index", "colour of the ball marks' leader lines"},
-    {"球标文字的样式"_gbk, Style{&DefaultManager::ballMarkStyle}, "", "style of the ball marks' text"},
+    {"球标顶边距"_gbk, Number{&DefaultManager::ballMarkTopMargin, 0.95}, Unit::kNone, "top margin of the ball marks"},
+    {"球标底边距"_gbk, Number{&DefaultManager::ballMarkBottomMargin, 0.05}, Unit::kNone, "bottom margin of the ball marks"},
+    {"球标基准圆直径"_gbk, Number{&DefaultManager::ballMarkDiameter, 10.0}, Unit::kMm, "diameter of a ball mark's circle"},
+    {"文字与外圆的比例"_gbk, Number{&DefaultManager::ballMarkTextRatio, 0.8}, Unit::kRatio, "text of a ball mark to its circle"},
+    {"球标所在图层"_gbk, Integer{&DefaultManager::ballMarkLayer, 1}, Unit::kLayer, "layer of the ball marks"},
+    {"线条颜色"_gbk, Integer{&DefaultManager::ballMarkLineColor, 1}, Unit::kColor, "colour of the ball marks' leader lines"},
+    {"球标文字的样式"_gbk, Style{&DefaultManager::ballMarkStyle}, Unit::kNone, "style of the ball marks' text"},
 };
 
 inline constexpr LayoutKey<DefaultManager::BomAttrInfo> kBomHeaderKeys[] = {
-    {"表头-X位置比例"_gbk, Number{&DefaultManager::BomAttrInfo::xRatio}, "ratio", "bill of materials: X of a header column", RowRule::kBounds},
-    {"表头-Y位置比例"_gbk, Number{&DefaultManager::BomAttrInfo::yRatio}, "ratio", "bill of materials: Y of a header column"},
-    {"表头-显示名称"_gbk, Text{&DefaultManager::BomAttrInfo::displayName}, "", "bill of materials: caption of a header column"},
-    {"表头-属性名称"_gbk, Text{&DefaultManager::BomAttrInfo::attrName}, "", "bill of materials: part attribute that fills a column"},
-    {"表头-文字样式"_gbk, Style{&DefaultManager::BomAttrInfo::style}, "", "bill of materials: style of a header column"},
+    {"表头-X位置比例"_gbk, Number{&DefaultManager::BomAttrInfo::xRatio}, Unit::kRatio, "bill of materials: X of a header column", RowRule::kBounds},
+    {"表头-Y位置比例"_gbk, Number{&DefaultManager::BomAttrInfo::yRatio}, Unit::kRatio, "bill of materials: Y of a header column"},
+    {"表头-显示名称"_gbk, Text{&DefaultManager::BomAttrInfo::displayName}, Unit::kNone, "bill of materials: caption of a header column"},
+    {"表头-属性名称"_gbk, Text{&DefaultManager::BomAttrInfo::attrName}, Unit::kNone, "bill of materials: part attribute that fills a column"},
+    {"表头-文字样式"_gbk, Style{&DefaultManager::BomAttrInfo::style}, Unit::kNone, "bill of materials: style of a header column"},
 };
 // clang-format on
 

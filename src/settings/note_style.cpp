@@ -4,6 +4,7 @@
 
 #include "config/numbers.h"
 #include "config/text_helpers.h"
+#include "keys/cell_text.h"
 
 namespace plateconfig {
 namespace {
@@ -41,6 +42,14 @@ std::string WriteNoteStyle(const NoteStyleFields& style) {
 
 std::string WriteWholeNoteStyle(const NoteStyleFields& style) {
   return Join(style, [](double number) { return DoubleToString(number, 0); });
+}
+
+std::string ShortNoteStyle(const NoteStyleFields& style) {
+  std::string text = style.fontName;
+  for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
+    text += "|" + NumberText(number);
+  }
+  return text + "|" + IntToString(style.option);
 }
 
 }  // namespace plateconfig

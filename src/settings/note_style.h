@@ -1,6 +1,6 @@
 #pragma once
 
-// The text form of styles, for both classes that have a record of that name: one parser, two writers.
+// The text form of styles, for both classes that have a record of that name: one parser, three writers.
 
 #include <string>
 
@@ -25,5 +25,8 @@ std::string WriteNoteStyle(const NoteStyleFields& style);
 
 /// The cell of a style, its numbers rounded to whole ones and never cut.
 std::string WriteWholeNoteStyle(const NoteStyleFields& style);
+
+/// The same with the shortest numbers that read back as they are.
+std::string ShortNoteStyle(const NoteStyleFields& style);
 
 }  // namespace plateconfig

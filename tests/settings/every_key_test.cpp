@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <set>
 
-#include "analysis/schema/settings_schema.h"
 #include "platform/desktop_folder.h"
 #include "settings/stated_keys.h"
 #include "support/environment.h"
 #include "support/gbk_text.h"
+#include "support/settings_tables.h"
 #include "support/temporary_folder.h"
 
 namespace plateconfig::test {
@@ -202,9 +202,9 @@ TEST_F(EveryKey, TheSchemaHoldsExactlyTheStatedColumns) {
   for (const TableSchema& table : SettingsSchema()) {
     std::vector<std::string> stated;
     for (const StatedKey& key : StatedKeys()) {
-      if (key.role == table.role) stated.emplace_back(key.column);
+      if (key.role == NameOf(table.role)) stated.emplace_back(key.column);
     }
-    EXPECT_THAT(ColumnsOf(table), UnorderedElementsAreArray(stated)) << table.role;
+    EXPECT_THAT(ColumnsOf(table), UnorderedElementsAreArray(stated)) << NameOf(table.role);
   }
 }
 
@@ -212,8 +212,8 @@ TEST_F(EveryKey, TheSchemaTellsTheValueOfTheAbsentColumn) {
   for (const TableSchema& table : SettingsSchema()) {
     for (const ColumnSchema& column : table.columns) {
       if (column.isRowColumn) continue;
-      EXPECT_EQ(Joined(column.whenAbsent), FindStated(table.role, column.column).whenAbsent)
-          << table.role << " " << GbkToUtf8(column.column);
+      EXPECT_EQ(Joined(column.whenAbsent), FindStated(NameOf(table.role), column.column).whenAbsent)
+          << NameOf(table.role) << " " << GbkToUtf8(column.column);
     }
   }
 }
@@ -223,7 +223,7 @@ TEST_F(EveryKey, TheSchemaPrintsWhatTheClassHolds) {
   for (const TableSchema& table : SettingsSchema()) {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
       if (table.columns[i].isRowColumn) continue;
-      const StatedKey& key = FindStated(table.role, table.columns[i].column);
+      const StatedKey& key = FindStated(NameOf(table.role), table.columns[i].column);
       const OwnValue own = OwnValueOf(key, index++);
       const std::string path =
           folder_.WriteTable("table.csv", std::string(key.column) + ",无人知道\n" + own.cell + ",1\n");
@@ -235,7 +235,6 @@ TEST_F(EveryKey, TheSchemaPrintsWhatTheClassHolds) {
 TEST_F(EveryKey, TheSchemaSaysWhatEachColumnIs) {
   for (const TableSchema& table : SettingsSchema()) {
     for (const ColumnSchema& column : table.columns) {
-      EXPECT_FALSE(column.kind.empty()) << GbkToUtf8(column.column);
       EXPECT_FALSE(column.help.empty()) << GbkToUtf8(column.column);
     }
   }
@@ -313,7 +312,7 @@ class EveryRowColumn : public EveryKey {
   static Cells Find(std::string_view role, const std::string& column, const std::string& path) {
     const std::vector<Cells> values = LoadSettings(role, path);
     for (const TableSchema& table : SettingsSchema()) {
-      for (std::size_t i = 0; table.role == role && i < table.columns.size(); ++i) {
+      for (std::size_t i = 0; NameOf(table.role) == role && i < table.columns.size(); ++i) {
         if (GbkToUtf8(table.columns[i].column) == column) return values[i];
       }
     }
@@ -340,7 +339,7 @@ TEST_F(EveryRowColumn, TheSchemaHoldsExactlyTheStatedRowColumns) {
   std::multiset<std::string> known;
   for (const TableSchema& table : SettingsSchema()) {
     for (const ColumnSchema& column : table.columns) {
-      if (column.isRowColumn) known.insert(std::string(table.role) + " " + GbkToUtf8(column.column));
+      if (column.isRowColumn) known.insert(std::string(NameOf(table.role)) + " " + GbkToUtf8(column.column));
     }
   }
   EXPECT_EQ(known, stated);

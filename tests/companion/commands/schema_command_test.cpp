@@ -3,57 +3,15 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
-#include "analysis/schema/role.h"
-#include "plateconfig/tables/full_schema.h"
-#include "rules/rule_columns.h"
+#include "analysis/schema/table_schema.h"
 #include "support/companion.h"
 #include "support/temporary_folder.h"
-#include "text/gbk.h"
 
 namespace plateconfig::test {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using Json = nlohmann::json;
-
-TEST(FullSchema, HoldsTheIndexAndEveryRoleInTheirOrder) {
-  std::vector<std::string_view> expected = {"index"};
-  expected.insert(expected.end(), kRoleNames.begin(), kRoleNames.end());
-  EXPECT_EQ(SchemaRoles(), expected);
-}
-
-TEST(FullSchema, EveryTableHasATitleAndEveryColumnAHelp) {
-  for (const TableSchema& table : FullSchema()) {
-    EXPECT_FALSE(TitleOf(table.role).empty()) << table.role;
-    for (const ColumnSchema& column : table.columns) {
-      EXPECT_FALSE(column.help.empty()) << table.role << " " << GbkToUtf8(column.column);
-      EXPECT_FALSE(column.kind.empty()) << table.role << " " << GbkToUtf8(column.column);
-    }
-  }
-}
-
-std::vector<std::string> ColumnsOf(std::string_view role) {
-  std::vector<std::string> columns;
-  for (const ColumnSchema& column : FindTableSchema(role)->columns)
-    columns.push_back(GbkToUtf8(column.column));
-  return columns;
-}
-
-TEST(FullSchema, HoldsTheColumnsOfTheOtherTables) {
-  EXPECT_THAT(ColumnsOf("index"), ElementsAre("文件夹名称", "有效配置"));
-  EXPECT_THAT(ColumnsOf("process-settings"),
-              ElementsAre("连接符号", "输入文字方式", "制造流程左边距", "制造流程顶边距", "制造流程CAD图层",
-                          "制造流程文字样式", "输出行号", "追加到材料信息后面"));
-  EXPECT_THAT(ColumnsOf("process-rules"),
-              ElementsAre("通用要求", "通用参数", "排工艺顺序", "排顺序工艺类型", "顺序工艺参数值",
-                          "模板所在图层", "长度范围", "宽度范围", "厚度范围", "重量范围", "有无型面",
-                          "有无线割", "材质要求", "工艺名称"));
-}
-
-TEST(FullSchema, AnUnknownRoleHasNoTable) {
-  EXPECT_EQ(FindTableSchema("holes"), nullptr);
-}
 
 TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
   const CompanionResult run = RunPlateconfig({"schema"});

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "support/companion.h"
@@ -143,8 +144,8 @@ TEST_F(ShowCommand, ProcessSettingsAndGeneralParametersAreShown) {
                      "连接符号,输入文字方式,制造流程左边距,制造流程CAD图层,输出行号\n→,Y,12.5,201,y\n");
   folder_.WriteTable("b.csv", "通用要求,通用参数\n软料（体颜色）,12_87\n");
   const std::string settings = Show({"process-settings"}).out;
-  EXPECT_THAT(settings, HasSubstr("  连接符号 = →\n  输入文字方式 = Y\n  制造流程左边距 = 12.5  [mm]\n"));
-  EXPECT_THAT(settings, HasSubstr("  制造流程顶边距 = 0  [mm]  (default)\n"));
+  EXPECT_THAT(settings, HasSubstr("  连接符号 = →\n  输入文字方式 = Y\n  制造流程左边距 = 12.5\n"));
+  EXPECT_THAT(settings, HasSubstr("  制造流程顶边距 = 0  (default)\n"));
   EXPECT_THAT(settings, HasSubstr("  制造流程CAD图层 = 201  [NX layer]\n"));
   EXPECT_THAT(settings, HasSubstr("  输出行号 = N\n"));
   EXPECT_THAT(Show({"process-rules"}).out,
@@ -196,6 +197,16 @@ TEST_F(ShowCommand, TheLibrarysExceptionIsShownInUtf8) {
   const std::string path = ArgumentPath(folder_, "没有.csv");
   EXPECT_EQ(run.err, path + ": error: 配置文件：" + path + " 不存在！\n");
   EXPECT_THAT(run.out, HasSubstr("  连接字符 = \"\"  (not read)\n"));
+}
+
+TEST_F(ShowCommand, AConnectorTableThatIsAFolderIsNoExceptionAndItsSettingsAreThoseOfAbsentColumns) {
+  Configure(R"({"connect-string": "表"})");
+  std::filesystem::create_directory(folder_.Path() / u8"表");
+  const CompanionResult run = Show({"connect-string"});
+  EXPECT_EQ(run.err, ArgumentPath(folder_, "表") +
+                         ": error: this table can not be read; every setting gets the value of an absent"
+                         " column\n");
+  EXPECT_THAT(run.out, HasSubstr("  连接字符 = \"\"  (default)\n  是否导出图层代号 = Y  (default)\n"));
 }
 
 TEST_F(ShowCommand, AMissingTableIsReportedWithWhatTheLibraryDoes) {

@@ -8,13 +8,12 @@
 #include "config/configuration_index.h"
 #include "config/read_config_file.h"
 #include "plateconfig/output/output_file.h"
-#include "plateconfig/tables/full_schema.h"
-#include "plateconfig/tables/shown_settings.h"
 #include "plateconfig/tables/table_template.h"
 #include "rules/rule_tables.h"
 #include "support/companion.h"
 #include "support/environment.h"
 #include "support/gbk_text.h"
+#include "support/settings_tables.h"
 #include "support/temporary_folder.h"
 
 namespace plateconfig::test {
@@ -44,7 +43,7 @@ TEST_P(Template, HoldsEveryColumnOfTheRoleInGbkAndCrLf) {
   ReadConfigFile table;
   ASSERT_TRUE(table.OpenConfigFile(WriteTemplate()));
   std::vector<std::string> columns;
-  for (const ColumnSchema& column : FindTableSchema(GetParam())->columns) columns.push_back(column.column);
+  for (const ColumnSchema& column : SchemaOf(*FindRole(GetParam())).columns) columns.push_back(column.column);
   EXPECT_EQ(table.GetColumnNames(), columns);
   const std::string bytes = ReadBytes(folder_.Path() / "table.csv");
   EXPECT_TRUE(IsValidGbk(bytes));
@@ -52,7 +51,7 @@ TEST_P(Template, HoldsEveryColumnOfTheRoleInGbkAndCrLf) {
   EXPECT_TRUE(bytes.ends_with("\r\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryRole, Template, ::testing::ValuesIn(SchemaRoles()), [](const auto& role) {
+INSTANTIATE_TEST_SUITE_P(EveryRole, Template, ::testing::ValuesIn(NamesOf(Roles())), [](const auto& role) {
   std::string name(role.param);
   std::replace(name.begin(), name.end(), '-', '_');
   return name;
@@ -72,7 +71,7 @@ TEST_P(SettingsTemplate, LoadsToTheValuesOfAbsentColumns) {
   const std::string defaults = folder_.WriteTable("empty.csv", "无人知道\n1\n");
   const std::vector<Cells> expected = LoadSettings(GetParam(), defaults);
   const std::vector<Cells> loaded = LoadSettings(GetParam(), WriteTemplate());
-  const std::vector<ColumnSchema>& columns = FindTableSchema(GetParam())->columns;
+  const std::vector<ColumnSchema>& columns = SchemaOf(*FindRole(GetParam())).columns;
   ASSERT_EQ(loaded.size(), columns.size());
   for (std::size_t i = 0; i < columns.size(); ++i) {
     EXPECT_EQ(WithoutEmptyTexts(columns[i], loaded[i]), expected[i]) << GbkToUtf8(columns[i].column);
@@ -82,7 +81,7 @@ TEST_P(SettingsTemplate, LoadsToTheValuesOfAbsentColumns) {
 TEST_P(SettingsTemplate, NamesEachValueInTheTable) {
   ReadConfigFile table;
   table.OpenConfigFile(WriteTemplate());
-  for (const ColumnSchema& column : FindTableSchema(GetParam())->columns) {
+  for (const ColumnSchema& column : SchemaOf(*FindRole(GetParam())).columns) {
     Cells cells = table.GetColumnValue(column.column);
     while (cells.size() > column.whenAbsent.size()) {
       EXPECT_EQ(cells.back(), "");
@@ -94,7 +93,7 @@ TEST_P(SettingsTemplate, NamesEachValueInTheTable) {
 
 std::vector<std::string_view> SettingsRoles() {
   std::vector<std::string_view> roles;
-  for (const TableSchema& table : SettingsSchema()) roles.push_back(table.role);
+  for (const TableSchema& table : SettingsSchema()) roles.push_back(NameOf(table.role));
   return roles;
 }
 
@@ -152,8 +151,8 @@ TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
 }
 
 TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
-  ColumnSchema column{"a,b", "text", CellType::kText, "", "", {"say \"hi\"", "plain"}};
-  const TableSchema table{"bom", WhenUnreadable::kCountsAsEmpty, true, {column}};
+  ColumnSchema column{"a,b", CellForm::kText, CellType::kText, Unit::kNone, "", {"say \"hi\"", "plain"}};
+  const TableSchema table{Role::kBom, {column}};
   EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
 }
 

@@ -2,10 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <set>
-
-#include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_check.h"
 #include "support/companion.h"
 
@@ -21,7 +17,7 @@ std::string About(std::string_view role, const std::string& column, const std::s
   test::Messages messages;
   const std::string header = before.empty() ? column : before + "," + column;
   const std::string row = before.empty() ? cell : "1," + cell;
-  CheckTable({files.WriteTable("t.csv", header + "\n" + row + "\n"), "t.csv"}, *FindTableSchema(role), {},
+  CheckTable({files.WriteTable("t.csv", header + "\n" + row + "\n"), "t.csv"}, SchemaOf(*FindRole(role)), {},
              messages.reporter);
   const std::string text = messages.Text();
   const std::size_t begin = text.find("2: ");  // Behind the cell's name, A2 or B2.
@@ -59,7 +55,7 @@ TEST(TableCells, ARowThatIsNoRuleRowIsNotLookedAt) {
   const test::TemporaryFolder files;
   test::Messages messages;
   CheckTable({files.WriteTable("t.csv", "模板所在图层,长度范围\n,see below\n"), "t.csv"},
-             *FindTableSchema("process-rules"), {}, messages.reporter);
+             SchemaOf(Role::kProcessRules), {}, messages.reporter);
   EXPECT_EQ(messages.Text(), "");
 }
 
@@ -67,7 +63,7 @@ TEST(TableCells, ARowThatIsNoRuleRowIsNotLookedAt) {
 std::string PlacesIn(std::string_view role, const std::string& table) {
   const test::TemporaryFolder files;
   test::Messages messages;
-  CheckTable({files.WriteTable("t.csv", table), "t.csv"}, *FindTableSchema(role), {}, messages.reporter);
+  CheckTable({files.WriteTable("t.csv", table), "t.csv"}, SchemaOf(*FindRole(role)), {}, messages.reporter);
   std::istringstream lines(messages.Text());
   std::string places;
   for (std::string line; std::getline(lines, line);) places += line.substr(0, line.find(": \"")) + "\n";
@@ -122,17 +118,9 @@ TEST(TableCells, ACellThatIsAlmostTheExactTextMeansItsOpposite) {
 TEST(TableCells, OnlyTheFirstRowOfASingleValueIsLookedAt) {
   const test::TemporaryFolder files;
   test::Messages messages;
-  CheckTable({files.WriteTable("t.csv", "密度(g/cm)\n7.85\nsteel\n"), "t.csv"}, *FindTableSchema("bom"), {},
+  CheckTable({files.WriteTable("t.csv", "密度(g/cm)\n7.85\nsteel\n"), "t.csv"}, SchemaOf(Role::kBom), {},
              messages.reporter);
   EXPECT_EQ(messages.Text(), "");
-}
-
-TEST(TableCells, EveryKindOfCellIsCheckedOrTakesEveryText) {
-  const std::set<std::string_view> free = {"text", "style", "list of texts", "text; empty = no column"};
-  for (const TableSchema& table : FullSchema()) {
-    for (const ColumnSchema& column : table.columns)
-      EXPECT_NE(IsCheckedKind(column.kind), free.contains(column.kind)) << column.kind;
-  }
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "plateconfig/tables/full_schema.h"
 #include "support/companion.h"
 
 namespace plateconfig {
@@ -16,7 +15,8 @@ const TableConsequences kThen = {"so it is lost", "so it is bare"};
 std::string Check(const std::string& bytes, std::string_view role = "process-rules") {
   const test::TemporaryFolder files;
   test::Messages messages;
-  CheckTable({files.WriteBytes("t.csv", bytes), "t.csv"}, *FindTableSchema(role), kThen, messages.reporter);
+  CheckTable({files.WriteBytes("t.csv", bytes), "t.csv"}, SchemaOf(*FindRole(role)), kThen,
+             messages.reporter);
   return messages.Text();
 }
 
@@ -27,7 +27,7 @@ TEST(CheckTable, AGoodTableIsPassedInSilence) {
 
 TEST(CheckTable, SaysWhatIsMissingAndWhatFollows) {
   test::Messages messages;
-  CheckTable({"no-such-file.csv", "规则.csv"}, *FindTableSchema("bom"), kThen, messages.reporter);
+  CheckTable({"no-such-file.csv", "规则.csv"}, SchemaOf(Role::kBom), kThen, messages.reporter);
   EXPECT_EQ(messages.Text(), "规则.csv: error: this table does not exist; so it is lost\n");
 }
 
@@ -35,7 +35,7 @@ TEST(CheckTable, AFolderCanNotBeRead) {
   const test::TemporaryFolder files;
   files.WriteBytes("t.csv/x", "");
   test::Messages messages;
-  CheckTable({files.HostPath("t.csv"), "t.csv"}, *FindTableSchema("bom"), kThen, messages.reporter);
+  CheckTable({files.HostPath("t.csv"), "t.csv"}, SchemaOf(Role::kBom), kThen, messages.reporter);
   EXPECT_EQ(messages.Text(), "t.csv: error: this table can not be read; so it is lost\n");
 }
 

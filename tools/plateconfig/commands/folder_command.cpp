@@ -7,7 +7,6 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/system/console.h"
-#include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_check.h"
 #include "platform/file.h"
 #include "text/gbk.h"
@@ -42,7 +41,7 @@ void WriteJson(const std::string& root, const ConfigurationIndex& index, std::os
 void ReportHeader(const std::string& indexPath, Reporter& reporter) {
   const std::optional<Table> table = Table::Read(indexPath);
   if (!table || table->ColumnCount() == 0) return;
-  CheckHeader({indexPath, ShownPath(indexPath)}, *table, *FindTableSchema(kIndexRole), reporter);
+  CheckHeader({indexPath, ShownPath(indexPath)}, *table, SchemaOf(Role::kIndex), reporter);
 }
 
 /// Reports what the user would want to know of an index that leads somewhere unexpected.

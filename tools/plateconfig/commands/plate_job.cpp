@@ -10,14 +10,13 @@
 #include "plateconfig/commands/options.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_check.h"
 
 namespace plateconfig {
 namespace {
 
 void Check(Role role, const TableFile& file, const std::string& consequence, Reporter& reporter) {
-  CheckTable(file, *FindTableSchema(NameOf(role)), {consequence, consequence}, reporter);
+  CheckTable(file, SchemaOf(role), {consequence, consequence}, reporter);
 }
 
 std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {

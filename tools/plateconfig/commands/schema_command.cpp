@@ -1,12 +1,12 @@
 #include <memory>
 #include <sstream>
 
+#include "analysis/schema/table_schema.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/output/output_file.h"
-#include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/schema_words.h"
 #include "text/gbk.h"
 
@@ -27,11 +27,11 @@ std::string AbsentText(const ColumnSchema& column) {
 }
 
 void WriteText(const TableSchema& table, std::ostream& out) {
-  out << table.role << ": " << TitleOf(table.role) << "\n";
+  out << NameOf(table.role) << ": " << InWords(RowOf(table.role).title) << "\n";
   for (const ColumnSchema& column : table.columns) {
     out << "  " << GbkToUtf8(column.column) << ": " << column.help;
-    if (!column.unit.empty()) out << " [" << UnitText(column.unit) << "]";
-    out << "; " << KindText(column.kind);
+    if (column.unit != Unit::kNone) out << " [" << InWords(WordsOf(column.unit)) << "]";
+    out << "; " << InWords(WordsOf(column.form));
     if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
     out << "\n";
   }
@@ -41,15 +41,15 @@ void WriteText(const TableSchema& table, std::ostream& out) {
 Json ToJson(const TableSchema& table, const ColumnSchema& column) {
   Json absent = Json::array();
   for (const std::string& cell : column.whenAbsent) absent.push_back(GbkToUtf8(cell));
-  return {{"role", table.role},
+  return {{"role", NameOf(table.role)},
           {"column", GbkToUtf8(column.column)},
-          {"kind", column.kind},
-          {"unit", column.unit},
+          {"kind", WordsOf(column.form).english},
+          {"unit", WordsOf(column.unit).english},
           {"help", column.help},
           {"whenAbsent", absent},
           {"rows", column.isRowColumn},
           {"list", column.isList},
-          {"placeholder", column.isPlaceholder}};
+          {"placeholder", column.use == ColumnUse::kPlaceholder}};
 }
 
 /// A cell of a Markdown table: its own separator would end it.
@@ -70,14 +70,14 @@ std::string WhenAbsentCell(const ColumnSchema& column) {
 }
 
 void WriteMarkdown(const TableSchema& table, std::ostream& out) {
-  out << "\n## " << table.role << "\n\n" << TitleOf(table.role) << "\n\n";
+  out << "\n## " << NameOf(table.role) << "\n\n" << InWords(RowOf(table.role).title) << "\n\n";
   out << Say("| Column | What it is | Unit | Cells | When absent |", "| 列 | 含义 | 单位 | 单元格 | 缺列时 |")
       << "\n|---|---|---|---|---|\n";
   for (const ColumnSchema& column : table.columns) {
     const std::string name = "`" + GbkToUtf8(column.column) + "`";
-    out << "| " << (column.isPlaceholder ? "*" + name + "*" : name) << " | "
-        << Escaped(std::string(column.help)) << " | " << UnitText(column.unit) << " | "
-        << KindText(column.kind) << " | " << WhenAbsentCell(column) << " |\n";
+    out << "| " << (column.use == ColumnUse::kPlaceholder ? "*" + name + "*" : name) << " | "
+        << Escaped(std::string(column.help)) << " | " << InWords(WordsOf(column.unit)) << " | "
+        << InWords(WordsOf(column.form)) << " | " << WhenAbsentCell(column) << " |\n";
   }
 }
 

@@ -46,7 +46,7 @@ std::string OneLine(const std::string& gbk) {
   return text;
 }
 
-std::string ValueText(const ShownSetting& setting) {
+std::string ValueText(const Setting& setting) {
   if (setting.value.empty()) return Say("none", "无");
   std::string text;
   for (const std::string& cell : setting.value) {
@@ -56,19 +56,19 @@ std::string ValueText(const ShownSetting& setting) {
   return text;
 }
 
-void WriteText(const ShownSetting& setting, std::ostream& out) {
+void WriteText(const Setting& setting, std::ostream& out) {
   out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
-  if (!setting.schema.unit.empty() && !setting.value.empty())
-    out << "  [" << UnitText(setting.schema.unit) << "]";
+  if (setting.schema.unit != Unit::kNone && !setting.value.empty())
+    out << "  [" << InWords(WordsOf(setting.schema.unit)) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
 }
 
-void WriteText(const TableSchema& table, const std::optional<TableFile>& file,
-               const std::vector<ShownSetting>& settings, std::ostream& out) {
-  out << table.role << "  " << (file ? file->shownAs : Say("no file plays this role", "没有文件担任此角色"))
+void WriteText(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings,
+               std::ostream& out) {
+  out << NameOf(role) << "  " << (file ? file->shownAs : Say("no file plays this role", "没有文件担任此角色"))
       << "\n";
-  for (const ShownSetting& setting : settings) WriteText(setting, out);
+  for (const Setting& setting : settings) WriteText(setting, out);
   out << "\n";
 }
 
@@ -89,7 +89,7 @@ Json CellToJson(CellType type, const std::string& cell) {
   return GbkToUtf8(cell);
 }
 
-Json ValueToJson(const ShownSetting& setting) {
+Json ValueToJson(const Setting& setting) {
   const CellType type = setting.schema.type;
   if (!HasManyValues(setting.schema)) return CellToJson(type, setting.value.front());
   Json values = Json::array();
@@ -101,12 +101,12 @@ const char* JsonName(Source source) {
   return source == Source::kTable ? "table" : source == Source::kAbsent ? "absent column" : "class";
 }
 
-Json ToJson(const TableSchema& table, const std::optional<TableFile>& file, const ShownSetting& setting) {
-  return {{"role", table.role},
+Json ToJson(Role role, const std::optional<TableFile>& file, const Setting& setting) {
+  return {{"role", NameOf(role)},
           {"file", file ? Json(file->shownAs) : nullptr},
           {"column", GbkToUtf8(setting.schema.column)},
           {"value", ValueToJson(setting)},
-          {"unit", setting.schema.unit},
+          {"unit", WordsOf(setting.schema.unit).english},
           {"source", JsonName(setting.source)}};
 }
 
@@ -118,23 +118,27 @@ void RunShow(const ShowJob& job, Context& context) {
   Configuration configuration(job.configuration, context.reporter);
   std::optional<JsonArray> array;
   if (context.format == Format::kJson) array.emplace(context.streams.out);
-  for (const TableSchema& table : FullSchema()) {
-    const auto role = FindRole(table.role);
-    if (!role || !IsWanted(job, table.role)) continue;
-    const std::optional<TableFile> file = configuration.FindOptional(*role);
-    const std::vector<ShownSetting> settings = SettingsOf(table, file, context.reporter);
-    if (!array) WriteText(table, file, settings, context.streams.out);
-    for (const ShownSetting& setting : settings) {
-      if (array) array->Add(ToJson(table, file, setting));
+  for (const RoleRow& row : ManifestRoles()) {
+    const Role role = row.role;
+    if (!IsWanted(job, row.name)) continue;
+    const std::optional<TableFile> file = configuration.FindOptional(role);
+    const std::vector<Setting> settings = ReportedSettings(role, file, context.reporter);
+    if (!array) WriteText(role, file, settings, context.streams.out);
+    for (const Setting& setting : settings) {
+      if (array) array->Add(ToJson(role, file, setting));
     }
   }
 }
 
 std::vector<Role> AllRoles() {
-  std::vector<Role> roles(kRoleNames.size());
-  std::transform(kRoleNames.begin(), kRoleNames.end(), roles.begin(),
-                 [](std::string_view name) { return *FindRole(name); });
+  std::vector<Role> roles;
+  for (const RoleRow& row : ManifestRoles()) roles.push_back(row.role);
   return roles;
+}
+
+std::vector<std::string> AllNames() {
+  const std::vector<std::string_view> names = NamesOf(ManifestRoles());
+  return {names.begin(), names.end()};
 }
 
 }  // namespace
@@ -142,11 +146,10 @@ std::vector<Role> AllRoles() {
 Run ShowOptions(CLI::App& command) {
   const auto job = std::make_shared<ShowJob>();
   AddConfigurationOptions(command, AllRoles(), job->configuration);
-  const std::vector<std::string> names(kRoleNames.begin(), kRoleNames.end());
   command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
-      ->check(OneOf(names));
-  AddRolesToHelp(command, names);
+      ->check(OneOf(AllNames()));
+  AddRolesToHelp(command, AllNames());
   return [job](Context& context) { RunShow(*job, context); };
 }
 

@@ -4,7 +4,6 @@
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/output_file.h"
-#include "plateconfig/tables/full_schema.h"
 #include "plateconfig/tables/table_template.h"
 
 namespace plateconfig {
@@ -17,7 +16,7 @@ struct TemplateJob {
 };
 
 void RunTemplate(const TemplateJob& job, Context& context) {
-  const std::string table = TableTemplate(*FindTableSchema(job.role));
+  const std::string table = TableTemplate(SchemaOf(*FindRole(job.role)));
   if (job.output.empty()) {
     context.streams.out << table;
   } else {
@@ -26,7 +25,7 @@ void RunTemplate(const TemplateJob& job, Context& context) {
 }
 
 std::vector<std::string> RoleNames() {
-  const auto roles = SchemaRoles();
+  const std::vector<std::string_view> roles = NamesOf(Roles());
   return {roles.begin(), roles.end()};
 }
 

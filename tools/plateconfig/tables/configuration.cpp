@@ -1,6 +1,7 @@
 #include "plateconfig/tables/configuration.h"
 
 #include <string_view>
+#include <vector>
 
 #include "analysis/text/shown_text.h"
 #include "analysis/text/similar_name.h"
@@ -28,7 +29,8 @@ std::string_view WithoutByteOrderMark(std::string_view utf8) {
 }
 
 std::string UnknownRole(const std::string& name) {
-  const std::string similar = MostSimilarName(name, {kRoleNames.begin(), kRoleNames.end()});
+  const std::vector<std::string_view> known = NamesOf(ManifestRoles());
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
   return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", ShownText(name)) +
          DidYouMean(similar);
 }
@@ -133,7 +135,7 @@ void Configuration::ReadManifest() {
 }
 
 void Configuration::ReadRole(const std::string& name, const JsonNode& file) {
-  const auto role = FindRole(name);
+  const auto role = FindRole(name, ManifestRoles());
   if (!role) {
     reporter_.Warning(file.place, UnknownRole(name));
   } else if (file.kind != JsonNode::Kind::kString) {

@@ -1,17 +1,12 @@
 #pragma once
 
-// The words that many columns of the schema share, in the current language. The schema itself has them in
-// English, which its JSON keeps.
-
 #include <string>
-#include <string_view>
+
+#include "analysis/schema/words.h"
 
 namespace plateconfig {
 
-/// A unit; those that all languages share stay as they are.
-std::string UnitText(std::string_view unit);
-
-/// What the cells of a column hold.
-std::string KindText(std::string_view kind);
+/// Words of the schema in the current language.
+std::string InWords(const Words& words);
 
 }  // namespace plateconfig

@@ -13,7 +13,6 @@
 #include "plateconfig/input/cell_texts.h"
 #include "plateconfig/messages/language.h"
 #include "rules/condition_texts.h"
-#include "rules/rule_columns.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -23,26 +22,26 @@ std::string ReadAs(const std::string& value) {
   return Say("; it is read as {}", "；读作 {}", value);
 }
 
-std::string NumberMistake(const ColumnSchema&, const std::string& cell) {
+std::string NumberMistake(const std::string& cell) {
   if (StrictNumber(cell)) return {};
   return NotANumber(GbkToUtf8(cell)) + ReadAs(NumberText(ParseDouble(cell)));
 }
 
-std::string IntegerMistake(const ColumnSchema&, const std::string& cell) {
+std::string IntegerMistake(const std::string& cell) {
   if (StrictInteger(cell)) return {};
   return NotAnInteger(GbkToUtf8(cell)) + ReadAs(std::to_string(ParseInt(cell)));
 }
 
-std::string IntegersMistake(const ColumnSchema&, const std::string& cell) {
+std::string IntegersMistake(const std::string& cell) {
   if (StrictIntegers(cell)) return {};
   return NotIntegers(GbkToUtf8(cell)) + ReadAs(JoinInts(SplitInts(cell)));
 }
 
-std::string NumbersMistake(const ColumnSchema&, const std::string& cell) {
+std::string NumbersMistake(const std::string& cell) {
   return StrictNumbers(cell) ? std::string() : NotNumbers(GbkToUtf8(cell));
 }
 
-std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
+std::string RangeMistake(const std::string& cell) {
   const auto bounds = StrictNumbers(cell);
   if (bounds && bounds->size() == 2 && bounds->front() <= bounds->back()) return {};
   const auto read = SplitRange(cell);
@@ -50,13 +49,8 @@ std::string RangeMistake(const ColumnSchema&, const std::string& cell) {
                                             : Say("; it counts as an empty cell", "；视为空单元格"));
 }
 
-std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
-  constexpr FlagLetters kAll[] = {FlagLetters::kYesIfUpperY, FlagLetters::kYesIfY, FlagLetters::kNoIfUpperN,
-                                  FlagLetters::kNoIfN};
-  const auto letters = std::find_if(std::begin(kAll), std::end(kAll),
-                                    [&](FlagLetters each) { return FlagName(each) == column.kind; });
-  if (letters == std::end(kAll)) return {};
-  const bool isYes = ReadFlag(*letters, cell);
+std::string FlagMistake(FlagLetters letters, const std::string& cell) {
+  const bool isYes = ReadFlag(letters, cell);
   const auto strict = StrictYesNo(cell);
   if (!strict) return NotYesNo(GbkToUtf8(cell)) + ReadAs(FlagText(isYes));
   if (*strict == isYes) return {};
@@ -64,7 +58,7 @@ std::string FlagMistake(const ColumnSchema& column, const std::string& cell) {
              FlagText(isYes));
 }
 
-std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
+std::string ConditionMistake(const std::string& cell) {
   if (FindRuleType(cell)) return {};
   std::vector<std::string> known(kConditionTexts.size());
   std::transform(kConditionTexts.begin(), kConditionTexts.end(), known.begin(),
@@ -76,59 +70,14 @@ std::string ConditionMistake(const ColumnSchema&, const std::string& cell) {
   return mistake + DidYouMean(similar);
 }
 
-/// Of a cell that looks like `exact` but for a letter, which makes it mean the opposite.
-std::string AlmostMistake(std::string_view exact, const std::string& cell) {
-  if (cell == exact) return {};
+/// Of a cell that looks like the wanted text but for a letter, which makes it mean the opposite.
+std::string ExactMistake(const ExactTexts& exact, const std::string& cell) {
+  if (cell == exact.wanted || cell == exact.opposite) return {};
   const std::string name = GbkToUtf8(cell);
-  const std::string wanted = GbkToUtf8(exact);
+  const std::string wanted = GbkToUtf8(exact.wanted);
   if (MostSimilarName(name, {wanted}).empty()) return {};
   return Say("\"{}\" is not exactly \"{}\" and counts as its opposite",
              "“{}”与“{}”不完全相同，因此视为相反的要求", ShownText(name), wanted);
-}
-
-/// The text that a cell of a rule row has to be exactly, and the one that says the opposite.
-struct ExactText {
-  std::string_view column;
-  std::string_view exact;
-  std::string_view opposite;
-};
-
-using namespace literals;
-
-constexpr ExactText kExactTexts[] = {
-    {columns::kHasProfile, columns::kProfileColors, "无型面"_gbk},
-    {columns::kHasWireCutting, columns::kWireCuttingColors, "无线割"_gbk},
-    {columns::kMaterial, columns::kSoftMaterial, columns::kHardMaterial},
-};
-
-std::string ExactMistake(const ColumnSchema& column, const std::string& cell) {
-  for (const ExactText& text : kExactTexts) {
-    if (column.column == text.column && cell != text.opposite) return AlmostMistake(text.exact, cell);
-  }
-  return {};
-}
-
-struct KindCheck {
-  std::string_view begin;  ///< Of the kind's name. The first that fits counts.
-  std::string (*mistake)(const ColumnSchema& column, const std::string& cell);
-};
-
-constexpr KindCheck kKindChecks[] = {
-    {"number", NumberMistake},
-    {"integer", IntegerMistake},
-    {"list of integers in one cell", IntegersMistake},
-    {"list of integers", IntegerMistake},
-    {"list of numbers in one cell", NumbersMistake},
-    {"range", RangeMistake},
-    {"flag", FlagMistake},
-    {"condition", ConditionMistake},
-    {"exactly", ExactMistake},
-};
-
-const KindCheck* FindCheck(std::string_view kind) {
-  const auto check = std::find_if(std::begin(kKindChecks), std::end(kKindChecks),
-                                  [&](const KindCheck& each) { return kind.starts_with(each.begin); });
-  return check == std::end(kKindChecks) ? nullptr : check;
 }
 
 /// A general parameter of the rule table is found by its name.
@@ -143,6 +92,45 @@ std::string ParameterMistake(const ColumnSchema& column, const std::string& cell
   return Say("\"{}\" is no general parameter", "“{}”不是通用要求", ShownText(name)) + DidYouMean(similar);
 }
 
+/// What is wrong with a cell that is not empty.
+std::string FilledCellMistake(const ColumnSchema& column, const std::string& cell) {
+  switch (column.form) {
+    case CellForm::kNumber:
+      return NumberMistake(cell);
+    case CellForm::kInteger:
+    case CellForm::kIntegerOrAbsent:
+    case CellForm::kIntegers:
+    case CellForm::kNonZeroIntegers:
+    case CellForm::kLayerNumbers:
+      return IntegerMistake(cell);
+    case CellForm::kText:
+    case CellForm::kTextOrAbsent:
+    case CellForm::kTexts:
+    case CellForm::kStyle:
+      return {};
+    case CellForm::kFlagYesIfUpperY:
+      return FlagMistake(FlagLetters::kYesIfUpperY, cell);
+    case CellForm::kFlagYesIfY:
+      return FlagMistake(FlagLetters::kYesIfY, cell);
+    case CellForm::kFlagNoIfUpperN:
+      return FlagMistake(FlagLetters::kNoIfUpperN, cell);
+    case CellForm::kFlagNoIfN:
+      return FlagMistake(FlagLetters::kNoIfN, cell);
+    case CellForm::kJoinedIntegers:
+      return IntegersMistake(cell);
+    case CellForm::kJoinedNumbers:
+      return NumbersMistake(cell);
+    case CellForm::kRange:
+      return RangeMistake(cell);
+    case CellForm::kConditionText:
+      return ConditionMistake(cell);
+    case CellForm::kExactParameter:
+    case CellForm::kExactSoftParameter:
+      return ExactMistake(column.exact, cell);
+  }
+  return {};
+}
+
 struct CheckedColumn {
   const ColumnSchema& schema;
   std::optional<std::size_t> deciding;
@@ -151,15 +139,14 @@ struct CheckedColumn {
 
 /// The column that decides whether a row counts for this one, where the table has it.
 std::optional<std::size_t> FindDeciding(const ColumnSchema& column, const Table& table) {
-  const std::string_view name = DecidingColumn(column);
-  return name.empty() ? std::nullopt : table.FindColumn(name);
+  return column.decidedBy.empty() ? std::nullopt : table.FindColumn(column.decidedBy);
 }
 
 /// The columns that the library reads, by their place in the table.
 std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const TableSchema& schema) {
   std::map<std::size_t, CheckedColumn> columns;
   for (const ColumnSchema& column : schema.columns) {
-    const auto at = column.isPlaceholder ? std::nullopt : table.FindColumn(column.column);
+    const auto at = column.use == ColumnUse::kPlaceholder ? std::nullopt : table.FindColumn(column.column);
     if (!at) continue;
     const std::size_t lastRow = column.isList || column.isRowColumn ? table.RowCount() : 1;
     columns.insert({*at, {column, FindDeciding(column, table), lastRow}});
@@ -169,25 +156,10 @@ std::map<std::size_t, CheckedColumn> CheckedColumns(const Table& table, const Ta
 
 }  // namespace
 
-std::string_view DecidingColumn(const ColumnSchema& column) {
-  if (column.column == columns::kConditionType || column.column == columns::kConditionValue)
-    return columns::kProcessName;
-  const bool isRuleRow = column.column == columns::kLengthRange || column.column == columns::kWidthRange ||
-                         column.column == columns::kHeightRange || column.column == columns::kWeightRange ||
-                         column.column == columns::kHasProfile || column.column == columns::kHasWireCutting ||
-                         column.column == columns::kMaterial;
-  return isRuleRow ? columns::kLayer : std::string_view();
-}
-
 std::string CellMistake(const ColumnSchema& column, const std::string& cell) {
   if (cell.empty()) return {};
-  if (column.column == columns::kParameterName) return ParameterMistake(column, cell);
-  const KindCheck* check = FindCheck(column.kind);
-  return check == nullptr ? std::string() : check->mistake(column, cell);
-}
-
-bool IsCheckedKind(std::string_view kind) {
-  return FindCheck(kind) != nullptr;
+  if (column.use == ColumnUse::kParameterNames) return ParameterMistake(column, cell);
+  return FilledCellMistake(column, cell);
 }
 
 void ForEachCellMistake(

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "analysis/schema/settings_schema.h"
+#include "analysis/schema/table_schema.h"
 #include "config/table.h"
 
 namespace plateconfig {
@@ -13,13 +13,6 @@ namespace plateconfig {
 /// What is wrong with a cell (GBK) of this column and what it counts as, in the current language; empty when
 /// it is what the column's kind says. An empty cell is never wrong.
 std::string CellMistake(const ColumnSchema& column, const std::string& cell);
-
-/// True when `CellMistake` has something to say of cells of this kind.
-bool IsCheckedKind(std::string_view kind);
-
-/// The column (GBK) whose empty cell makes that a row of the rule table does not count for this column; empty
-/// when it is the column itself, and in every other table.
-std::string_view DecidingColumn(const ColumnSchema& column);
 
 /// Calls `report` for every mistake in the cells that the library reads, in the order in which they stand.
 void ForEachCellMistake(

@@ -12,7 +12,6 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/tables/table_cells.h"
 #include "platform/file.h"
-#include "rules/rule_columns.h"
 #include "text/gbk.h"
 #include "text/gbk_scan.h"
 
@@ -94,17 +93,16 @@ bool CheckEncoding(const TableFile& file, const Table& table, Reporter& reporter
   return true;
 }
 
-/// The columns that the library reads: those of the schema, and in the rule table one for each process.
+/// The columns that the library reads: those of the schema, and those that their cells name.
 std::set<std::string> ReadColumns(const TableSchema& schema, const Table& table) {
   std::set<std::string> names;
   for (const ColumnSchema& column : schema.columns) {
-    if (!column.isPlaceholder) names.insert(column.column);
-  }
-  const auto processes = names.contains(std::string(columns::kProcessName))
-                             ? table.FindColumn(columns::kProcessName)
-                             : std::nullopt;
-  for (std::size_t row = 1; processes && row <= table.RowCount(); ++row) {
-    if (std::string name = table.Cell(row, *processes); !name.empty()) names.insert(std::move(name));
+    if (column.use != ColumnUse::kPlaceholder) names.insert(column.column);
+    const auto naming =
+        column.use == ColumnUse::kColumnNames ? table.FindColumn(column.column) : std::nullopt;
+    for (std::size_t row = 1; naming && row <= table.RowCount(); ++row) {
+      if (std::string name = table.Cell(row, *naming); !name.empty()) names.insert(std::move(name));
+    }
   }
   return names;
 }
@@ -132,7 +130,7 @@ class ColumnCheck {
     reporter_.Warning(
         {file_.shownAs, 1, 1},
         Say("no column of this table is one that the role {0} has (plateconfig template {0} writes them)",
-            "此表没有一列属于角色 {0}（用 plateconfig template {0} 写出各列）", schema_.role));
+            "此表没有一列属于角色 {0}（用 plateconfig template {0} 写出各列）", NameOf(schema_.role)));
   }
 
  private:
@@ -169,8 +167,9 @@ void CheckColumns(const TableFile& file, const Table& table, const TableSchema& 
     const std::string complaint = OtherSeparator(GbkToUtf8(table.Cell(0, 0)));
     if (!complaint.empty()) return reporter.Warning({file.shownAs, 1, 1}, complaint);
   }
-  const bool isAnyColumnRead = std::all_of(schema.columns.begin(), schema.columns.end(),
-                                           [](const auto& column) { return column.isPlaceholder; });
+  const bool isAnyColumnRead =
+      std::all_of(schema.columns.begin(), schema.columns.end(),
+                  [](const auto& column) { return column.use == ColumnUse::kPlaceholder; });
   if (!isAnyColumnRead) ColumnCheck(file, table, schema, reporter).Run();
 }
 

@@ -2,11 +2,11 @@
 
 // Looks at a table of the configuration before the library reads it, because the library says nothing.
 //
-//   CheckTable(file, *FindTableSchema("texts"), {whenUnreadable, whenEmpty}, reporter);
+//   CheckTable(file, SchemaOf(Role::kTexts), {whenUnreadable, whenEmpty}, reporter);
 
 #include <string>
 
-#include "analysis/schema/settings_schema.h"
+#include "analysis/schema/table_schema.h"
 #include "config/table.h"
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/tables/configuration.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "analysis/schema/settings_schema.h"
+#include "analysis/schema/table_schema.h"
 
 namespace plateconfig {
 

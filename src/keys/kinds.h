@@ -1,40 +1,53 @@
 #pragma once
 
 // The kinds of cells. A kind knows everything about one sort of setting: how it is read from the cells of its
-// column, what an absent column gives, how it is printed, what it is called.
+// column, what an absent column gives, how it is printed, what its cells look like.
 //
 //   Number{&LabelSettings::textHeight, 3.5}
 //
 // Every kind has these members; `cells` are the column's, top to bottom, and empty when the column is absent
 // or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
 //
-// - `Name()`: what the documentation calls it.
+// - `Form()`: what its cells look like.
 // - `kType`, `kIsList`: what a value is, and whether the column is a list.
 // - `EmptyIsAbsent()`: whether an empty first cell counts as no column.
 // - `Read(record, cells)`: puts the cells' value into the record's field.
 // - `Print(record)`: the field as one cell, or as those of a list.
 // - `WhenAbsent()`: what an absent column gives.
 // - `Accepts(cell)`: whether a row of several columns may hold this cell.
+// - `Says(cell)`: false for a cell of a row that leaves the field as a fresh record has it.
+// - `Exact()`: the texts of a cell that has to be exactly one of them.
 
+#include <concepts>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "config/numbers.h"
-#include "settings/cell_text.h"
-#include "settings/note_style.h"
+#include "keys/cell_text.h"
 
 namespace plateconfig {
 
-/// What most kinds have in common.
+/// What a cell that is compared with one text should hold, GBK: that text, or what says the opposite. Empty
+/// for any other cell.
+struct ExactTexts {
+  std::string_view wanted;
+  std::string_view opposite;
+};
+
+/// What most kinds have in common; a kind that has no value for an absent column belongs to rows.
 template <CellType type, bool isList = false>
 struct KindOf {
   static constexpr CellType kType = type;
   static constexpr bool kIsList = isList;
   static bool EmptyIsAbsent() { return false; }
   static bool Accepts(const std::string& cell) { return !cell.empty(); }
+  static bool Says(const std::string&) { return true; }
+  static ExactTexts Exact() { return {}; }
+  static Cells WhenAbsent() { return {}; }
 };
 
 /// What an empty first cell means.
@@ -56,7 +69,7 @@ struct Number : KindOf<CellType::kNumber> {
   double Record::*field;
   double whenAbsent;
 
-  static std::string_view Name() { return "number"; }
+  static CellForm Form() { return CellForm::kNumber; }
   void Read(Record& record, const Cells& cells) const {
     // Kept: an empty first cell is a cell, and reads as 0.
     record.*field = cells.empty() ? whenAbsent : ParseDouble(cells.front());
@@ -75,8 +88,8 @@ struct Integer : KindOf<CellType::kInteger> {
   int whenAbsent;
   EmptyCell emptyCell;
 
-  std::string_view Name() const {
-    return emptyCell == EmptyCell::kCounts ? "integer" : "integer; empty = no column";
+  CellForm Form() const {
+    return emptyCell == EmptyCell::kCounts ? CellForm::kInteger : CellForm::kIntegerOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
@@ -97,8 +110,8 @@ struct Text : KindOf<CellType::kText> {
   std::string_view whenAbsent;  // GBK
   EmptyCell emptyCell;
 
-  std::string_view Name() const {
-    return emptyCell == EmptyCell::kCounts ? "text" : "text; empty = no column";
+  CellForm Form() const {
+    return emptyCell == EmptyCell::kCounts ? CellForm::kText : CellForm::kTextOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, const Cells& cells) const {
@@ -118,27 +131,12 @@ struct Flag : KindOf<CellType::kFlag> {
   bool whenAbsent;
   FlagLetters letters;
 
-  std::string_view Name() const { return FlagName(letters); }
+  CellForm Form() const { return FormOf(letters); }
   void Read(Record& record, const Cells& cells) const {
     record.*field = cells.empty() ? whenAbsent : ReadFlag(letters, cells.front());
   }
   Cells Print(const Record& record) const { return {FlagText(record.*field)}; }
   Cells WhenAbsent() const { return {FlagText(whenAbsent)}; }
-};
-
-/// A text style; without six fields the default style.
-template <typename Record, typename NoteStyle>
-struct Style : KindOf<CellType::kText> {
-  constexpr explicit Style(NoteStyle Record::*of) : field(of) {}
-
-  NoteStyle Record::*field;
-
-  static std::string_view Name() { return "style"; }
-  void Read(Record& record, const Cells& cells) const {
-    record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
-  }
-  Cells Print(const Record& record) const { return {StyleText(CopyStyle<NoteStyleFields>(record.*field))}; }
-  Cells WhenAbsent() const { return {StyleText(NoteStyleFields())}; }
 };
 
 /// A list of numbers that runs down its column. Reading appends; nothing is sorted, duplicates stay.
@@ -151,7 +149,7 @@ struct IntList : KindOf<CellType::kInteger, true> {
   TakenCells taken;
   std::span<const int> whenNone;  ///< Appended to a list that is still empty.
 
-  std::string_view Name() const { return TakenCellsName(taken); }
+  CellForm Form() const { return FormOf(taken); }
   void Read(Record& record, const Cells& cells) const {
     std::vector<int>& list = record.*field;
     // Kept: what is there stays, so that a list grows each time that its table is read.
@@ -169,10 +167,9 @@ struct TextList : KindOf<CellType::kText, true> {
 
   std::vector<std::string> Record::*field;
 
-  static std::string_view Name() { return "list of texts"; }
+  static CellForm Form() { return CellForm::kTexts; }
   void Read(Record& record, const Cells& cells) const { record.*field = cells; }
   Cells Print(const Record& record) const { return record.*field; }
-  Cells WhenAbsent() const { return {}; }
 };
 
 /// A list of numbers inside one cell, joined by "_". Every piece counts; one that is no number is 0.
@@ -182,12 +179,11 @@ struct JoinedInts : KindOf<CellType::kText> {
 
   std::vector<int> Record::*field;
 
-  static std::string_view Name() { return "list of integers in one cell (12_6)"; }
+  static CellForm Form() { return CellForm::kJoinedIntegers; }
   void Read(Record& record, const Cells& cells) const {
     record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
   }
   Cells Print(const Record& record) const { return {JoinInts(record.*field)}; }
-  Cells WhenAbsent() const { return {}; }
 };
 
 /// Two bounds inside one cell, min_max; any other number of pieces leaves them as they are.
@@ -198,26 +194,36 @@ struct Range : KindOf<CellType::kText> {
   double Record::*minimum;
   double Record::*maximum;
 
-  static std::string_view Name() { return "range (10_200)"; }
+  static CellForm Form() { return CellForm::kRange; }
   static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
+  static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
   void Read(Record& record, const Cells& cells) const {
     const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());
     if (!bounds) return;
     record.*minimum = bounds->first;
     record.*maximum = bounds->second;
   }
-  Cells Print(const Record& record) const {
-    return {NumberText(record.*minimum) + "_" + NumberText(record.*maximum)};
-  }
-  Cells WhenAbsent() const { return {}; }
+  Cells Print(const Record& record) const { return {RangeText(record.*minimum, record.*maximum)}; }
 };
 
-/// Stands for the style record where a table has no styles.
-struct NoStyle : NoteStyleFields {};
+/// What the walkers ask of every kind.
+template <typename Any, typename Record>
+concept KindOfCell = requires(const Any& kind, Record& record, const Cells& cells, const std::string& cell) {
+  { kind.Form() } -> std::same_as<CellForm>;
+  { Any::kType } -> std::convertible_to<CellType>;
+  { Any::kIsList } -> std::convertible_to<bool>;
+  { kind.EmptyIsAbsent() } -> std::same_as<bool>;
+  kind.Read(record, cells);
+  { kind.Print(std::as_const(record)) } -> std::same_as<Cells>;
+  { kind.WhenAbsent() } -> std::same_as<Cells>;
+  { kind.Accepts(cell) } -> std::same_as<bool>;
+  { kind.Says(cell) } -> std::same_as<bool>;
+  { kind.Exact() } -> std::same_as<ExactTexts>;
+};
 
-template <typename Record, typename NoteStyle>
-using Kind =
-    std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, Style<Record, NoteStyle>,
-                 IntList<Record>, TextList<Record>, JoinedInts<Record>, Range<Record>>;
+/// Every kind that all tables know, and those that only the tables of one folder have.
+template <typename Record, KindOfCell<Record>... Further>
+using Kind = std::variant<Number<Record>, Integer<Record>, Text<Record>, Flag<Record>, IntList<Record>,
+                          TextList<Record>, JoinedInts<Record>, Range<Record>, Further...>;
 
 }  // namespace plateconfig

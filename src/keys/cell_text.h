@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "settings/note_style.h"
+#include "keys/cell_form.h"
 
 namespace plateconfig {
 
@@ -37,16 +37,13 @@ enum class TakenCells {
 /// The shortest text that reads as the same number.
 std::string NumberText(double value);
 
-/// A style as a cell, its numbers as short as they go.
-std::string StyleText(const NoteStyleFields& style);
-
 bool ReadFlag(FlagLetters letters, std::string_view cell);
 /// Y or N, which every kind of flag reads back.
 std::string FlagText(bool value);
-std::string_view FlagName(FlagLetters letters);
+CellForm FormOf(FlagLetters letters);
 
 void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken);
-std::string_view TakenCellsName(TakenCells taken);
+CellForm FormOf(TakenCells taken);
 Cells IntCells(std::span<const int> numbers);
 
 /// Lists inside one cell, joined by "_".
@@ -55,5 +52,6 @@ std::string JoinInts(const std::vector<int>& numbers);
 
 /// The bounds of a cell min_max; nothing unless it has exactly two pieces.
 std::optional<std::pair<double, double>> SplitRange(const std::string& cell);
+std::string RangeText(double minimum, double maximum);
 
 }  // namespace plateconfig

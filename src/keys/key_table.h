@@ -4,8 +4,8 @@
 // print and describe.
 //
 //   inline constexpr Key<LabelSettings> kLabelKeys[] = {
-//       // column        kind, field, when the column is absent      unit  what it is
-//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, "mm", "height of label text"},
+//       // column        kind, field, when the column is absent      unit       what it is
+//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, Unit::kMm, "height of label text"},
 //   };
 //   static_assert(ColumnsAreUnique(kLabelKeys));
 //
@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -22,7 +23,7 @@
 #include <vector>
 
 #include "config/read_config_file.h"
-#include "settings/kinds.h"
+#include "keys/kinds.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -31,17 +32,35 @@ namespace plateconfig {
 enum class RowRule {
   kNone,
   kRequired,  ///< A row whose cell the kind does not accept is skipped.
+  kDecides,   ///< The same, and no mistake: without the cell, the row's other columns are somebody's remarks.
   kBounds,    ///< Rows count down to the column's last filled cell.
 };
 
+/// What a column is for beside holding values.
+enum class ColumnUse {
+  kValues,
+  kParameterNames,   ///< Its cells name the general parameters.
+  kParameterValues,  ///< Its cells are what they are.
+  kColumnNames,      ///< Its cells name further columns.
+  kPlaceholder,      ///< It stands for columns whose names the user chooses.
+};
+
 /// One column: a setting of `Record`, or one field of the records that run down the rows.
-template <typename Record, typename NoteStyle = NoStyle>
+/// `Further` are kinds that this table has beside the common ones.
+template <typename Record, typename... Further>
 struct Key {
   std::string_view column;  // GBK
-  Kind<Record, NoteStyle> kind;
-  std::string_view unit;
+  Kind<Record, Further...> kind;
+  Unit unit;
   std::string_view help;
   RowRule rowRule = RowRule::kNone;
+  ColumnUse use = ColumnUse::kValues;
+};
+
+/// A record of a list that knows where its row stands.
+template <typename Record>
+concept KnowsItsLine = requires(Record& record) {
+  { record.lineNumber } -> std::same_as<int&>;
 };
 
 /// False when the rows name a column twice. Takes all rows that read the same table.
@@ -57,13 +76,13 @@ consteval bool ColumnsAreUnique(const Keys&... keys) {
   return std::adjacent_find(columns.begin(), columns.end()) == columns.end();
 }
 
-template <typename Record, typename NoteStyle>
-void ReadKey(const Key<Record, NoteStyle>& key, const Cells& cells, Record& record) {
+template <typename Record, typename... Further>
+void ReadKey(const Key<Record, Further...>& key, const Cells& cells, Record& record) {
   std::visit([&](const auto& kind) { kind.Read(record, cells); }, key.kind);
 }
 
-template <typename Record, typename NoteStyle>
-Cells PrintKey(const Key<Record, NoteStyle>& key, const Record& record) {
+template <typename Record, typename... Further>
+Cells PrintKey(const Key<Record, Further...>& key, const Record& record) {
   return std::visit([&](const auto& kind) { return kind.Print(record); }, key.kind);
 }
 
@@ -87,9 +106,7 @@ class Loader {
     std::size_t rows = 0;
     for (const Cells& column : columns) rows = std::max(rows, column.size());
     for (std::size_t row = 0; row < rows; ++row) {
-      if (!RowCounts(keys, columns, row)) continue;
-      Record& record = list.emplace_back();
-      for (std::size_t i = 0; i < std::size(keys); ++i) ReadKey(keys[i], {CellAt(columns[i], row)}, record);
+      if (RowCounts(keys, columns, row)) list.push_back(ReadRow<Record>(keys, columns, row));
     }
   }
 
@@ -101,6 +118,19 @@ class Loader {
       while (!cells.empty() && cells.back().empty()) cells.pop_back();
     }
     return cells;
+  }
+
+  template <typename Record, typename Keys>
+  static Record ReadRow(const Keys& keys, const std::vector<Cells>& columns, std::size_t row) {
+    Record record{};
+    if constexpr (KnowsItsLine<Record>)
+      record.lineNumber = static_cast<int>(row) + 2;  // The header is line 1.
+    Cells cell(1);
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+      cell.front() = CellAt(columns[i], row);
+      ReadKey(keys[i], cell, record);
+    }
+    return record;
   }
 
   template <typename Keys>

@@ -1,4 +1,4 @@
-#include "settings/cell_text.h"
+#include "keys/cell_text.h"
 
 #include <array>
 #include <charconv>
@@ -30,14 +30,6 @@ std::string NumberText(double value) {
   return {text.data(), end};
 }
 
-std::string StyleText(const NoteStyleFields& style) {
-  std::string text = style.fontName;
-  for (const double number : {style.size, style.factor1, style.factor2, style.factor3}) {
-    text += "|" + NumberText(number);
-  }
-  return text + "|" + IntToString(style.option);
-}
-
 bool ReadFlag(FlagLetters letters, std::string_view cell) {
   switch (letters) {
     case FlagLetters::kYesIfUpperY:
@@ -56,16 +48,16 @@ std::string FlagText(bool value) {
   return value ? "Y" : "N";
 }
 
-std::string_view FlagName(FlagLetters letters) {
+CellForm FormOf(FlagLetters letters) {
   switch (letters) {
     case FlagLetters::kYesIfUpperY:
-      return "flag: yes for Y only";
+      return CellForm::kFlagYesIfUpperY;
     case FlagLetters::kYesIfY:
-      return "flag: yes for Y or y only";
+      return CellForm::kFlagYesIfY;
     case FlagLetters::kNoIfUpperN:
-      return "flag: no for N only";
+      return CellForm::kFlagNoIfUpperN;
     case FlagLetters::kNoIfN:
-      return "flag: no for N or n only";
+      return CellForm::kFlagNoIfN;
   }
   return {};
 }
@@ -77,14 +69,14 @@ void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken) {
   }
 }
 
-std::string_view TakenCellsName(TakenCells taken) {
+CellForm FormOf(TakenCells taken) {
   switch (taken) {
     case TakenCells::kNonZero:
-      return "list of integers other than 0";
+      return CellForm::kNonZeroIntegers;
     case TakenCells::kLayerNumbers:
-      return "list of integers from 1 to 256";
+      return CellForm::kLayerNumbers;
     case TakenCells::kFilled:
-      return "list of integers";
+      return CellForm::kIntegers;
   }
   return {};
 }
@@ -109,6 +101,10 @@ std::optional<std::pair<double, double>> SplitRange(const std::string& cell) {
   const std::vector<double> bounds = VectorToDouble(SplitString(cell, "_"));
   if (bounds.size() != 2) return std::nullopt;
   return std::pair(bounds[0], bounds[1]);
+}
+
+std::string RangeText(double minimum, double maximum) {
+  return NumberText(minimum) + "_" + NumberText(maximum);
 }
 
 }  // namespace plateconfig

@@ -1,0 +1,86 @@
+#include "keys/key_table.h"
+
+#include <gmock/gmock.h>
+
+#include "support/temporary_folder.h"
+
+namespace plateconfig::test {
+namespace {
+
+using namespace literals;
+
+struct Label {
+  double height = 0;
+  int layer = 0;
+  std::vector<int> colors;
+};
+
+constexpr Key<Label> kLabelKeys[] = {
+    {"字高"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
+    {"图层"_gbk, Integer{&Label::layer, 1}, Unit::kLayer, "layer of label text"},
+};
+
+constexpr Key<Label> kSameColumn[] = {
+    {"图层"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
+};
+
+TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
+  static_assert(ColumnsAreUnique(kLabelKeys));
+  static_assert(!ColumnsAreUnique(kLabelKeys, kSameColumn));
+  static_assert(!ColumnsAreUnique(kSameColumn, kSameColumn));
+}
+
+// ---- Lists of records ----
+
+struct Bolt {
+  int lineNumber = 0;
+  std::string name;
+  int count = 7;
+};
+
+constexpr Key<Bolt> kBoltKeys[] = {
+    {"名称"_gbk, Text{&Bolt::name}, Unit::kNone, "name", RowRule::kDecides},
+    {"数量"_gbk, Integer{&Bolt::count, 9}, Unit::kCount, "count"},
+};
+
+std::vector<Bolt> LoadBolts(const std::string& table) {
+  const TemporaryFolder folder;
+  ReadConfigFile reader;
+  reader.OpenConfigFile(folder.WriteTable("table.csv", table));
+  std::vector<Bolt> bolts;
+  Loader(reader).WalkRows(bolts, kBoltKeys);
+  return bolts;
+}
+
+TEST(KeyTable, ARowWithoutTheCellThatDecidesIsNoRow) {
+  const std::vector<Bolt> bolts = LoadBolts("名称,数量\nM6,4\n,5\nM8,\n");
+  ASSERT_EQ(bolts.size(), 2u);
+  EXPECT_EQ(bolts[0].name, "M6");
+  EXPECT_EQ(bolts[0].count, 4);
+  EXPECT_EQ(bolts[1].name, "M8");
+  EXPECT_EQ(bolts[1].count, 0);
+}
+
+TEST(KeyTable, ARecordThatKnowsItsLineIsToldTheOneOfTheSpreadsheet) {
+  const std::vector<Bolt> bolts = LoadBolts("名称,数量\nM6,4\n,5\nM8,6\n");
+  ASSERT_EQ(bolts.size(), 2u);
+  EXPECT_EQ(bolts[0].lineNumber, 2);
+  EXPECT_EQ(bolts[1].lineNumber, 4);
+}
+
+TEST(KeyTable, ARowsCellOfAnAbsentColumnIsAnEmptyCell) {
+  const std::vector<Bolt> bolts = LoadBolts("名称\nM6\n");
+  ASSERT_EQ(bolts.size(), 1u);
+  EXPECT_EQ(bolts[0].count, 0);
+}
+
+TEST(NumberText, IsTheShortestThatReadsBack) {
+  EXPECT_EQ(NumberText(0.1), "0.1");
+  EXPECT_EQ(NumberText(100000), "100000");
+  EXPECT_EQ(NumberText(-2.5), "-2.5");
+  EXPECT_EQ(NumberText(0), "0");
+  EXPECT_EQ(NumberText(1e22), "1e+22");
+}
+
+}  // namespace
+}  // namespace plateconfig::test
