@@ -177,7 +177,9 @@ bool NamesRow(const Finding& finding, const Slip& slip) {
 bool NamesFile(const Finding& finding, const Slip& slip) {
   const std::string name = BaseName(finding.file);
   if (name == BaseName(slip.site.file->path)) return true;
-  if (slip.site.file->what == What::kIndexFile) return slip.change.touched.rows.empty();
+  // A folder that is not there, where the index or the root names it.
+  if (slip.site.file->what == What::kIndexFile)
+    return name == slip.change.after || !slip.change.rootSuffix.empty();
   if (slip.site.file->what != What::kManifestFile) return false;
   // A file that the changed line names, or a role that now nobody plays.
   return Contains(slip.change.before, name) || Contains(slip.change.after, name) ||
@@ -230,8 +232,10 @@ bool LeadsTo(const Finding& finding, const Slip& slip) {
     return slip.change.touched.lines.empty() || LeadsIntoManifest(finding, slip);
   }
   const Touched& touched = slip.change.touched;
+  const bool isFolder = BaseName(finding.file) != BaseName(slip.site.file->path);
   const bool isWholeFile = touched.rows.empty() && touched.columns.empty();
-  return isWholeFile || NamesColumn(finding, slip) || NamesRow(finding, slip) || NamesText(finding, slip);
+  return isFolder || isWholeFile || NamesColumn(finding, slip) || NamesRow(finding, slip) ||
+         NamesText(finding, slip);
 }
 
 }  // namespace plateconfig::slips

@@ -14,6 +14,36 @@ std::optional<Change> MakeInText(const TextKind& row, const Site& site, std::uin
       grid.Bytes(), {{site.row}, {site.column}, {grid.LineOf(site.row)}}, before, after, isFaultless};
 }
 
+/// Whether every text (of the row, or of all rows) in one column may well stand in another column too.
+bool MayMove(const Site& site, std::size_t from, std::size_t to) {
+  const What what = WhatIsIn(*site.file, *site.grid, to);
+  const std::size_t first = site.row == 0 ? 1 : site.row;
+  const std::size_t last = site.row == 0 ? site.grid->RowCount() - 1 : site.row;
+  for (std::size_t row = first; row <= last; ++row) {
+    const std::string text = site.grid->Text(row, from);
+    if (!text.empty() && !IsFaultless(what, text)) return false;
+  }
+  return true;
+}
+
+bool AreEquals(const Site& site, const Touched& touched) {
+  const std::size_t left = *touched.columns.begin();
+  const std::size_t right = *touched.columns.rbegin();
+  return MayMove(site, left, right) && MayMove(site, right, left);
+}
+
+bool IsFaultlessAfter(Result result, const Site& site, const Touched& touched) {
+  switch (result) {
+    case Result::kIsWrong:
+      return false;
+    case Result::kMayBeFaultless:
+      return true;
+    case Result::kAmongEquals:
+      return AreEquals(site, touched);
+  }
+  return false;
+}
+
 std::optional<Change> MakeInGrid(const GridKind& row, const Site& site) {
   Grid grid = *site.grid;
   const std::string before = grid.Text(site.row, site.column);
@@ -24,7 +54,7 @@ std::optional<Change> MakeInGrid(const GridKind& row, const Site& site) {
   for (const std::size_t each : touched->rows)
     touched->lines.insert(grid.LineOf(std::min(each, grid.RowCount())));
   return Change{std::move(bytes), *touched, before, grid.Text(site.row, site.column),
-                row.result == Result::kMayBeFaultless};
+                IsFaultlessAfter(row.result, site, *touched)};
 }
 
 std::optional<Change> MakeInFile(const FileKind& row, const Site& site) {

@@ -14,8 +14,10 @@ namespace plateconfig::slips {
 
 /// What is made of a slip whose place may hold much: a number that is still a number.
 enum class Result {
-  kIsWrong,        ///< Always wrong.
-  kMayBeFaultless  ///< As plausible as before where the cell may well hold the new text.
+  kIsWrong,         ///< Always wrong.
+  kMayBeFaultless,  ///< As plausible as before where the cell may well hold the new text.
+  kAmongEquals,     ///< Two columns change places: as plausible as before where each may well hold what the
+                    ///< other held.
 };
 
 /// One row of a list of slips in a text.

@@ -137,13 +137,13 @@ std::optional<Touched> DeletedBesideUnknown(Grid& grid, const Site& at) {
 const std::vector<GridKind> kGrids = {
     {"header: 备注 in its place", BecomesRemark, kHeaders},
     {"header: name of the next column", RepeatsRight, kHeaders},
-    {"header: changes places with the next", SwapWithRight, kHeaders},
+    {"header: changes places with the next", SwapWithRight, kHeaders, Result::kAmongEquals},
     {"header: cell inserted, the rest moves right", InsertCellInRow, kHeadersAndWidths},
     {"header: cell deleted, the rest moves left", DeleteCellInRow, kHeadersAndWidths},
     {"header: column deleted", DeleteColumn, kHeaders},
     {"header: column deleted, an unknown one stands there", DeletedBesideUnknown, kHeaders},
     {"header: empty column of the same name in front", InsertEmptyTwin, kHeadersAndWidths},
-    {"header: columns change places under it", SwapColumnWithNext, kHeaders},
+    {"header: columns change places under it", SwapColumnWithNext, kHeaders, Result::kAmongEquals},
 };
 
 }  // namespace

@@ -147,17 +147,26 @@ std::optional<Touched> ColorOfBoth(Grid& grid, const Site& at) {
   return Touched{{at.row, *hard}, {at.column}};
 }
 
-/// Further up in the list stands the same name with another value.
-std::optional<Touched> ListedTwice(Grid& grid, const Site& at) {
-  const std::string name = grid.Text(at.row, at.column);
-  for (std::size_t row = 1; row < grid.RowCount(); ++row) {
-    if (row == at.row || (row < at.row && !grid.Text(row, at.column).empty())) continue;
-    if (!grid.Text(row, at.column).empty()) continue;
-    grid.SetText(row, at.column, name);
-    if (at.what == What::kParameterName) grid.SetText(row, at.column + 1, "99");
-    return Touched{{at.row, row}, {at.column}};
-  }
-  return std::nullopt;
+std::size_t FirstFreeRow(const Grid& grid, std::size_t column) {
+  std::size_t row = 1;
+  while (row < grid.RowCount() && !grid.Text(row, column).empty()) ++row;
+  return row;
+}
+
+/// The parameter stands below all others now, and where it stood its name has another value.
+std::optional<Touched> ListedWithAnotherValue(Grid& grid, const Site& at) {
+  const std::size_t free = FirstFreeRow(grid, at.column);
+  grid.SetText(free, at.column, grid.Text(at.row, at.column));
+  grid.SetText(free, at.column + 1, grid.Text(at.row, at.column + 1));
+  grid.SetText(at.row, at.column + 1, "99");
+  return Touched{{at.row, free}, {at.column}};
+}
+
+/// The first row of the list without a process gets one that is listed already.
+std::optional<Touched> ListedAgain(Grid& grid, const Site& at) {
+  const std::size_t free = FirstFreeRow(grid, at.column);
+  grid.SetText(free, at.column, grid.Text(at.row, at.column));
+  return Touched{{at.row, free}, {at.column}};
 }
 
 std::optional<Touched> NameOfRowBelow(Grid& grid, const Site& at) {
@@ -190,13 +199,13 @@ const std::vector<GridKind> kGrids = {
     {"value: moved down", MoveDown, kValues},
     {"value: cell inserted in the column", InsertCellInColumn, kValues},
     {"value: cell deleted in the column", DeleteCellInColumn, kValues},
-    {"value: changes places with the right", SwapWithRight, kValues},
-    {"parameter name: listed twice", ListedTwice, kParameterNames},
+    {"value: changes places with the right", SwapWithRight, kValues, Result::kAmongEquals},
+    {"parameter name: listed twice", ListedWithAnotherValue, kParameterNames},
     {"parameter name: that of the row below", NameOfRowBelow, kParameterNames},
     {"parameter name: moved down", MoveDown, kParameterNames},
     {"parameter name: changes places with its value", SwapWithRight, kParameterNames},
     {"process name: that of the row below", NameOfRowBelow, kProcessNames},
-    {"process name: listed again", ListedTwice, kProcessNames},
+    {"process name: listed again", ListedAgain, kProcessNames},
     {"process name: cell inserted in the column", InsertCellInColumn, kProcessNames},
     {"process name: cell deleted in the column", DeleteCellInColumn, kProcessNames},
     {"process name: changes places with its condition", SwapWithRight, kProcessNames},

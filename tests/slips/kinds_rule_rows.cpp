@@ -12,7 +12,7 @@ const std::vector<What> kWishes = {What::kWish};
 const std::vector<What> kMaterials = {What::kMaterial};
 const std::vector<What> kLayers = {What::kRuleLayer};
 const std::vector<What> kProcessTexts = {What::kProcessText};
-const std::vector<What> kConditions = {What::kRange, What::kWish, What::kMaterial};
+const std::vector<What> kConditions = {What::kRange, What::kWish, What::kMaterial, What::kOpposite};
 
 /// Both bounds with something behind them.
 TextSlip BothBounds(const std::string& unit) {
@@ -204,7 +204,7 @@ const std::vector<GridKind> kGrids = {
     {"condition: that of the row above", RepeatAbove, kConditions, Result::kMayBeFaultless},
     {"condition: changes places with the row below", SwapWithBelow, kConditions, Result::kMayBeFaultless},
     {"condition: moved right", MoveRight, kConditions},
-    {"condition: changes places with the right", SwapWithRight, {What::kRange, What::kWish, What::kMaterial}},
+    {"condition: changes places with the right", SwapWithRight, kConditions, Result::kAmongEquals},
     {"condition: moved down", MoveDown, kConditions},
     {"condition: cell inserted in the row", InsertCellInRow, kConditions},
     {"condition: cell deleted in the row", DeleteCellInRow, kConditions},
@@ -217,7 +217,7 @@ const std::vector<GridKind> kGrids = {
     {"row layer: cell deleted in the row", DeleteCellInRow, kLayers},
     {"row layer: cell inserted in the column", InsertCellInColumn, kLayers},
     {"process text: that of the row above", RepeatAbove, kProcessTexts, Result::kMayBeFaultless},
-    {"process text: changes places with the right", SwapWithRight, kProcessTexts, Result::kMayBeFaultless},
+    {"process text: changes places with the right", SwapWithRight, kProcessTexts, Result::kAmongEquals},
     {"process text: cell inserted in the row", InsertCellInRow, kProcessTexts},
     {"process text: cell deleted in the row", DeleteCellInRow, kProcessTexts},
     {"process text: a quote opened", OpensQuote, kProcessTexts},
@@ -239,6 +239,11 @@ void AddRuleRowKinds(std::vector<Kind>& kinds) {
   AddKinds(Group::kRuleRows, kLayerTexts, kinds);
   AddKinds(Group::kRuleRows, kProcessTextTexts, kinds);
   AddKinds(Group::kRuleRows, kGrids, kinds);
+  // Most process texts are of rows that no sample plate gets.
+  constexpr std::size_t kManyPlaces = 18;
+  for (Kind& kind : kinds) {
+    if (kind.whats == kProcessTexts) kind.mostPlaces = kManyPlaces;
+  }
 }
 
 }  // namespace plateconfig::slips

@@ -84,6 +84,8 @@ What HeaderOf(const SampleFile& file, const std::string& name) {
 }
 
 What DataCell(const SampleFile& file, const std::string& header, const std::string& text) {
+  const bool isOpposite = text == "无型面" || text == "无线割" || text == "硬料（体颜色）";
+  if (isOpposite && header != "通用要求") return What::kOpposite;
   if (file.what == What::kRulesFile) return Find(RuleColumns(), header, What::kProcessText);
   if (file.what == What::kHoleTypesFile) return Find(HoleTypeColumns(), header, What::kNothing);
   if (file.what == What::kIndexFile) return Find(IndexColumns(), header, What::kNothing);
@@ -173,6 +175,13 @@ What WhatIs(const SampleFile& file, const Grid& grid, std::size_t row, std::size
   const std::string text = grid.Text(row, column);
   if (text.empty()) return What::kNothing;
   return row == 0 ? HeaderOf(file, text) : DataCell(file, grid.Text(0, column), text);
+}
+
+What WhatIsIn(const SampleFile& file, const Grid& grid, std::size_t column) {
+  for (std::size_t row = 1; row < grid.RowCount(); ++row) {
+    if (const What what = WhatIs(file, grid, row, column); what != What::kNothing) return what;
+  }
+  return What::kNothing;
 }
 
 bool IsFaultless(What what, const std::string& text) {

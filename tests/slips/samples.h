@@ -19,8 +19,9 @@ enum class What {
   kWidthHeader,  ///< A name that the keeper has chosen.
   kRuleLayer,
   kRange,
-  kWish,  ///< Whether a row wants a profile or wire cutting.
-  kMaterial,
+  kWish,      ///< That a row wants a profile or wire cutting.
+  kMaterial,  ///< That a row is for soft material.
+  kOpposite,  ///< Of these two. Any other text says the same, so that no slip in the text does harm.
   kProcessText,
   kParameterName,
   kParameterValue,
@@ -69,6 +70,9 @@ std::vector<SampleFile> LoadSamples();
 
 /// What the cell holds; an empty cell is `kNothing`.
 What WhatIs(const SampleFile& file, const Grid& grid, std::size_t row, std::size_t column);
+
+/// What the column's first cell that is not empty holds.
+What WhatIsIn(const SampleFile& file, const Grid& grid, std::size_t column);
 
 /// True when a cell of this kind may well hold the text: nothing about it could make anyone ask.
 bool IsFaultless(What what, const std::string& text);

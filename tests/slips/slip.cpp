@@ -17,13 +17,21 @@ const Grid& GridOf(const SampleFile& file) {
   return grids.try_emplace(file.path, file.bytes).first->second;
 }
 
-using SitesByWhat = std::map<What, std::vector<Site>>;
+struct SeededSite {
+  Site site;
+  std::uint64_t seed;
+};
+
+using SitesByWhat = std::map<What, std::vector<SeededSite>>;
+
+void Add(const Site& site, SitesByWhat& sites) {
+  sites[site.what].push_back({site, SeedOf(Describe(site))});
+}
 
 void AddCells(const SampleFile& file, const Grid& grid, SitesByWhat& sites) {
   for (std::size_t row = 0; row < grid.RowCount(); ++row) {
     for (std::size_t column = 0; column < grid.ColumnCount(); ++column) {
-      const What what = WhatIs(file, grid, row, column);
-      sites[what].push_back({&file, &grid, what, row, column});
+      Add({&file, &grid, WhatIs(file, grid, row, column), row, column}, sites);
     }
   }
 }
@@ -33,7 +41,7 @@ void AddLines(const SampleFile& file, SitesByWhat& sites) {
   for (std::size_t at = 0; at < file.bytes.size(); ++line) {
     const std::size_t end = file.bytes.find('\n', at);
     if (file.bytes.substr(at, end - at).find(':') != std::string::npos)
-      sites[What::kManifestLine].push_back({&file, nullptr, What::kManifestLine, line});
+      Add({&file, nullptr, What::kManifestLine, line}, sites);
     at = end + 1;
   }
 }
@@ -42,7 +50,7 @@ SitesByWhat AllSites(const std::vector<SampleFile>& samples) {
   SitesByWhat sites;
   for (const SampleFile& file : samples) {
     const Grid* grid = file.IsTable() ? &GridOf(file) : nullptr;
-    sites[file.what].push_back({&file, grid, file.what});
+    Add({&file, grid, file.what}, sites);
     grid != nullptr ? AddCells(file, *grid, sites) : AddLines(file, sites);
   }
   return sites;
@@ -51,24 +59,32 @@ SitesByWhat AllSites(const std::vector<SampleFile>& samples) {
 struct RankedSite {
   std::size_t rank;  ///< Among those of its sort.
   std::uint64_t seed;
-  Site site;
+  const Site* site;
 };
 
-void AddRanked(const Kind& kind, std::vector<Site> sites, std::vector<RankedSite>& ranked) {
-  std::vector<RankedSite> ofSort;
-  for (const Site& site : sites) ofSort.push_back({0, SeedOf(kind.name + Describe(site)), site});
-  std::sort(ofSort.begin(), ofSort.end(), [](const auto& a, const auto& b) { return a.seed < b.seed; });
-  for (std::size_t rank = 0; rank < ofSort.size(); ++rank) {
-    ofSort[rank].rank = rank;
-    ranked.push_back(ofSort[rank]);
-  }
+/// Mixes two seeds; the place's own is made once for all kinds.
+std::uint64_t Mixed(std::uint64_t kind, std::uint64_t place) {
+  std::uint64_t mixed = (kind ^ place) * 0xBF58476D1CE4E5B9u;
+  mixed = (mixed ^ (mixed >> 29)) * 0x94D049BB133111EBu;
+  return mixed ^ (mixed >> 32);
+}
+
+void AddRanked(std::uint64_t kindSeed, const std::vector<SeededSite>& sites,
+               std::vector<RankedSite>& ranked) {
+  std::vector<std::pair<std::uint64_t, const Site*>> ofSort;
+  ofSort.reserve(sites.size());
+  for (const SeededSite& each : sites) ofSort.emplace_back(Mixed(kindSeed, each.seed), &each.site);
+  std::sort(ofSort.begin(), ofSort.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  for (std::size_t rank = 0; rank < ofSort.size(); ++rank)
+    ranked.push_back({rank, ofSort[rank].first, ofSort[rank].second});
 }
 
 /// One of each sort of cell first, then a second one of each, and so on.
 std::vector<RankedSite> InTurn(const Kind& kind, const SitesByWhat& sites) {
+  const std::uint64_t kindSeed = SeedOf(kind.name);
   std::vector<RankedSite> ranked;
   for (const What what : kind.whats) {
-    if (const auto found = sites.find(what); found != sites.end()) AddRanked(kind, found->second, ranked);
+    if (const auto found = sites.find(what); found != sites.end()) AddRanked(kindSeed, found->second, ranked);
   }
   std::sort(ranked.begin(), ranked.end(),
             [](const auto& a, const auto& b) { return std::tie(a.rank, a.seed) < std::tie(b.rank, b.seed); });
@@ -93,9 +109,9 @@ std::vector<Slip> MakeSlips(const std::vector<Kind>& kinds, const std::vector<Sa
     std::size_t places = 0;
     for (const RankedSite& ranked : InTurn(kind, sites)) {
       if (places == std::min(mostPlaces, kind.mostPlaces)) break;
-      std::optional<Change> change = kind.make(ranked.site, ranked.seed);
+      std::optional<Change> change = kind.make(*ranked.site, ranked.seed);
       if (!change) continue;
-      slips.push_back({&kind, ranked.site, std::move(*change)});
+      slips.push_back({&kind, *ranked.site, std::move(*change)});
       ++places;
     }
   }

@@ -51,22 +51,37 @@ std::string TextOf(const ProcessRuleLibrary& library, const PlateInput& input) {
   return library.GetProcessInfo(&body, plate.weight, rules);
 }
 
-/// The members of each element of a JSON array, one element a line; the text as it stands where it is no such
-/// thing.
-std::string Members(const std::string& text, const std::vector<const char*>& names) {
-  const Json array = Json::parse(text, nullptr, false);
-  if (!array.is_array()) return text;
+/// What the library takes a cell for that has to be one exact text: whether it is that text.
+Json Taken(const std::string& column, const Json& value) {
+  static const std::map<std::string, std::string> exact = {
+      {"有无型面", "有型面"}, {"有无线割", "有线割"}, {"材质要求", "软料（体颜色）"}};
+  const auto text = exact.find(column);
+  if (text == exact.end() || !value.is_array()) return value;
+  Json taken = Json::array();
+  for (const Json& cell : value) taken.push_back(cell == text->second);
+  return taken;
+}
+
+/// One setting a line.
+std::string Settings(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), {"show", "--format", "json"});
+  const Json settings = Json::parse(RunPlateconfig(arguments).out, nullptr, false);
   std::string lines;
-  for (const Json& element : array) {
-    for (const char* name : names) lines += element.value(name, Json()).dump() + " ";
-    lines += "\n";
+  for (const Json& setting : settings.is_array() ? settings : Json::array()) {
+    const std::string column = setting.at("column");
+    lines +=
+        setting.at("role").dump() + " " + column + " " + Taken(column, setting.at("value")).dump() + "\n";
   }
   return lines;
 }
 
-std::string Settings(std::vector<std::string> arguments) {
-  arguments.insert(arguments.begin(), {"show", "--format", "json"});
-  return Members(RunPlateconfig(arguments).out, {"role", "column", "value"});
+/// The text of each plate a line; the output as it stands where it is no list.
+std::string TextsIn(const std::string& output) {
+  const Json plates = Json::parse(output, nullptr, false);
+  if (!plates.is_array()) return output;
+  std::string lines;
+  for (const Json& plate : plates) lines += plate.at("text").dump() + "\n";
+  return lines;
 }
 
 }  // namespace
@@ -93,7 +108,7 @@ std::string Trial::Outcome(const SampleFile& file) const {
   if (file.what == What::kManifestFile) {
     const auto processed =
         RunPlateconfig({"process", "--format", "json", "--config", folder, Path("plates.csv")});
-    return Members(processed.out, {"name", "text"}) + Settings({"--config", folder});
+    return TextsIn(processed.out) + Settings({"--config", folder});
   }
   const bool isOfProcesses = file.what == What::kRulesFile || file.role == "process-settings";
   return Settings({"--config", folder, file.role}) + (isOfProcesses ? ProcessTexts(file.configuration) : "");
