@@ -1,0 +1,325 @@
+#include "analysis/checks/cell_check.h"
+
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/text/folded_name.h"
+#include "analysis/text/similar_name.h"
+#include "analysis/text/strict_values.h"
+#include "config/text_helpers.h"
+#include "rules/condition_texts.h"
+#include "settings/note_style.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr int kLastLayer = 256;
+constexpr int kLastColor = 216;
+
+/// One cell that is looked at.
+struct CheckedCell {
+  const TableText& table;
+  const ColumnSchema& schema;
+  std::size_t row;
+  std::size_t column;
+  std::string gbk;
+
+  Finding Finds(Code code) const { return CellFinding(code, table, row, column); }
+};
+
+/// What the library makes of the cell, UTF-8.
+std::string UsedAs(const CheckedCell& cell) {
+  const Cells taken = cell.schema.taken ? cell.schema.taken({cell.gbk}) : Cells();
+  return taken.empty() ? std::string() : GbkToUtf8(taken.front());
+}
+
+/// A number as a hand probably meant it: half-width, without blanks and unit, with 0 for O and 1 for l.
+std::string RepairedNumber(const std::string& utf8) {
+  std::string text = FoldedNameWithoutUnit(utf8);
+  for (const std::string_view unit : {"mm", "kg", "毫米", "公斤", "度", "号", "层"}) {
+    if (text.ends_with(unit)) text.erase(text.size() - unit.size());
+  }
+  std::replace(text.begin(), text.end(), 'o', '0');
+  std::replace(text.begin(), text.end(), 'l', '1');
+  return text;
+}
+
+/// Raises `code` with what the cell counts as, and with the repaired text where that is what the column holds.
+template <typename IsGood>
+void RaiseRepairable(Code code, const CheckedCell& cell, const IsGood& isGood, const Raise& raise) {
+  Finding finding = cell.Finds(code);
+  finding.usedAs = UsedAs(cell);
+  const std::string repaired = RepairedNumber(*finding.text);
+  if (repaired != *finding.text && isGood(repaired)) finding.fix = repaired;
+  raise(finding);
+}
+
+void CheckNumber(const CheckedCell& cell, const Raise& raise) {
+  const auto isGood = [](const std::string& text) { return StrictNumber(text).has_value(); };
+  if (isGood(cell.gbk)) return;
+  RaiseRepairable(IsNumberOutOfRange(cell.gbk) ? Code("cell-out-of-range") : Code("cell-not-number"), cell, isGood, raise);
+}
+
+/// A number of the host's world that the host does not have.
+void CheckMeaning(const CheckedCell& cell, int number, const Raise& raise) {
+  Finding finding = cell.schema.unit == Unit::kLayer ? cell.Finds("layer-out-of-range") : cell.Finds("color-out-of-range");
+  const int last = cell.schema.unit == Unit::kLayer ? kLastLayer : kLastColor;
+  const bool hasMeaning = cell.schema.unit == Unit::kLayer || cell.schema.unit == Unit::kColor;
+  if (!hasMeaning || (number >= 1 && number <= last)) return;
+  finding.text = std::to_string(number);
+  raise(finding);
+}
+
+/// True, with a finding, for a number that its list does not take.
+bool IsIgnored(const CheckedCell& cell, int number, const Raise& raise) {
+  const bool isLayer = cell.schema.form == CellForm::kLayerNumbers;
+  const bool isTaken = isLayer ? number >= 1 && number <= kLastLayer : number != 0;
+  if (isTaken || (!isLayer && cell.schema.form != CellForm::kNonZeroIntegers)) return false;
+  Finding finding = cell.Finds("list-value-ignored");
+  finding.words = {isLayer ? Word("a number from 1 to 256", "1 到 256 的整数") : Word("a number other than 0", "非 0 的整数")};
+  raise(finding);
+  return true;
+}
+
+void CheckInteger(const CheckedCell& cell, const Raise& raise) {
+  const auto isGood = [](const std::string& text) { return StrictInteger(text).has_value(); };
+  if (const auto number = StrictInteger(cell.gbk)) {
+    if (!IsIgnored(cell, *number, raise)) CheckMeaning(cell, *number, raise);
+    return;
+  }
+  if (!IsIntegerOutOfRange(cell.gbk)) return RaiseRepairable("cell-not-integer", cell, isGood, raise);
+  Finding finding = cell.Finds("cell-integer-out-of-range");
+  finding.words = {std::to_string(std::numeric_limits<int>::min()), std::to_string(std::numeric_limits<int>::max())};
+  finding.usedAs = UsedAs(cell);
+  raise(finding);
+}
+
+void CheckJoinedIntegers(const CheckedCell& cell, const Raise& raise) {
+  const auto isGood = [](const std::string& text) { return StrictIntegers(text).has_value(); };
+  const auto numbers = StrictIntegers(cell.gbk);
+  if (!numbers) return RaiseRepairable("cell-not-integers", cell, isGood, raise);
+  for (const int number : *numbers) CheckMeaning(cell, number, raise);
+}
+
+void CheckJoinedNumbers(const CheckedCell& cell, const Raise& raise) {
+  const auto isGood = [](const std::string& text) { return StrictNumbers(text).has_value(); };
+  if (isGood(cell.gbk)) return;
+  Finding finding = cell.Finds("cell-not-numbers");
+  const std::string repaired = RepairedNumber(*finding.text);
+  if (repaired != *finding.text && isGood(repaired)) finding.fix = repaired;
+  raise(finding);
+}
+
+bool IsRange(const std::string& text) {
+  const auto bounds = StrictNumbers(text);
+  return bounds && bounds->size() == 2;
+}
+
+void CheckRange(const CheckedCell& cell, const Raise& raise) {
+  if (!IsRange(cell.gbk)) return RaiseRepairable("cell-not-range", cell, IsRange, raise);
+  const auto bounds = *StrictNumbers(cell.gbk);
+  if (bounds.front() <= bounds.back()) return;
+  Finding finding = cell.Finds("range-reversed");
+  const std::size_t middle = finding.text->find('_');
+  finding.fix = finding.text->substr(middle + 1) + "_" + finding.text->substr(0, middle);
+  raise(finding);
+}
+
+void CheckFlag(FlagLetters letters, const CheckedCell& cell, const Raise& raise) {
+  const bool isYes = ReadFlag(letters, cell.gbk);
+  const auto strict = StrictYesNo(cell.gbk);
+  if (strict == isYes) return;
+  Finding finding = strict ? cell.Finds("cell-flag-letter") : cell.Finds("cell-not-flag");
+  finding.usedAs = FlagText(isYes);
+  const std::string folded = FoldedName(*finding.text);
+  if (folded == "y" || folded == "是" || folded == "yes") finding.fix = "Y";
+  if (folded == "n" || folded == "否" || folded == "no") finding.fix = "N";
+  raise(finding);
+}
+
+/// Font name, four numbers, one whole number.
+bool IsStyle(const std::string& text) {
+  const std::vector<std::string> fields = SplitString(text, "|");
+  constexpr std::size_t kFields = 6;
+  if (fields.size() != kFields || fields.front().empty() || !StrictInteger(fields.back())) return false;
+  return std::all_of(fields.begin() + 1, fields.end() - 1,
+                     [](const std::string& field) { return StrictNumber(field).has_value(); });
+}
+
+void CheckStyle(const CheckedCell& cell, const Raise& raise) {
+  if (IsStyle(cell.gbk)) return;
+  Finding finding = cell.Finds("cell-not-style");
+  finding.usedAs = UsedAs(cell);
+  raise(finding);
+}
+
+void CheckCondition(const CheckedCell& cell, const Raise& raise) {
+  if (FindRuleType(cell.gbk)) return;
+  std::vector<std::string> known;
+  for (const ConditionText& condition : kConditionTexts) known.push_back(GbkToUtf8(condition.text));
+  Finding finding = cell.Finds("condition-unknown");
+  finding.usedAs = known.front();
+  const auto same = std::find_if(known.begin(), known.end(), [&](const std::string& text) {
+    return FoldedName(text) == FoldedName(*finding.text);
+  });
+  finding.fix = same != known.end() ? *same : MostSimilarName(*finding.text, {known.begin(), known.end()});
+  if (finding.fix->empty()) finding.fix.reset();
+  raise(finding);
+}
+
+/// A cell that has to be exactly one text: everything else means the opposite, in silence.
+void CheckExact(const CheckedCell& cell, const Raise& raise) {
+  const ExactTexts& exact = cell.schema.exact;
+  if (cell.gbk == exact.wanted || cell.gbk == exact.opposite) return;
+  const bool isMaterial = cell.schema.form == CellForm::kExactSoftParameter;
+  Finding finding = isMaterial ? cell.Finds("material-unknown") : cell.Finds("wish-unknown");
+  finding.words = {GbkToUtf8(exact.wanted), GbkToUtf8(exact.opposite)};
+  finding.usedAs = GbkToUtf8(exact.opposite);
+  const std::string meant =
+      MostSimilarName(FoldedName(*finding.text), {finding.words[0].english, finding.words[1].english});
+  if (!meant.empty()) finding.fix = meant;
+  raise(finding);
+}
+
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+/// Nothing is trimmed, and a blank at an end is not seen. A connector may well have blanks on both sides.
+void CheckText(const CheckedCell& cell, const Raise& raise) {
+  using namespace literals;
+  const std::string_view text = cell.gbk;
+  const bool isInFront = IsBlank(text.front()) || text.starts_with("\u3000"_gbk);
+  const bool isBehind = IsBlank(text.back()) || text.ends_with("\u3000"_gbk);
+  if (isInFront == isBehind) return;
+  Finding finding = cell.Finds("text-blank");
+  const std::size_t begin = text.find_first_not_of(" \t");
+  finding.fix = GbkToUtf8(text.substr(begin, text.find_last_not_of(" \t") + 1 - begin));
+  raise(finding);
+}
+
+void CheckFilled(const CheckedCell& cell, const Raise& raise) {
+  switch (cell.schema.form) {
+    case CellForm::kNumber:
+      return CheckNumber(cell, raise);
+    case CellForm::kInteger:
+    case CellForm::kIntegerOrAbsent:
+    case CellForm::kIntegers:
+    case CellForm::kNonZeroIntegers:
+    case CellForm::kLayerNumbers:
+      return CheckInteger(cell, raise);
+    case CellForm::kText:
+    case CellForm::kTextOrAbsent:
+    case CellForm::kTexts:
+      return CheckText(cell, raise);
+    case CellForm::kStyle:
+      return CheckStyle(cell, raise);
+    case CellForm::kFlagYesIfUpperY:
+      return CheckFlag(FlagLetters::kYesIfUpperY, cell, raise);
+    case CellForm::kFlagYesIfY:
+      return CheckFlag(FlagLetters::kYesIfY, cell, raise);
+    case CellForm::kFlagNoIfUpperN:
+      return CheckFlag(FlagLetters::kNoIfUpperN, cell, raise);
+    case CellForm::kFlagNoIfN:
+      return CheckFlag(FlagLetters::kNoIfN, cell, raise);
+    case CellForm::kJoinedIntegers:
+      return CheckJoinedIntegers(cell, raise);
+    case CellForm::kJoinedNumbers:
+      return CheckJoinedNumbers(cell, raise);
+    case CellForm::kRange:
+      return CheckRange(cell, raise);
+    case CellForm::kConditionText:
+      return CheckCondition(cell, raise);
+    case CellForm::kExactParameter:
+    case CellForm::kExactSoftParameter:
+      return CheckExact(cell, raise);
+  }
+}
+
+/// The first cell of a single setting counts when it is empty too, except where the key says otherwise.
+void CheckEmptyFirst(const CheckedCell& cell, const Raise& raise) {
+  if (cell.schema.emptyIsAbsent || !cell.schema.taken) return;
+  const Cells taken = cell.schema.taken({cell.gbk});
+  if (taken == cell.schema.whenAbsent || taken.empty()) return;
+  const std::string absent = cell.schema.whenAbsent.empty() ? "" : GbkToUtf8(cell.schema.whenAbsent.front());
+  Finding finding = cell.schema.type == CellType::kText ? cell.Finds("cell-empty-text") : cell.Finds("cell-reads-as-zero");
+  finding.usedAs = GbkToUtf8(taken.front());
+  finding.words = {absent};
+  raise(finding);
+}
+
+class CellCheck {
+ public:
+  CellCheck(const TableText& table, const TableSchema& schema, const Raise& raise)
+      : table_(table), schema_(schema), raise_(raise) {}
+
+  void Run() {
+    for (const ColumnSchema& column : schema_.columns) {
+      if (column.use == ColumnUse::kPlaceholder) {
+        if (schema_.columns.size() == 1) CheckEveryColumn(column);
+      } else if (const auto at = table_.Cells().FindColumn(column.column)) {
+        CheckColumn(column, *at);
+      }
+    }
+  }
+
+ private:
+  /// Of a table whose columns all are of one kind.
+  void CheckEveryColumn(const ColumnSchema& column) {
+    for (std::size_t at = 0; at < table_.ColumnCount(); ++at) CheckColumn(column, at);
+  }
+
+  void CheckColumn(const ColumnSchema& column, std::size_t at) {
+    const bool hasManyRows = column.isList || column.isRowColumn;
+    const std::size_t last = hasManyRows ? table_.RowCount() : std::min<std::size_t>(1, table_.RowCount());
+    const auto deciding =
+        column.decidedBy.empty() ? std::nullopt : table_.Cells().FindColumn(column.decidedBy);
+    for (std::size_t row = 1; row <= last; ++row) {
+      if (deciding && table_.Cells().CellEquals(row, *deciding, "")) continue;
+      Check({table_, column, row, at, table_.Cells().Cell(row, at)}, hasManyRows);
+    }
+    if (!hasManyRows) CheckBelow(at);
+  }
+
+  void Check(const CheckedCell& cell, bool hasManyRows) {
+    if (!cell.gbk.empty()) {
+      // The names of parameters and processes, and the values of other parameters than ours, are looked at elsewhere.
+      if (cell.schema.use == ColumnUse::kValues) CheckFilled(cell, raise_);
+    } else if (!hasManyRows) {
+      CheckEmptyFirst(cell, raise_);
+    }
+  }
+
+  /// A single setting stands in the first data row; what stands below is not read.
+  void CheckBelow(std::size_t column) {
+    for (std::size_t row = 2; row <= table_.RowCount(); ++row) {
+      if (table_.Cells().RawCell(row, column).empty()) continue;
+      return raise_(CellFinding("cell-below-first-row", table_, row, column));
+    }
+  }
+
+  const TableText& table_;
+  const TableSchema& schema_;
+  const Raise& raise_;
+};
+
+}  // namespace
+
+Finding CellFinding(Code code, const TableText& table, std::size_t row, std::size_t column) {
+  Finding finding{code, table.PlaceOf(row, column)};
+  finding.cell = CellName(column, row + 1);
+  finding.columnName = table.ColumnName(column);
+  finding.text = table.Text(row, column);
+  return finding;
+}
+
+void CheckCells(const TableText& table, const TableSchema& schema, const Raise& raise) {
+  CellCheck(table, schema, raise).Run();
+}
+
+}  // namespace plateconfig

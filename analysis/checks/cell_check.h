@@ -1,0 +1,16 @@
+#pragma once
+
+#include "analysis/findings/finding.h"
+#include "analysis/schema/table_schema.h"
+#include "analysis/text/table_text.h"
+
+namespace plateconfig {
+
+/// A finding at a cell of a table, with its place, its column and its text.
+Finding CellFinding(Code code, const TableText& table, std::size_t row, std::size_t column);
+
+/// Raises what is wrong with the cells that the library reads, each as its kind reads it: what is not what its column
+/// holds, what is read as something else, what is not read at all.
+void CheckCells(const TableText& table, const TableSchema& schema, const Raise& raise);
+
+}  // namespace plateconfig
