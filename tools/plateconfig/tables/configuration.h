@@ -42,7 +42,7 @@ class Configuration {
  private:
   bool FindFolder();
   void ReadManifest();
-  void ReadRole(const std::string& name, const JsonNode& file);
+  void ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest);
   std::optional<TableFile> InFolder(const std::string& name) const;
 
   const ConfigurationOptions& options_;
