@@ -98,6 +98,13 @@ TEST(CsvStream, ACellBehindAQuotedLineBreakStandsOnItsOwnLine) {
   }
 }
 
+TEST(CsvStream, EachCellOfARowMayHoldALineBreak) {
+  CsvFile file("a,b\n\"1\n2\",\"3\n4\"\n5,6\n");
+  file.Header();
+  EXPECT_THAT(file.Row(), ElementsAre("1\n2", "3\n4"));
+  EXPECT_THAT(file.Row(), ElementsAre("5", "6"));
+}
+
 TEST(CsvStream, QuotedCellsHoldCommasAndDoubledQuotes) {
   CsvFile file("a,b\n\"1,2\",\"say \"\"x\"\"\"\n");
   file.Header();
