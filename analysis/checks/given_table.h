@@ -2,7 +2,7 @@
 
 // A table of a configuration as it was given: what a check looks at. Whoever reads files makes these.
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "analysis/schema/role.h"
@@ -12,9 +12,9 @@ namespace plateconfig {
 
 struct GivenTable {
   Role role;
-  std::string name;            ///< The file as the configuration names it, UTF-8.
-  bool exists = true;          ///< False for a file that is not there.
-  std::optional<Table> table;  ///< Nothing for a file that is missing, or can not be read.
+  std::string name;                    ///< The file as the configuration names it, UTF-8.
+  bool exists = true;                  ///< False for a file that is not there.
+  std::shared_ptr<const Table> table;  ///< Null for a file that is missing, or can not be read.
 };
 
 }  // namespace plateconfig
