@@ -59,6 +59,7 @@ class MaskedRowsSearch {
       NoteShadow(row, classes, {taker});  // One row that takes everything: the common case.
       return Cover::kWhole;
     }
+    if (takers.empty()) return Cover::kPart;
     std::set<std::size_t> used;
     const Cover cover = TestCover(reach, classes, takers, used);
     if (cover != Cover::kWhole) return cover;

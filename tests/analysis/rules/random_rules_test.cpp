@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <limits>
-#include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -321,8 +323,11 @@ void CompareRegions(const std::vector<SpecTable>& specs, const RuleRegions& foun
 
 // ---- the cases ----
 
-class Cases {
+/// Runs some of the cases, whose files are removed with it.
+class Batch {
  public:
+  explicit Batch(Shares& shares) : shares_(shares) {}
+
   void Run(Random& random) {
     const SpecTable spec = MakeSpecTable(random);
     const SpecTable changed = Changed(spec, random);
@@ -333,17 +338,15 @@ class Cases {
     const PlateSpace space({&model});
     const RuleOracle oracle({spec});
     const MaskedRows masked = FindMaskedRows(model, space);
-    CompareMaskedRows(spec, oracle, masked, shares);
+    CompareMaskedRows(spec, oracle, masked, shares_);
     GapOptions all;
     all.limit = 0;
-    CompareGaps(spec, oracle, FindGaps(model, space, all), shares);
-    CompareSharedBounds(spec, oracle, FindSharedBounds(model, space, masked), shares);
+    CompareGaps(spec, oracle, FindGaps(model, space, all), shares_);
+    CompareSharedBounds(spec, oracle, FindSharedBounds(model, space, masked), shares_);
     RegionOptions allRegions;
     allRegions.limit = 0;
-    CompareRegions({spec, changed}, CompareRules(model, changedModel, allRegions), shares);
+    CompareRegions({spec, changed}, CompareRules(model, changedModel, allRegions), shares_);
   }
-
-  Shares shares;
 
  private:
   /// A name of its own for each file: rewriting one again and again makes some file systems wait for the
@@ -353,6 +356,7 @@ class Cases {
     return LoadRuleTables(folder_.WriteBytes(name, CsvOf(spec)), "");
   }
 
+  Shares& shares_;
   TemporaryFolder folder_;
   int files_ = 0;
 };
@@ -372,14 +376,18 @@ int CountOfCases() {
 
 TEST(RandomRules, TheAnalysisAgreesWithPlainTrying) {
   const ScopedVariable temporary("TMPDIR", FastTemporaryFolder());
-  Cases cases;
+  constexpr int kCasesPerBatch = 500;
+  Shares shares;
   const int count = CountOfCases();
-  for (int seed = 1; seed <= count && !HasFailure(); ++seed) {
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    Random random(static_cast<std::uint64_t>(seed));
-    cases.Run(random);
+  int seed = 0;
+  while (seed < count && !HasFailure()) {
+    Batch batch(shares);
+    for (int end = std::min(seed + kCasesPerBatch, count); seed < end && !HasFailure();) {
+      Random random(static_cast<std::uint64_t>(++seed));
+      SCOPED_TRACE("seed " + std::to_string(seed));
+      batch.Run(random);
+    }
   }
-  const Shares& shares = cases.shares;
   EXPECT_GT(shares.neverMatching, count / 4);
   EXPECT_GT(shares.shadowed, count / 4);
   EXPECT_GT(shares.severalBlockers, count / 50);
