@@ -173,6 +173,15 @@ TEST(Gaps, ASearchThatEndsEarlyIsTold) {
   EXPECT_TRUE(Find(rows, options).incomplete.at(0).searchEnded);
 }
 
+// The tables are changed behind the back of the analysis, which stands for a mistake of its own.
+TEST(Gaps, WhatTheEvaluationDoesNotConfirmIsToldApart) {
+  Scene scene({{.length = "0_10"}, {.length = "20_30"}});
+  scene.tables.ruleRows = Scene(std::vector<Row>(1)).tables.ruleRows;
+  const Gaps gaps = FindGaps(scene.model, scene.space);
+  EXPECT_THAT(gaps.gaps, IsEmpty());
+  EXPECT_THAT(gaps.unconfirmed, SizeIs(1));
+}
+
 // ---- the row to write ----
 
 /// Cells by column (UTF-8).
@@ -196,7 +205,7 @@ TEST(NewRow, NamesEverythingThatThePlatesOfTheBoxHaveInCommon) {
 
 TEST(NewRow, NamesAMissingColumnOnlyWhenAMissingCellReadsDifferently) {
   const std::string table = "模板所在图层,长度范围\n3,0_10\n3,20_30\n";
-  const Scene scene(LoadTexts(table));
+  const Scene scene = Scene::Of(table);
   GapOptions options;
   options.domain[1] = Interval{5, 6};
   const Gaps gaps = FindGaps(scene.model, scene.space, options);

@@ -140,6 +140,16 @@ TEST(ShadowedRow, WorkThatRunsOutIsTold) {
   EXPECT_THAT(masked.undecided, ElementsAre(3, 4));
 }
 
+// The tables are changed behind the back of the analysis, which stands for a mistake of its own.
+TEST(ShadowedRow, WhatTheEvaluationDoesNotConfirmIsToldApart) {
+  Scene scene({{.length = "0_500"}, {.length = "0_50"}});
+  scene.tables.ruleRows.clear();
+  const MaskedRows masked = FindMaskedRows(scene.model, scene.space);
+  EXPECT_THAT(masked.shadowed, IsEmpty());
+  ASSERT_EQ(masked.unconfirmed.size(), 1U);
+  EXPECT_EQ(masked.unconfirmed[0].row, 3);
+}
+
 // ---- rows without a text ----
 
 TEST(RowWithoutText, HasNoTextInAnyProcessColumn) {

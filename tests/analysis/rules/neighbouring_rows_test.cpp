@@ -85,6 +85,20 @@ TEST(SharedBound, RowsThatTakeNothingTakeNoPart) {
       IsEmpty());
 }
 
+TEST(SharedBound, WorkThatRunsOutIsTold) {
+  const Scene scene({{.length = "0_100", .drilling = "a"}, {.length = "100_200", .drilling = "b"}});
+  const SharedBounds found = FindSharedBounds(scene.model, scene.space, {}, 0);
+  EXPECT_THAT(found.bounds, IsEmpty());
+  EXPECT_THAT(found.undecided, ElementsAre(3));
+}
+
+TEST(SharedBound, RowsThatAreNotKnownToTakePlatesTakeNoPart) {
+  const Scene scene({{.length = "0_100", .drilling = "a"}, {.length = "100_200", .drilling = "b"}});
+  MaskedRows masked;
+  masked.undecided = {2};
+  EXPECT_THAT(FindSharedBounds(scene.model, scene.space, masked).bounds, IsEmpty());
+}
+
 // ---- mergeable rows ----
 
 std::vector<MergeableRow> Mergeable(const std::vector<Row>& rows, const Lists& lists = {}) {

@@ -152,6 +152,17 @@ TEST(RuleRegions, OnlyTheLargestOfAGroupAreListedAndTheOthersCounted) {
   EXPECT_TRUE(CompareScenes(before, after, options).incomplete.at(0).searchEnded);
 }
 
+// The tables are changed behind the back of the analysis, which stands for a mistake of its own.
+TEST(RuleRegions, WhatTheEvaluationDoesNotConfirmIsToldApart) {
+  const Scene before({{.length = "0_10"}});
+  Scene after({{.length = "0_20"}});
+  after.tables.ruleRows.clear();
+  const RuleRegions regions = CompareRules(before.model, after.model);
+  EXPECT_THAT(regions.regions, IsEmpty());
+  ASSERT_THAT(regions.unconfirmed, SizeIs(1));
+  EXPECT_EQ(regions.unconfirmed[0].row, 2);
+}
+
 // ---- features ----
 
 /// The features with which the texts of the only region differ; nothing when there are none.
@@ -218,8 +229,8 @@ TEST(RegionFeatures, AnotherOrderOfTheProcessesShowsWhenBothApply) {
       "排工艺顺序,排顺序工艺类型,模板所在图层,钻孔,磨平\n钻孔,有无圆孔,1,a,b\n磨平,有无通槽,,,\n";
   const std::string after =
       "排工艺顺序,排顺序工艺类型,模板所在图层,钻孔,磨平\n磨平,有无通槽,1,a,b\n钻孔,有无圆孔,,,\n";
-  const Scene oldScene(LoadTexts(before));
-  const Scene newScene(LoadTexts(after));
+  const Scene oldScene = Scene::Of(before);
+  const Scene newScene = Scene::Of(after);
   const auto regions = CompareScenes(oldScene, newScene).regions;
   ASSERT_THAT(regions, SizeIs(1));
   EXPECT_TRUE(regions[0].textsDiffer);
@@ -229,11 +240,11 @@ TEST(RegionFeatures, AnotherOrderOfTheProcessesShowsWhenBothApply) {
 
 TEST(RegionFeatures, TheRowNumberInTheTextIsNoDifferenceOfItsOwn) {
   const std::string settings = "输出行号\nY\n";
-  const Scene before(
-      LoadTexts(TableText({{}}, {.drillingCondition = "圆孔颜色", .drillingParameter = "1_2"}), settings));
-  const Scene after(
-      LoadTexts(TableText({{.layer = ""}, {}}, {.drillingCondition = "圆孔颜色", .drillingParameter = "2_1"}),
-                settings));
+  const Scene before =
+      Scene::Of(TableText({{}}, {.drillingCondition = "圆孔颜色", .drillingParameter = "1_2"}), settings);
+  const Scene after =
+      Scene::Of(TableText({{.layer = ""}, {}}, {.drillingCondition = "圆孔颜色", .drillingParameter = "2_1"}),
+                settings);
   const auto regions = CompareScenes(before, after).regions;
   ASSERT_THAT(regions, SizeIs(1));
   EXPECT_FALSE(regions[0].textsDiffer);

@@ -58,15 +58,22 @@ inline std::string TableText(const std::vector<Row>& rows, const Lists& lists = 
 /// A table with everything that the analysis makes of it.
 struct Scene {
   explicit Scene(const std::vector<Row>& rows, const Lists& lists = {})
-      : Scene(LoadTexts(TableText(rows, lists))) {}
-  explicit Scene(RuleTables loaded)
-      : tables(std::move(loaded)), model(MakeRuleModel(tables)), space({&model}) {}
+      : Scene(FromText{}, TableText(rows, lists), "") {}
   Scene(const Scene&) = delete;
   Scene& operator=(const Scene&) = delete;
+
+  static Scene Of(std::string_view rules, std::string_view settings = "") {
+    return {FromText{}, rules, settings};
+  }
 
   RuleTables tables;
   RuleModel model;
   PlateSpace space;
+
+ private:
+  struct FromText {};
+  Scene(FromText, std::string_view rules, std::string_view settings)
+      : tables(LoadTexts(rules, settings)), model(MakeRuleModel(tables)), space({&model}) {}
 };
 
 }  // namespace plateconfig::test
