@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <utility>
 
 namespace plateconfig {
 namespace {
@@ -64,6 +65,7 @@ class MaskedRowsSearch {
     const Cover cover = TestCover(reach, classes, takers, used);
     if (cover != Cover::kWhole) return cover;
     std::vector<Taker> blockers;
+    blockers.reserve(used.size());
     for (const std::size_t i : used) blockers.push_back(takers[i]);
     if (!LeaveOutNeedless(reach, classes, blockers)) return Cover::kUnknown;
     NoteShadow(row, classes, blockers);
