@@ -6,6 +6,7 @@
 #include <string>
 
 #include "analysis/schema/role.h"
+#include "config/read_config_file.h"
 #include "config/table.h"
 
 namespace plateconfig {
@@ -16,5 +17,10 @@ struct GivenTable {
   bool exists = true;                  ///< False for a file that is not there.
   std::shared_ptr<const Table> table;  ///< Null for a file that is missing, or can not be read.
 };
+
+/// The table as the library's classes read it; an empty reader for one that can not be read.
+inline ReadConfigFile ReaderOf(const GivenTable& given) {
+  return given.table ? ReaderOf(given.table) : ReadConfigFile();
+}
 
 }  // namespace plateconfig

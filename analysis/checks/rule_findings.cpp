@@ -55,7 +55,8 @@ std::string SizesOf(const Plate& plate) {
 
 class RuleFindings {
  public:
-  RuleFindings(const TableText& table, const RuleTables& tables, const RuleAnalysis& analysis, const Raise& raise)
+  RuleFindings(const TableText& table, const RuleTables& tables, const RuleAnalysis& analysis,
+               const Raise& raise)
       : table_(table), analysis_(analysis), raise_(raise), model_(MakeRuleModel(tables)), space_({&model_}) {}
 
   RuleAnalysisEnd Run() {
@@ -63,7 +64,8 @@ class RuleFindings {
     Keep(masked.unconfirmed);
     RaiseMasked(masked);
     if (!masked.undecided.empty())
-      end_.incomplete.push_back({"rows " + Listed(masked.undecided) + " were not fully compared with the rows above them: too many cases",
+      end_.incomplete.push_back({"rows " + Listed(masked.undecided) +
+                                     " were not fully compared with the rows above them: too many cases",
                                  "第 " + Listed(masked.undecided) + " 行未能与上面各行完全比较：情况太多"});
     if (Wants("row-shared-bound")) RaiseSharedBounds(masked);
     if (Wants("rows-mergeable")) RaiseMergeable();
@@ -94,11 +96,13 @@ class RuleFindings {
   void RaiseMasked(const MaskedRows& masked) {
     for (const NeverMatchingRow& row : masked.neverMatching) {
       Finding finding = RowFinding("row-never-matches", row.row);
-      finding.members.emplace_back("condition", row.condition ? Value(NameOf(*row.condition)) : Value(nullptr));
-      finding.words.push_back(row.condition ? Word(": its " + WordOf(*row.condition).english + " admits none",
-                                                   "：其" + WordOf(*row.condition).chinese + "条件不允许任何值")
-                                            : Word(": no plate has these answers about profile and wire cutting",
-                                                   "：没有板同时符合其型面和线割的要求"));
+      finding.members.emplace_back("condition",
+                                   row.condition ? Value(NameOf(*row.condition)) : Value(nullptr));
+      finding.words.push_back(row.condition
+                                  ? Word(": its " + WordOf(*row.condition).english + " admits none",
+                                         "：其" + WordOf(*row.condition).chinese + "条件不允许任何值")
+                                  : Word(": no plate has these answers about profile and wire cutting",
+                                         "：没有板同时符合其型面和线割的要求"));
       raise_(finding);
     }
     for (const ShadowedRow& row : masked.shadowed) RaiseShadowed(row);
@@ -115,9 +119,10 @@ class RuleFindings {
     finding.words.push_back(row.blockers.size() == 1 ? Word("row " + blockers, "第 " + blockers + " 行")
                                                      : Word("rows " + blockers, "第 " + blockers + " 行"));
     const std::string example = SizesOf(row.witness);
-    finding.words.push_back(row.sameText ? Word(", with the same texts", "，且文本相同")
-                                         : Word("; a plate of " + example + " gets row " + std::to_string(row.witnessRow),
-                                                "；例如 " + example + " 的板得到第 " + std::to_string(row.witnessRow) + " 行"));
+    finding.words.push_back(
+        row.sameText ? Word(", with the same texts", "，且文本相同")
+                     : Word("; a plate of " + example + " gets row " + std::to_string(row.witnessRow),
+                            "；例如 " + example + " 的板得到第 " + std::to_string(row.witnessRow) + " 行"));
     raise_(finding);
   }
 
@@ -131,8 +136,8 @@ class RuleFindings {
       finding.members.emplace_back("value", bound.value);
       finding.members.emplace_back("witness", WitnessValue(bound.witness));
       finding.members.emplace_back("witnessRow", bound.otherRow);
-      finding.words.insert(finding.words.end(),
-                           {std::to_string(bound.otherRow), WordOf(bound.condition), NumberText(bound.value)});
+      finding.words.insert(finding.words.end(), {std::to_string(bound.otherRow), WordOf(bound.condition),
+                                                 NumberText(bound.value)});
       raise_(finding);
     }
   }
@@ -191,7 +196,8 @@ class RuleFindings {
     end_.incomplete.push_back(
         {boxes + " more gaps of plates with " + group.english + " are not listed" +
              (ended ? ", and not all were searched for: too many cases" : "; --limit 0 lists all"),
-         "另有 " + boxes + " 处空缺未列出（" + group.chinese + "）" + (ended ? "；且情况太多，未能全部查找" : "；用 --limit 0 全部列出")});
+         "另有 " + boxes + " 处空缺未列出（" + group.chinese + "）" +
+             (ended ? "；且情况太多，未能全部查找" : "；用 --limit 0 全部列出")});
   }
 
   const TableText& table_;

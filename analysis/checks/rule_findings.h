@@ -22,12 +22,13 @@ struct RuleAnalysis {
 /// What the analysis did not come to.
 struct RuleAnalysisEnd {
   std::vector<Word> incomplete;
-  /// A finding that the evaluation did not confirm: a mistake of the analysis, and its plate. The finding is not given.
+  /// A finding that the evaluation did not confirm: a mistake of the analysis, and its plate. The finding is
+  /// not given.
   std::vector<Unconfirmed> unconfirmed;
 };
 
-/// Raises rows that never match, are shadowed, write nothing, share a bound or could be one, and gaps. `tables` is what
-/// the library loads from `table`.
+/// Raises rows that never match, are shadowed, write nothing, share a bound or could be one, and gaps.
+/// `tables` is what the library loads from `table`.
 RuleAnalysisEnd AnalyseRules(const TableText& table, const RuleTables& tables, const RuleAnalysis& analysis,
                              const Raise& raise);
 

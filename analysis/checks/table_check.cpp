@@ -13,7 +13,8 @@ namespace plateconfig {
 namespace {
 
 constexpr Words kAbsentColumns = {"every setting gets the value of an absent column", "各设置取缺列时的值"};
-constexpr Words kClassStart = {"the settings stay as the library's classes start", "各设置保持库中类的初始值"};
+constexpr Words kClassStart = {"the settings stay as the library's classes start",
+                               "各设置保持库中类的初始值"};
 constexpr Words kException = {"the drawing tool gets an exception", "绘图工具会收到异常"};
 constexpr Words kNoRuleRows = {"the library then has no rule rows and every process text is empty",
                                "库因此没有任何规则行，所有工艺文本都为空"};
@@ -43,7 +44,7 @@ bool CheckFile(const GivenTable& given, const TableText& text, const Raise& rais
 
 RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const RuleAnalysis& analysis,
                            const Raise& raise) {
-  const RuleTables tables = LoadRuleTables(ReaderOf(given.table), ReadConfigFile());
+  const RuleTables tables = LoadRuleTables(ReaderOf(given), ReadConfigFile());
   CheckParameters(text, tables, raise);
   CheckProcesses(text, raise);
   CheckRuleRows(text, raise);

@@ -8,7 +8,8 @@
 
 namespace plateconfig {
 
-/// Raises it, in no particular order. What `analysis` does not want is looked at all the same where it costs nothing.
+/// Raises it, in no particular order. What `analysis` does not want is looked at all the same where it costs
+/// nothing.
 RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise);
 
 /// The names and nothing else: why columns are not found in a table that is not empty.
