@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "analysis/findings/finding.h"
+#include "analysis/rules/witness.h"
 #include "analysis/schema/role.h"
 
 namespace plateconfig {
@@ -25,6 +26,8 @@ struct CheckReport {
   std::size_t processes = 0;
   std::vector<std::string> skipped;  ///< Codes that were switched off, in the order of the table of codes.
   std::vector<Word> incomplete;      ///< What was not looked at, and why.
+  /// What the evaluation did not confirm: a mistake of the analysis. Such findings are not given.
+  std::vector<Unconfirmed> unconfirmed;
   /// In the order of the roles, then by line (those of a whole file first), column and code.
   std::vector<Finding> findings;
 };

@@ -30,7 +30,7 @@ struct GapOptions {
   std::array<std::optional<Interval>, kSizeCount> domain;
   std::size_t limit = 10;  ///< Boxes of a group, the largest; 0 for all.
   std::uint64_t work = kUsualWork;
-  std::size_t mostPieces = 200'000;  ///< What a group may come to before the search of it ends.
+  std::size_t mostPieces = 1'000'000;  ///< What a group may come to before the search of it ends.
 };
 
 /// A box of plates that no row accepts. An end is infinite only where a row's own maximum is.

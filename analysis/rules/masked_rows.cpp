@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <utility>
 
 namespace plateconfig {
 namespace {
@@ -59,10 +60,12 @@ class MaskedRowsSearch {
       NoteShadow(row, classes, {taker});  // One row that takes everything: the common case.
       return Cover::kWhole;
     }
+    if (takers.empty()) return Cover::kPart;
     std::set<std::size_t> used;
     const Cover cover = TestCover(reach, classes, takers, used);
     if (cover != Cover::kWhole) return cover;
     std::vector<Taker> blockers;
+    blockers.reserve(used.size());
     for (const std::size_t i : used) blockers.push_back(takers[i]);
     if (!LeaveOutNeedless(reach, classes, blockers)) return Cover::kUnknown;
     NoteShadow(row, classes, blockers);

@@ -38,7 +38,8 @@ struct MaskedRows {
   std::vector<Unconfirmed> unconfirmed;
 };
 
-/// Enough for tables of ten thousand rows as shops write them; about a second.
+/// Many times what a table of ten thousand rows needs as shops write them; a second or two when it is used
+/// up.
 inline constexpr std::uint64_t kUsualWork = 200'000'000;
 
 /// All lists are in the order of the table.

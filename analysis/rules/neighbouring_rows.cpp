@@ -40,7 +40,7 @@ std::optional<Meeting> MeetingOf(const ModelRow& a, const ModelRow& b) {
 }
 
 std::set<int> RowsThatTakeNothing(const MaskedRows& masked) {
-  std::set<int> rows(masked.undecided.begin(), masked.undecided.end());
+  std::set<int> rows;
   for (const NeverMatchingRow& row : masked.neverMatching) rows.insert(row.row);
   for (const ShadowedRow& row : masked.shadowed) rows.insert(row.row);
   return rows;
@@ -50,7 +50,10 @@ class SharedBoundSearch {
  public:
   SharedBoundSearch(const RuleModel& model, const PlateSpace& space, const MaskedRows& masked,
                     std::uint64_t work)
-      : model_(model), space_(space), work_(work) {
+      : model_(model),
+        space_(space),
+        work_(work),
+        undecided_(masked.undecided.begin(), masked.undecided.end()) {
     const std::set<int> none = RowsThatTakeNothing(masked);
     for (const ModelRow& row : model.rows) {
       if (!none.contains(row.row)) rows_.push_back(&row);
@@ -59,6 +62,8 @@ class SharedBoundSearch {
 
   SharedBounds Run() {
     for (const auto& [later, earlier] : Pairs()) Judge(*rows_[earlier], earlier, *rows_[later]);
+    auto& undecided = found_.undecided;
+    undecided.erase(std::unique(undecided.begin(), undecided.end()), undecided.end());
     return std::move(found_);
   }
 
@@ -98,7 +103,7 @@ class SharedBoundSearch {
 
   void Judge(const ModelRow& earlier, std::size_t place, const ModelRow& later) {
     const std::optional<Meeting> meeting = MeetingOf(earlier, later);
-    if (!meeting) return;
+    if (!meeting || undecided_.contains(earlier.row) || undecided_.contains(later.row)) return;
     Box box = Intersection(earlier.box, later.box);
     const Interval bound{meeting->value, meeting->value};
     if (!box[meeting->size].Contains(bound)) return;
@@ -145,7 +150,8 @@ class SharedBoundSearch {
   const RuleModel& model_;
   const PlateSpace& space_;
   Work work_;
-  std::vector<const ModelRow*> rows_;  // Those that take plates.
+  std::set<int> undecided_;            // Rows that perhaps take nothing.
+  std::vector<const ModelRow*> rows_;  // Those that take plates, or perhaps do.
   SharedBounds found_;
 };
 

@@ -24,11 +24,11 @@ struct SharedBound {
 
 struct SharedBounds {
   std::vector<SharedBound> bounds;
-  std::vector<int> undecided;  ///< Rows for which the work ran out.
+  std::vector<int> undecided;  ///< Rows, ascending, of which the work ran out for a pair.
   std::vector<Unconfirmed> unconfirmed;
 };
 
-/// The rows that `masked` names take no part.
+/// Rows that never match, that are shadowed, or of which `masked` does not know it, take no part.
 SharedBounds FindSharedBounds(const RuleModel& model, const PlateSpace& space, const MaskedRows& masked,
                               std::uint64_t work = kUsualWork);
 

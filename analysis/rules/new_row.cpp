@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -56,7 +57,7 @@ Thousandths Nearest(double value) {
 
 /// The greatest minimum that refuses no value from `low` on.
 Thousandths MinimumFor(double low) {
-  Thousandths number = Nearest(low) + 1;
+  Thousandths number = Nearest(low);
   while (ValueOf(number) > low) --number;
   return number;
 }
@@ -77,15 +78,14 @@ std::string ShortestText(double value) {
   return text;
 }
 
-/// A class that both lists have may be written either way; a list that names the class is the narrower one.
+/// Where rows of both materials accept the class, the list that names it is the narrower one; where neither
+/// does, an empty cell will do.
 bool IsSoftFor(const PlateSpace& space, std::size_t bodyClass) {
   constexpr unsigned kSoftList = 2;
   const bool softAccepts = (space.AcceptedClasses(true) >> bodyClass & 1U) != 0;
   const bool hardAccepts = (space.AcceptedClasses(false) >> bodyClass & 1U) != 0;
   const bool softNames = (space.BodyClasses()[bodyClass].lists & kSoftList) != 0;
-  const bool anyNames = space.BodyClasses()[bodyClass].lists != 0;
-  if (softAccepts != hardAccepts) return softAccepts;
-  return softNames || !anyNames;
+  return softAccepts != hardAccepts ? softAccepts : softNames;
 }
 
 std::string LayerFor(const RuleModel& model, const PlateSpace& space, const PlateGroup& group) {

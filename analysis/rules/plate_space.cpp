@@ -72,6 +72,7 @@ std::vector<ColorClass> ClassesOf(const ColorLists& lists) {
   std::map<unsigned, std::vector<int>> byLists = {{0, {}}};
   for (const auto& [color, bits] : listsOfColor) byLists[bits].push_back(color);
   std::vector<ColorClass> classes;
+  classes.reserve(byLists.size());
   for (auto& [bits, colors] : byLists) classes.push_back({bits, std::move(colors)});
   return classes;
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <span>
 #include <utility>
 
 #include "rules/rule_table_keys.h"

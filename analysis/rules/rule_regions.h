@@ -51,7 +51,7 @@ struct RuleRegions {
 struct RegionOptions {
   std::size_t limit = 10;  ///< Boxes of a group, the largest; 0 for all.
   std::uint64_t work = kUsualWork;
-  std::size_t mostPieces = 200'000;  ///< What a group may come to before the search of it ends.
+  std::size_t mostPieces = 1'000'000;  ///< What a group may come to before the search of it ends.
 };
 
 RuleRegions CompareRules(const RuleModel& before, const RuleModel& after, const RegionOptions& options = {});

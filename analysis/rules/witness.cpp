@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <iterator>
 #include <limits>
 
@@ -31,11 +32,11 @@ std::ptrdiff_t LengthOfText(double value) {
   return std::to_chars(text.data(), text.data() + text.size(), value).ptr - text.data();
 }
 
-/// A range without an end is not halved: nobody wants to see a plate of half a kilometre.
-double Middle(const Interval& interval) {
+/// The part of an interval in which plates are usual: nobody wants to see one of half a kilometre because a
+/// range has no end.
+Interval UsualPart(const Interval& interval) {
   constexpr double kUsualPlate = 1000;
-  const double high = std::min(interval.high, std::max(kUsualPlate, 2 * interval.low));
-  return interval.low + (high - interval.low) / 2;
+  return {interval.low, std::min(interval.high, std::max(kUsualPlate, 2 * interval.low))};
 }
 
 std::string TextOf(const RuleTables& tables, const Plate& plate, const PlateFeatures& features) {
@@ -120,10 +121,13 @@ std::vector<WrittenCell> InOneAlone(std::vector<WrittenCell> a, std::vector<Writ
 }  // namespace
 
 double RoundNumber(const Interval& interval) {
-  const double middle = Middle(interval);
+  const Interval usual = UsualPart(interval);
+  const double width = usual.high - usual.low;
+  const double middle = usual.low + width / 2;
   for (int digits = 0; digits <= kMostDigits; ++digits) {
     const double value = Rounded(middle, digits);
-    if (interval.low < value && value < interval.high) return value;
+    const bool isAwayFromTheEnds = std::fabs(value - middle) <= width / 4;
+    if (isAwayFromTheEnds && interval.low < value && value < interval.high) return value;
   }
   return LengthOfText(interval.low) <= LengthOfText(interval.high) ? interval.low : interval.high;
 }

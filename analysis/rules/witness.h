@@ -3,9 +3,9 @@
 // Plates that show what a finding says, and the question to the evaluation whether they do. Feeding the rules
 // writes to the diagnostic file like every feeding; who analyses tables switches it off before.
 
-#include <compare>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "analysis/rules/plate_features.h"
@@ -43,7 +43,10 @@ struct WrittenCell {
   std::string parameter;
   std::string cell;
 
-  auto operator<=>(const WrittenCell&) const = default;
+  bool operator<(const WrittenCell& other) const {
+    return std::tie(process, condition, parameter, cell) <
+           std::tie(other.process, other.condition, other.parameter, other.cell);
+  }
 };
 
 /// Finds features with which two tables write different texts for one plate.

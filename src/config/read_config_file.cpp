@@ -56,3 +56,9 @@ std::string ReadConfigFile::GetItemValue(const std::string& column, int row) con
   if (!position || row < 0 || static_cast<std::size_t>(row) > table_->RowCount()) return {};
   return table_->Cell(static_cast<std::size_t>(row), *position);
 }
+
+ReadConfigFile plateconfig::ReaderOf(std::shared_ptr<const Table> table) {
+  ReadConfigFile reader;
+  reader.table_ = std::move(table);
+  return reader;
+}

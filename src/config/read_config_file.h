@@ -12,9 +12,14 @@
 
 #include "plateconfig_export.h"
 
+class ReadConfigFile;
+
 namespace plateconfig {
 class Table;
-}
+
+/// A reader of a table that is in memory already, for those who look at a table and load from it too.
+ReadConfigFile ReaderOf(std::shared_ptr<const Table> table);
+}  // namespace plateconfig
 
 /// A configuration table, whole in memory once opened and independent of the file from then on. Nothing
 /// throws on bad data: what is missing reads as empty. Cells may be quoted as spreadsheet programs quote
@@ -52,5 +57,7 @@ class PLATECONFIG_API ReadConfigFile {
   std::string GetItemValue(const std::string& column, int row) const;
 
  private:
+  friend ReadConfigFile plateconfig::ReaderOf(std::shared_ptr<const plateconfig::Table> table);
+
   std::shared_ptr<const plateconfig::Table> table_;
 };

@@ -30,18 +30,23 @@ void LoadProcessList(RuleTables& tables, const Loader& loader) {
 
 }  // namespace
 
-RuleTables LoadRuleTables(const std::string& ruleTablePath, const std::string& settingsPath) {
+RuleTables LoadRuleTables(const ReadConfigFile& ruleTable, const ReadConfigFile& settings) {
   RuleTables tables;
-  ReadConfigFile settings;
-  settings.OpenConfigFile(settingsPath);
   WalkProcessSettings(tables, Loader(settings));
-
-  tables.ruleTable.OpenConfigFile(ruleTablePath);
+  tables.ruleTable = ruleTable;
   const Loader loader(tables.ruleTable);
   LoadColors(tables, loader);
   LoadProcessList(tables, loader);
   loader.WalkRows(tables.ruleRows, kRuleRowKeys);
   return tables;
+}
+
+RuleTables LoadRuleTables(const std::string& ruleTablePath, const std::string& settingsPath) {
+  ReadConfigFile ruleTable;
+  ruleTable.OpenConfigFile(ruleTablePath);
+  ReadConfigFile settings;
+  settings.OpenConfigFile(settingsPath);
+  return LoadRuleTables(ruleTable, settings);
 }
 
 }  // namespace plateconfig

@@ -34,6 +34,9 @@ struct RuleTables {
   }
 };
 
+/// Loads from two open tables.
+RuleTables LoadRuleTables(const ReadConfigFile& ruleTable, const ReadConfigFile& settings);
+
 /// Loads both tables (host paths). What is missing stays as `RuleTables` starts: empty texts and lists, 0,
 /// false.
 RuleTables LoadRuleTables(const std::string& ruleTablePath, const std::string& settingsPath);

@@ -50,9 +50,9 @@ struct Style {
   bool mostlyOneGroup;
 };
 
-SpecRow MakeRow(const Style& style, Random& random) {
+RowDraft MakeRow(const Style& style, Random& random) {
   static const Texts texts = {"", "", "a", "b", " "};
-  SpecRow row;
+  RowDraft row;
   for (std::size_t size = 0; size < kSizes; ++size) {
     if (!style.bounds[size].empty()) row.ranges[size] = RangeCell(style.bounds[size], random);
   }
@@ -71,7 +71,7 @@ std::string ColorCell(const std::vector<int>& colors) {
 }
 
 /// The first rows also hold the general parameters and the process list; there are at least four rows.
-std::string ListCells(const SpecTable& table, std::size_t row) {
+std::string ListCells(const TableDraft& table, std::size_t row) {
   const std::vector<int>* const colors[] = {&table.soft, &table.hard, &table.profile, &table.wireCutting};
   static constexpr const char* kNames[] = {"软料（体颜色）", "硬料（体颜色）", "有型面", "有线割"};
   static constexpr const char* kProcesses[] = {"钻孔,有无圆孔,", "磨平,自定义追加工艺,"};
@@ -79,7 +79,7 @@ std::string ListCells(const SpecTable& table, std::size_t row) {
   return cells + (row < 2 && table.listsProcesses ? kProcesses[row] : ",,");
 }
 
-std::string RowCells(const SpecRow& row) {
+std::string RowCells(const RowDraft& row) {
   std::string cells = "12";
   for (const std::string& range : row.ranges) cells += "," + range;
   cells += row.hasProfile ? ",有型面" : ",";
@@ -90,8 +90,8 @@ std::string RowCells(const SpecRow& row) {
 
 }  // namespace
 
-SpecTable MakeSpecTable(Random& random) {
-  SpecTable table;
+TableDraft MakeTableDraft(Random& random) {
+  TableDraft table;
   table.soft = Colors(1, 3, random);
   table.hard = Colors(2, 3, random);
   table.profile = Colors(11, 2, random);
@@ -100,13 +100,13 @@ SpecTable MakeSpecTable(Random& random) {
   const Style style(random);
   for (int i = 1 + random.Below(12); i > 0; --i) {
     const bool isCopy = !table.rows.empty() && random.Chance(8);
-    table.rows.push_back(isCopy ? SpecRow(random.Pick(table.rows)) : MakeRow(style, random));
+    table.rows.push_back(isCopy ? RowDraft(random.Pick(table.rows)) : MakeRow(style, random));
   }
   return table;
 }
 
-SpecTable Changed(SpecTable table, Random& random) {
-  if (random.Chance(10)) return MakeSpecTable(random);
+TableDraft Changed(TableDraft table, Random& random) {
+  if (random.Chance(10)) return MakeTableDraft(random);
   const Style style(random);
   for (int i = random.Below(4); i > 0; --i) {
     const auto place = static_cast<std::size_t>(random.Below(static_cast<int>(table.rows.size())));
@@ -135,7 +135,7 @@ SpecTable Changed(SpecTable table, Random& random) {
   return table;
 }
 
-std::string CsvOf(const SpecTable& table) {
+std::string CsvOf(const TableDraft& table) {
   std::string text =
       "通用要求,通用参数,排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,长度范围,宽度范围,厚度范围,"
       "重量范围,有无型面,有无线割,材质要求,钻孔,磨平\n";

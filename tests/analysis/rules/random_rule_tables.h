@@ -13,7 +13,7 @@ namespace plateconfig::test {
 
 inline constexpr int kSizes = 4;
 
-struct SpecRow {
+struct RowDraft {
   std::array<std::string, kSizes> ranges;  ///< The cells.
   bool isSoft = false;
   bool hasProfile = false;
@@ -22,18 +22,18 @@ struct SpecRow {
 };
 
 /// A rule table before it becomes a file.
-struct SpecTable {
+struct TableDraft {
   std::vector<int> soft, hard, profile, wireCutting;
   bool listsProcesses = true;
-  std::vector<SpecRow> rows;
+  std::vector<RowDraft> rows;
 };
 
-SpecTable MakeSpecTable(Random& random);
+TableDraft MakeTableDraft(Random& random);
 /// The same table with a few things changed, now and then with none.
-SpecTable Changed(SpecTable table, Random& random);
+TableDraft Changed(TableDraft table, Random& random);
 
 /// The table as a file (GBK). The row of `rows[i]` is `RowNumber(i)`.
-std::string CsvOf(const SpecTable& table);
+std::string CsvOf(const TableDraft& table);
 constexpr int RowNumber(std::size_t i) {
   return static_cast<int>(i) + 2;
 }

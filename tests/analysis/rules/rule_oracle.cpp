@@ -40,36 +40,36 @@ void Complete(std::vector<double>& points) {
   for (std::size_t i = 1; i < bounds; ++i) points.push_back(points[i - 1] / 2 + points[i] / 2);
 }
 
-std::vector<int> AllFaceColors(const std::vector<SpecTable>& tables) {
+std::vector<int> AllFaceColors(const std::vector<TableDraft>& tables) {
   std::set<int> colors;
-  for (const SpecTable& table : tables) {
+  for (const TableDraft& table : tables) {
     colors.insert(table.profile.begin(), table.profile.end());
     colors.insert(table.wireCutting.begin(), table.wireCutting.end());
   }
   return {colors.begin(), colors.end()};
 }
 
-std::set<int> AllBodyColors(const std::vector<SpecTable>& tables) {
+std::set<int> AllBodyColors(const std::vector<TableDraft>& tables) {
   std::set<int> colors = {99};  // One that no list has.
-  for (const SpecTable& table : tables) {
+  for (const TableDraft& table : tables) {
     colors.insert(table.soft.begin(), table.soft.end());
     colors.insert(table.hard.begin(), table.hard.end());
   }
   return colors;
 }
 
-std::vector<bool> MembershipOf(int color, const std::vector<SpecTable>& tables) {
+std::vector<bool> MembershipOf(int color, const std::vector<TableDraft>& tables) {
   std::vector<bool> membership;
-  for (const SpecTable& table : tables) {
+  for (const TableDraft& table : tables) {
     membership.push_back(Has(table.soft, color));
     membership.push_back(Has(table.hard, color));
   }
   return membership;
 }
 
-std::vector<bool> AnswersOf(const std::vector<int>& faces, const std::vector<SpecTable>& tables) {
+std::vector<bool> AnswersOf(const std::vector<int>& faces, const std::vector<TableDraft>& tables) {
   std::vector<bool> answers;
-  for (const SpecTable& table : tables) {
+  for (const TableDraft& table : tables) {
     answers.push_back(HasAny(table.profile, faces));
     answers.push_back(HasAny(table.wireCutting, faces));
   }
@@ -77,10 +77,10 @@ std::vector<bool> AnswersOf(const std::vector<int>& faces, const std::vector<Spe
 }
 
 /// The rows of a table that plates of this colour and these faces get to show their sizes.
-std::uint64_t RowsFor(const SpecTable& table, int color, const std::vector<int>& faces) {
+std::uint64_t RowsFor(const TableDraft& table, int color, const std::vector<int>& faces) {
   std::uint64_t rows = 0;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    const SpecRow& row = table.rows[i];
+    const RowDraft& row = table.rows[i];
     const std::vector<int>& accepted = row.isSoft ? table.soft : table.hard;
     const bool fits = (accepted.empty() || Has(accepted, color)) &&
                       HasAny(table.profile, faces) == row.hasProfile &&
@@ -117,12 +117,12 @@ OracleRange RangeOf(const std::string& cell) {
           std::strtod(cell.substr(separator + 1).c_str(), nullptr)};
 }
 
-RuleOracle::RuleOracle(std::vector<SpecTable> tables) : tables_(std::move(tables)) {
+RuleOracle::RuleOracle(std::vector<TableDraft> tables) : tables_(std::move(tables)) {
   for (std::size_t size = 0; size < kSizes; ++size) {
     Axis& axis = axes_[size];
     for (std::size_t table = 0; table < tables_.size(); ++table) {
       axis.ranges.resize(table * kSecondTable);
-      for (const SpecRow& row : tables_[table].rows) axis.ranges.push_back(RangeOf(row.ranges[size]));
+      for (const RowDraft& row : tables_[table].rows) axis.ranges.push_back(RangeOf(row.ranges[size]));
     }
     for (const OracleRange& range : axis.ranges) {
       AddPoints(range.minimum, axis.points);

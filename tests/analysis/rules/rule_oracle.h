@@ -5,12 +5,12 @@
 // analysis.
 
 #include <array>
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -28,7 +28,7 @@ struct OracleBits {
   bool Has(std::size_t bit) const { return (words[bit / 64] >> bit % 64 & 1U) != 0; }
   void Add(std::size_t bit) { words[bit / 64] |= std::uint64_t{1} << bit % 64; }
   std::size_t Count() const;
-  auto operator<=>(const OracleBits&) const = default;
+  bool operator==(const OracleBits&) const = default;
 };
 
 /// What plates of some sizes and one group meet. Rows of a second table are those from bit 32 on.
@@ -36,7 +36,10 @@ struct OracleCell {
   std::uint64_t rows = 0;  ///< Those that accept them.
   OracleBits boxes;        ///< The given boxes that hold them.
   bool isPlate = true;     ///< Length, width and thickness are above 0.
-  auto operator<=>(const OracleCell&) const = default;
+  bool operator==(const OracleCell&) const = default;
+  bool operator<(const OracleCell& other) const {
+    return std::tie(rows, boxes.words, isPlate) < std::tie(other.rows, other.boxes.words, other.isPlate);
+  }
 };
 
 struct OracleGroup {
@@ -56,7 +59,7 @@ OracleRange RangeOf(const std::string& cell);
 
 class RuleOracle {
  public:
-  explicit RuleOracle(std::vector<SpecTable> tables);
+  explicit RuleOracle(std::vector<TableDraft> tables);
 
   const std::vector<OracleGroup>& Groups() const { return groups_; }
 
@@ -77,7 +80,7 @@ class RuleOracle {
   void AddGroups();
   std::vector<OracleCell> CellsOf(std::size_t size, const std::vector<OracleBox>& boxes) const;
 
-  std::vector<SpecTable> tables_;
+  std::vector<TableDraft> tables_;
   std::vector<OracleGroup> groups_;
   std::array<Axis, kSizes> axes_;
   std::vector<OracleCell> plates_;

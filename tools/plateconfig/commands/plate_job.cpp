@@ -10,27 +10,21 @@
 #include "plateconfig/commands/options.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/tables/table_check.h"
+#include "plateconfig/tables/reported_table.h"
 
 namespace plateconfig {
 namespace {
-
-void Check(Role role, const TableFile& file, const std::string& consequence, Reporter& reporter) {
-  CheckTable(file, SchemaOf(role), {consequence, consequence}, reporter);
-}
 
 std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
   Configuration configuration(job.configuration, context.reporter);
   const auto rules = configuration.Find(Role::kProcessRules);
   const auto settings = configuration.Find(Role::kProcessSettings);
   if (!rules || !settings) return std::nullopt;
-  const std::string noRows = Say("the library then has no rule rows and every process text is empty",
-                                 "库因此没有任何规则行，所有工艺文本都为空");
-  const std::string noText = Say("the library then joins the processes with nothing between them",
-                                 "库因此在各工艺之间不加任何连接符号");
-  Check(Role::kProcessRules, *rules, noRows, context.reporter);
-  Check(Role::kProcessSettings, *settings, noText, context.reporter);
-  return LoadRuleTables(rules->hostPath, settings->hostPath);
+  const GivenTable givenRules = GivenFrom(Role::kProcessRules, *rules);
+  const GivenTable givenSettings = GivenFrom(Role::kProcessSettings, *settings);
+  ReportTable(givenRules, context.reporter);
+  ReportTable(givenSettings, context.reporter);
+  return LoadRuleTables(ReaderOf(givenRules), ReaderOf(givenSettings));
 }
 
 class PlateLoop {

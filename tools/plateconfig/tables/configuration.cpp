@@ -1,9 +1,11 @@
 #include "plateconfig/tables/configuration.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
-#include "analysis/text/shown_text.h"
+#include "analysis/text/position_counter.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
 #include "plateconfig/input/json_node.h"
@@ -28,11 +30,47 @@ std::string_view WithoutByteOrderMark(std::string_view utf8) {
   return utf8.starts_with(kMark) ? utf8.substr(kMark.size()) : utf8;
 }
 
-std::string UnknownRole(const std::string& name) {
+Finding UnknownRole(const std::string& name, const Place& place) {
   const std::vector<std::string_view> known = NamesOf(ManifestRoles());
+  Finding finding{"manifest-role-unknown", place};
+  finding.text = name;
   const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
-  return Say("\"{}\" is no role and is ignored", "“{}”不是角色，已忽略", ShownText(name)) +
-         DidYouMean(similar);
+  if (!similar.empty()) finding.fix = similar;
+  return finding;
+}
+
+/// A path that begins at a root: of a drive, of a server, of the file system.
+bool IsAbsolute(std::string_view path) {
+  return path.starts_with('/') || path.starts_with('\\') || (path.size() > 1 && path[1] == ':');
+}
+
+struct FullWidth {
+  std::string_view character;
+  std::string_view half;
+};
+
+/// What a Chinese keyboard writes between the texts of a manifest.
+constexpr FullWidth kFullWidth[] = {{"\u201C", "\""}, {"\u201D", "\""}, {"\uFF1A", ":"}, {"\uFF0C", ","},
+                                    {"\uFF5B", "{"},  {"\uFF5D", "}"},  {"\u3001", ","}};
+
+/// The first full-width sign outside of the texts, of a manifest that is no JSON.
+std::optional<Finding> FullWidthSign(std::string_view text, const std::string& file) {
+  PositionCounter counter;
+  bool isInText = false;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto sign = std::find_if(std::begin(kFullWidth), std::end(kFullWidth), [&](const FullWidth& each) {
+      return text.substr(at).starts_with(each.character);
+    });
+    if (!isInText && sign != std::end(kFullWidth)) {
+      Finding finding{"manifest-full-width", PlaceIn(file, counter.At())};
+      finding.text = std::string(sign->character);
+      finding.fix = std::string(sign->half);
+      return finding;
+    }
+    if (text[at] == '"' || text[at] == '\n') isInText = text[at] == '"' && !isInText;
+    counter.Take(text[at]);
+  }
+  return std::nullopt;
 }
 
 bool EndsWithSeparator(const std::string& path) {
@@ -81,6 +119,11 @@ std::optional<TableFile> Configuration::NamedTable(Role role) {
   return InFolder(named->second);
 }
 
+const std::string& Configuration::FolderName() {
+  NamedTable(Role::kIndex);
+  return folder_.shownAs;
+}
+
 bool Configuration::FindFolder() {
   if (!options_.folder.empty()) {
     folder_ = FromCommandLine(EndsWithSeparator(options_.folder) ? options_.folder : options_.folder + "/");
@@ -105,28 +148,20 @@ std::optional<TableFile> Configuration::InFolder(const std::string& name) const 
 void Configuration::ReadManifest() {
   const TableFile manifest = *InFolder(kManifestName);
   const std::optional<FileBytes> bytes = ReadWholeFile(manifest.hostPath);
-  if (!bytes && !FileExists(folder_.hostPath)) {
-    reporter_.Error({folder_.shownAs}, Say("this configuration folder does not exist", "此配置文件夹不存在"));
-    return;
-  }
-  if (!bytes) {
-    reporter_.Error({manifest.shownAs},
-                    Say("this manifest, which says what file plays which role, can not be read",
-                        "无法读取此清单（它说明各个文件的角色）"));
-    return;
-  }
-  if (!IsValidUtf8(bytes->View())) {
-    reporter_.Error({manifest.shownAs},
-                    Say("this manifest is not UTF-8; save it as UTF-8", "此清单不是 UTF-8；请存为 UTF-8"));
-    return;
-  }
+  if (!bytes && !FileExists(folder_.hostPath))
+    return reporter_.Report({"config-folder-missing", {folder_.shownAs}});
+  if (!bytes) return reporter_.Report({"manifest-unreadable", {manifest.shownAs}});
+  if (!IsValidUtf8(bytes->View())) return reporter_.Report({"manifest-encoding", {manifest.shownAs}});
+  const std::string_view text = WithoutByteOrderMark(bytes->View());
   JsonNode root;
-  if (!ParseJson(WithoutByteOrderMark(bytes->View()), {manifest.shownAs, 1, 1}, reporter_, root)) return;
-  if (root.kind != JsonNode::Kind::kObject) {
-    reporter_.Error(PlaceIn(manifest.shownAs, root.position),
-                    Say("the manifest should be an object {{ role: file name, … }}",
-                        "清单应当是一个对象 {{ 角色: 文件名, … }}"));
+  if (!ParseJson(text, {manifest.shownAs, 1, 1}, reporter_, root)) {
+    if (const auto sign = FullWidthSign(text, manifest.shownAs)) reporter_.Report(*sign);
     return;
+  }
+  if (root.kind != JsonNode::Kind::kObject) {
+    Finding finding{"manifest-no-object", PlaceIn(manifest.shownAs, root.position)};
+    finding.words = {{"{ role: file name, … }", "{ 角色: 文件名, … }"}};
+    return reporter_.Report(finding);
   }
   isUsable_ = true;
   JsonValues(manifest.shownAs, reporter_)
@@ -137,14 +172,30 @@ void Configuration::ReadManifest() {
 void Configuration::ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest) {
   const Place place = PlaceIn(manifest.shownAs, file.position);
   const auto role = FindRole(name, ManifestRoles());
-  if (!role) {
-    reporter_.Warning(place, UnknownRole(name));
-  } else if (file.kind != JsonNode::Kind::kString) {
-    reporter_.Error(place, Say("the file of the role {} should be a text in quotes",
-                               "角色 {} 的文件名应当是带引号的文本", name));
-  } else {
-    manifest_[*role] = file.text;
+  if (!role) return reporter_.Report(UnknownRole(name, place));
+  if (file.kind != JsonNode::Kind::kString) {
+    Finding finding{"manifest-file-kind", place};
+    finding.text = name;
+    return reporter_.Report(finding);
   }
+  CheckName(file.text, place);
+  manifest_[*role] = file.text;
+}
+
+/// Names are relative to the folder, and each file plays one role.
+void Configuration::CheckName(const std::string& name, const Place& place) {
+  const auto other = std::find_if(manifest_.begin(), manifest_.end(),
+                                  [&](const auto& entry) { return entry.second == name; });
+  if (other != manifest_.end()) {
+    Finding finding{"manifest-file-twice", place};
+    finding.text = name;
+    finding.words = {std::string(NameOf(other->first))};
+    reporter_.Report(finding);
+  }
+  if (!IsAbsolute(name)) return;
+  Finding finding{"manifest-absolute-path", place};
+  finding.text = name;
+  reporter_.Report(finding);
 }
 
 }  // namespace plateconfig

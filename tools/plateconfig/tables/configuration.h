@@ -41,12 +41,16 @@ class Configuration {
   /// The same without an error for a role that the manifest does not name.
   std::optional<TableFile> FindOptional(Role role);
 
+  /// The folder and the roles that its manifest names; looked for when nobody asked for a table yet.
+  const std::string& FolderName();
+
  private:
   std::optional<TableFile> NamedTable(Role role);
   std::optional<TableFile> ReadableAgain(const TableFile& table);
   bool FindFolder();
   void ReadManifest();
   void ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest);
+  void CheckName(const std::string& name, const Place& place);
   std::optional<TableFile> InFolder(const std::string& name) const;
 
   const ConfigurationOptions& options_;

@@ -3,25 +3,12 @@
 #include <exception>
 #include <string>
 
-#include "plateconfig/messages/language.h"
-#include "plateconfig/tables/table_check.h"
+#include "plateconfig/tables/reported_table.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
-
-/// Of a table that is there, whatever else is wrong with it: only a missing one is an exception.
-std::string Consequence(WhenUnreadable whenUnreadable) {
-  switch (whenUnreadable) {
-    case WhenUnreadable::kChangesNothing:
-      return Say("the settings stay as the library's classes start", "各设置保持库中类的初始值");
-    case WhenUnreadable::kThrowsIfMissing:
-    case WhenUnreadable::kCountsAsEmpty:
-      break;
-  }
-  return Say("every setting gets the value of an absent column", "各设置取缺列时的值");
-}
 
 bool IsException(Role role, const TableFile& file) {
   return RowOf(role).whenUnreadable == WhenUnreadable::kThrowsIfMissing && !FileExists(file.hostPath);
@@ -43,10 +30,7 @@ std::vector<Setting> WithoutTable(Role role, const TableFile& file, Reporter& re
 std::vector<Setting> ReportedSettings(Role role, const std::optional<TableFile>& file, Reporter& reporter) {
   if (!file) return SettingsOf(role, std::nullopt);
   if (IsException(role, *file)) return WithoutTable(role, *file, reporter);
-  // A table that is there counts as read, whatever it lacks.
-  CheckTable(*file, SchemaOf(role),
-             {Consequence(RowOf(role).whenUnreadable), Consequence(WhenUnreadable::kCountsAsEmpty)},
-             reporter);
+  ReportTable(GivenFrom(role, *file), reporter);
   return SettingsOf(role, file->hostPath);
 }
 

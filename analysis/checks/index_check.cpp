@@ -1,0 +1,98 @@
+#include "analysis/checks/index_check.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "analysis/checks/cell_check.h"
+#include "analysis/checks/table_check.h"
+#include "analysis/text/folded_name.h"
+#include "analysis/text/table_text.h"
+#include "text/gbk.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr Words kConfigItself = {"the folder config itself is active", "因此 config 文件夹本身有效"};
+
+class IndexCheck {
+ public:
+  IndexCheck(const ConfigurationIndex& index, const GivenTable& given, const Raise& raise)
+      : index_(index), given_(given), raise_(raise) {}
+
+  void Run() {
+    if (!index_.exists) return RaiseWhole("index-missing", {kConfigItself});
+    if (!index_.isReadable) return RaiseWhole("index-unreadable", {kConfigItself});
+    if (!index_.hasRows) return RaiseNoRows();
+    CheckRows();
+    const auto active = std::count_if(index_.rows.begin(), index_.rows.end(),
+                                      [](const IndexRow& row) { return row.isActive; });
+    if (active == 0) RaiseWhole("index-none-active", {kConfigItself});
+    if (active > 1) RaiseWhole("index-many-active", {std::to_string(active)});
+  }
+
+ private:
+  void RaiseWhole(Code code, std::vector<Word> words) {
+    Finding finding{code, {given_.name}};
+    finding.words = std::move(words);
+    raise_(finding);
+  }
+
+  void RaiseNoRows() {
+    RaiseWhole("index-no-rows", {GbkToUtf8(kIndexFolderColumn), GbkToUtf8(kIndexFlagColumn), kConfigItself});
+    CheckHeader(given_, raise_);
+  }
+
+  void CheckRows() {
+    if (!given_.table) return;
+    const TableText table(given_.name, *given_.table);
+    const auto folder = given_.table->FindColumn(kIndexFolderColumn);
+    const auto flag = given_.table->FindColumn(kIndexFlagColumn);
+    for (std::size_t i = 0; folder && flag && i < index_.rows.size(); ++i)
+      CheckRow(table, index_.rows[i], i + 1, *folder, *flag);
+  }
+
+  void CheckRow(const TableText& table, const IndexRow& row, std::size_t at, std::size_t folder,
+                std::size_t flag) {
+    const bool isYes = row.flag == "Y" || row.flag == "y";
+    const bool isNo = row.flag.empty() || row.flag == "N" || row.flag == "n";
+    if (!isYes && !isNo) RaiseFlag(CellFinding("index-flag", table, at, flag));
+    if (isYes && row.folderName.empty()) raise_(CellFinding("index-folder-empty", table, at, folder));
+    if (row.isActive && IsOdd(GbkToUtf8(row.folderName)))
+      raise_(CellFinding("index-folder-odd", table, at, folder));
+  }
+
+  void RaiseFlag(Finding finding) {
+    const std::string folded = FoldedName(*finding.text);
+    if (folded == "y" || folded == "是" || folded == "yes") finding.fix = "Y";
+    finding.usedAs = "N";
+    raise_(finding);
+  }
+
+  static bool IsOdd(std::string_view name) {
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    return name == "." || name.find("..") != std::string_view::npos ||
+           name.find_first_of("/\\:*?\"<>|") != std::string_view::npos || isBlank(name.front()) ||
+           isBlank(name.back()) || name.starts_with("\u3000") || name.ends_with("\u3000");
+  }
+
+  const ConfigurationIndex& index_;
+  const GivenTable& given_;
+  const Raise& raise_;
+};
+
+bool EndsInConfig(std::string_view root) {
+  while (root.ends_with('/') || root.ends_with('\\')) root.remove_suffix(1);
+  const std::size_t separator = root.find_last_of("/\\");
+  return FoldedName(root.substr(separator == std::string_view::npos ? 0 : separator + 1)) == "config";
+}
+
+}  // namespace
+
+void CheckIndex(const ConfigurationIndex& index, const GivenTable& given, const IndexNames& names,
+                const Raise& raise) {
+  IndexCheck(index, given, raise).Run();
+  if (EndsInConfig(names.root)) raise({"root-ends-in-config", {"TQConfig"}});
+  if (!names.activeFolderExists) raise({"index-folder-missing", {names.activeFolder}});
+}
+
+}  // namespace plateconfig

@@ -1,0 +1,74 @@
+#include "analysis/checks/table_check.h"
+
+#include <string>
+
+#include "analysis/checks/cell_check.h"
+#include "analysis/checks/column_check.h"
+#include "analysis/checks/file_check.h"
+#include "analysis/checks/process_check.h"
+#include "analysis/checks/row_check.h"
+#include "analysis/schema/table_schema.h"
+
+namespace plateconfig {
+namespace {
+
+constexpr Words kAbsentColumns = {"every setting gets the value of an absent column", "各设置取缺列时的值"};
+constexpr Words kClassStart = {"the settings stay as the library's classes start",
+                               "各设置保持库中类的初始值"};
+constexpr Words kException = {"the drawing tool gets an exception", "绘图工具会收到异常"};
+constexpr Words kNoRuleRows = {"the library then has no rule rows and every process text is empty",
+                               "库因此没有任何规则行，所有工艺文本都为空"};
+constexpr Words kNoConnector = {"the library then joins the processes with nothing between them",
+                                "库因此在各工艺之间不加任何连接符号"};
+
+Consequences ConsequencesOf(const GivenTable& given) {
+  if (given.role == Role::kProcessRules) return {kNoRuleRows, kNoRuleRows};
+  if (given.role == Role::kProcessSettings) return {kNoConnector, kNoConnector};
+  switch (RowOf(given.role).whenUnreadable) {
+    case WhenUnreadable::kChangesNothing:
+      return {kClassStart, kAbsentColumns};
+    case WhenUnreadable::kThrowsIfMissing:
+      return {given.exists ? kAbsentColumns : kException, kAbsentColumns};
+    case WhenUnreadable::kCountsAsEmpty:
+      break;
+  }
+  return {kAbsentColumns, kAbsentColumns};
+}
+
+/// True when names can be looked for in the table.
+bool CheckFile(const GivenTable& given, const TableText& text, const Raise& raise) {
+  const auto names = ReadColumns(SchemaOf(given.role), *given.table);
+  const auto isColumn = [&](std::string_view name) { return names.contains(std::string(name)); };
+  return CheckFile(text, isColumn, ConsequencesOf(given), raise);
+}
+
+RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const RuleAnalysis& analysis,
+                           const Raise& raise) {
+  const RuleTables tables = LoadRuleTables(ReaderOf(given), ReadConfigFile());
+  CheckParameters(text, tables, raise);
+  CheckProcesses(text, raise);
+  CheckRuleRows(text, raise);
+  return AnalyseRules(text, tables, analysis, raise);
+}
+
+}  // namespace
+
+RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise) {
+  if (!given.table) {
+    RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
+    return {};
+  }
+  const TableText text(given.name, *given.table);
+  if (!CheckFile(given, text, raise)) return {};
+  CheckColumns(text, SchemaOf(given.role), raise);
+  CheckCells(text, SchemaOf(given.role), raise);
+  return given.role == Role::kProcessRules ? CheckRules(given, text, analysis, raise) : RuleAnalysisEnd();
+}
+
+void CheckHeader(const GivenTable& given, const Raise& raise) {
+  if (!given.table || given.table->ColumnCount() == 0) return;
+  const TableText text(given.name, *given.table);
+  if (CheckFile(given, text, raise)) CheckColumns(text, SchemaOf(given.role), raise);
+}
+
+}  // namespace plateconfig

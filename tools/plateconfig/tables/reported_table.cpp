@@ -1,0 +1,27 @@
+#include "plateconfig/tables/reported_table.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "analysis/checks/configuration_check.h"
+#include "platform/file.h"
+
+namespace plateconfig {
+
+GivenTable GivenFrom(Role role, const TableFile& file) {
+  GivenTable given{role, file.shownAs, FileExists(file.hostPath), nullptr};
+  if (std::optional<Table> table = given.exists ? Table::Read(file.hostPath) : std::nullopt)
+    given.table = std::make_shared<const Table>(std::move(*table));
+  return given;
+}
+
+void ReportTable(const GivenTable& given, Reporter& reporter) {
+  CheckOptions options;
+  options.wants = [](const CodeRow& row) {
+    return row.habit == Habit::kOn && row.severity != Severity::kHint;
+  };
+  for (const Finding& finding : FindingsOf(given, options)) reporter.Report(finding);
+}
+
+}  // namespace plateconfig

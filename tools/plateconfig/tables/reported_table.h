@@ -1,0 +1,19 @@
+#pragma once
+
+// The check of a table, with its findings on the error stream: what every verb that reads tables says of
+// them, because the library says nothing.
+
+#include "analysis/checks/given_table.h"
+#include "plateconfig/messages/reporter.h"
+#include "plateconfig/tables/configuration.h"
+
+namespace plateconfig {
+
+/// The file as a check takes it.
+GivenTable GivenFrom(Role role, const TableFile& file);
+
+/// Reports what is wrong with the table, errors and warnings in the order of the file. Hints are for who asks
+/// for a check.
+void ReportTable(const GivenTable& given, Reporter& reporter);
+
+}  // namespace plateconfig
