@@ -63,7 +63,8 @@ void ReadOrigin(const JsonNode& node, JsonValues& values, SegmentInput& row) {
 }
 
 /// One group's segments in JSON.
-Field<HoleInput> SegmentsField(std::size_t group, std::shared_ptr<const RecordKind<SegmentInput>> segment) {
+Field<HoleInput> SegmentsField(std::size_t group,
+                               const std::shared_ptr<const RecordKind<SegmentInput>>& segment) {
   const auto read = [group, segment](const JsonNode& node, JsonValues& values, HoleInput& hole) {
     if (!values.IsArray(node)) return;
     for (const JsonNode& item : node.items) {

@@ -116,18 +116,18 @@ class CsvRecords : public RecordReader<Record> {
       if (text.empty() && field->need == Need::kOptional) continue;
       if (auto mistake = field->fromCell(text, row.record)) {
         row.isGood = false;
-        Refuse(cells, column, std::move(*mistake));
+        Refuse(cells, column, *mistake);
       }
     }
   }
 
-  void Refuse(const CsvRow& cells, std::size_t column, CellMistake mistake) {
+  void Refuse(const CsvRow& cells, std::size_t column, const CellMistake& mistake) {
     const CsvCell& cell = cells.cells[std::min(column, cells.cells.size() - 1)];
     reporter_.Report({.code = mistake.code,
                       .place = PlaceIn(file_, cell.position),
                       .cell = CellName(column, cells.number),
                       .columnName = std::string(columns_[column]->names.column),
-                      .text = std::move(mistake.text),
+                      .text = mistake.text,
                       .words = {kind_.whenCellIsRefused}});
   }
 
