@@ -24,7 +24,7 @@ std::optional<std::string> PipeCopies::CopyOf(const std::string& hostPath) {
   // All of it before there is anything to take away: whoever waits for a pipe may well stop the command.
   const std::optional<FileBytes> bytes = ReadWholeFile(hostPath);
   if (!bytes) return hostPath;
-  const std::optional<std::string> copy = Write(bytes->View());
+  std::optional<std::string> copy = Write(bytes->View());
   if (copy) copies_[hostPath] = *copy;
   return copy;
 }
