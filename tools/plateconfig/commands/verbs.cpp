@@ -3,13 +3,14 @@
 namespace plateconfig {
 
 // Each in a file of its own: folder_command.cpp and so on.
-AddOptions FolderOptions, ProcessOptions, ExplainOptions, HolesOptions, ShowOptions, SchemaOptions,
-    TemplateOptions;
+AddOptions FolderOptions, CheckVerbOptions, ProcessOptions, ExplainOptions, HolesOptions, ShowOptions,
+    SchemaOptions, TemplateOptions;
 
 std::span<const Verb> Verbs() {
   static constexpr Verb kVerbs[] = {
       {"folder", "print the active configuration folder that TQConfig leads to, and why",
        "显示 TQConfig 所指的有效配置文件夹及其由来", FolderOptions},
+      {"check", "find every mistake in the tables of a configuration", "找出配置各表中的所有错误", CheckVerbOptions},
       {"process", "print the manufacturing-process text of each plate", "输出每块板的制造工艺文本",
        ProcessOptions},
       {"explain", "tell for each plate which rule row fits, and why none before it does",

@@ -16,6 +16,7 @@ void Reporter::Warning(const Place& place, const std::string& text) {
 }
 
 void Reporter::Report(const Finding& finding) {
+  if (collected_ != nullptr) return collected_->push_back(finding);
   const Severity severity = finding.code.Row().severity;
   hasErrors_ = hasErrors_ || severity == Severity::kError;
   hasFindings_ = hasFindings_ || severity == Severity::kWarning;

@@ -8,6 +8,7 @@
 #include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "analysis/findings/finding.h"
 #include "analysis/text/place.h"
@@ -30,6 +31,9 @@ class Reporter {
   /// A result that the user should look at, already shown in the output.
   void CountFinding() { hasFindings_ = true; }
 
+  /// From now on findings go there, instead of onto the stream, and do not count; null ends it.
+  void CollectInto(std::vector<Finding>* findings) { collected_ = findings; }
+
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
   void BeforeMessage(std::function<void()> prepare) { prepare_ = std::move(prepare); }
@@ -40,6 +44,7 @@ class Reporter {
   void Write(const Place& place, std::string_view severity, const std::string& text);
 
   std::ostream& err_;
+  std::vector<Finding>* collected_ = nullptr;
   std::function<void()> prepare_;
   bool hasErrors_ = false;
   bool hasFindings_ = false;

@@ -41,8 +41,10 @@ class Configuration {
   /// The same without an error for a role that the manifest does not name.
   std::optional<TableFile> FindOptional(Role role);
 
-  /// The folder and the roles that its manifest names; looked for when nobody asked for a table yet.
+  /// The folder, UTF-8, with a separator at its end; empty when there is none.
   const std::string& FolderName();
+  /// Whether the manifest could be read.
+  bool IsUsable() const { return isUsable_; }
 
  private:
   std::optional<TableFile> NamedTable(Role role);

@@ -1,0 +1,202 @@
+// Every code of a table has a table that raises it and one, as like as possible, that does not.
+
+#include <gmock/gmock.h>
+
+#include <map>
+#include <set>
+
+#include "analysis/checks/given_tables.h"
+
+namespace plateconfig {
+namespace {
+
+using ::testing::Contains;
+using ::testing::Not;
+
+struct Fixture {
+  std::string code;
+  Role role;
+  std::string bad;
+  std::string good;
+};
+
+const std::string kRuleHeader =
+    "通用要求,通用参数,排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,长度范围,宽度范围,厚度范围,"
+    "重量范围,"
+    "有无型面,有无线割,材质要求,下料,钻孔\n";
+
+/// A rule table in which row 2 lists 下料, row 3 钻孔, with these two rule rows.
+std::string Rules(const std::string& first, const std::string& second) {
+  return kRuleHeader + "软料（体颜色）,12,下料,自定义追加工艺,," + first +
+         "\n硬料（体颜色）,42,钻孔,圆孔颜色,36," + second +
+         "\n有型面,190,,,,,,,,,,,,,\n有线割,103,,,,,,,,,,,,,\n";
+}
+
+const std::string kFirst = "12,100_200,,,,无型面,无线割,软料（体颜色）,锯,钻";
+const std::string kSecond = "12,300_400,,,,无型面,无线割,软料（体颜色）,铣,钻";
+const std::string kGood = Rules(kFirst, kSecond);
+
+/// The good rule table with one text replaced.
+std::string With(const std::string& before, const std::string& after) {
+  std::string table = kGood;
+  const std::size_t at = table.find(before);
+  EXPECT_NE(at, std::string::npos) << before;
+  return table.replace(at, before.size(), after);
+}
+
+std::vector<Fixture> RuleFixtures() {
+  const Role rules = Role::kProcessRules;
+  return {
+      {"column-misspelled", rules, With("长度范围", "长度笵围"), kGood},
+      {"column-unknown", rules, With("材质要求", "甲乙丙丁"), kGood},
+      {"column-second", rules, With("钻孔\n", "钻孔,钻孔\n"), kGood},
+      {"column-absent", rules, With("材质要求", ""), kGood},
+      {"cell-not-range", rules, With("100_200", "100-200"), kGood},
+      {"range-reversed", rules, With("100_200", "200_100"), kGood},
+      {"cell-not-integers", rules, With("190", "19O"), kGood},
+      {"cell-not-numbers", rules, With("颜色,36", "颜色,3b"), kGood},
+      {"color-out-of-range", rules, With("190", "217"), With("190", "216")},
+      {"layer-out-of-range", rules, With("12,100_200", "257,100_200"), With("12,100_200", "256,100_200")},
+      {"condition-unknown", rules, With("圆孔颜色", "园孔颜色"), kGood},
+      {"condition-empty", rules, With("圆孔颜色,36", ","), kGood},
+      {"condition-without-parameter", rules, With("圆孔颜色,36", "圆孔颜色,"), kGood},
+      {"condition-parameter-unused", rules, With("自定义追加工艺,", "自定义追加工艺,5"), kGood},
+      {"process-twice", rules, With("42,钻孔", "42,下料"), kGood},
+      {"process-without-column", rules, With("42,钻孔", "42,镗孔"), kGood},
+      {"process-without-name", rules, With("42,钻孔", "42,"), kGood},
+      {"process-not-listed", rules, With("42,钻孔,圆孔颜色,36", "42,,,"), kGood},
+      {"process-list-empty", rules, "模板所在图层,长度范围\n12,100_200\n", kGood},
+      {"parameter-unknown", rules, With("软料（体颜色）,12", "软料,12"), kGood},
+      {"parameter-missing", rules, With("软料（体颜色）,12", ",12"), kGood},
+      {"parameter-twice", rules, With("有线割,103", "有型面,103"), kGood},
+      {"parameter-without-value", rules, With("有线割,103", "有线割,"), kGood},
+      {"parameter-without-name", rules, With("有线割,103", ",103"), kGood},
+      {"color-soft-and-hard", rules, With("硬料（体颜色）,42", "硬料（体颜色）,12"), kGood},
+      {"layer-empty", rules, With("12,300_400", ",300_400"), kGood},
+      {"wish-unknown", rules, With("无型面,无线割,软料（体颜色）,铣", "Y,无线割,软料（体颜色）,铣"), kGood},
+      {"material-unknown", rules, With("软料（体颜色）,铣", "软料,铣"), kGood},
+      {"text-blank", rules, With("铣,钻", "铣,钻 "), kGood},
+      {"row-never-matches", rules, With("100_200", "200_100"), kGood},
+      {"row-shadowed", rules, With("300_400", "110_120"), kGood},
+      {"row-no-text", rules, With("铣,钻", ","), kGood},
+      {"row-shared-bound", rules, With("300_400", "200_400"), kGood},
+      {"rows-mergeable", rules, Rules(kFirst, "12,200_400,,,,无型面,无线割,软料（体颜色）,锯,钻"), kGood},
+      {"gap", rules, kGood, With("300_400", "200_400")},
+  };
+}
+
+/// Eight rule rows that say it in words, and a ninth.
+std::string ManyRows(const std::string& ninth) {
+  std::string table = kRuleHeader;
+  for (int i = 0; i < 8; ++i)
+    table += ",,,,,12," + std::to_string(i * 10) + "_" + std::to_string(i * 10 + 9) +
+             ",10_20,,,无型面,无线割,软料（体颜色）,锯床下料,\n";
+  return table + ",,下料,自定义追加工艺,,12," + ninth + "\n";
+}
+
+std::vector<Fixture> RowFixtures() {
+  const Role rules = Role::kProcessRules;
+  const std::string good = ManyRows("90_99,10_20,,,无型面,无线割,软料（体颜色）,锯床下料,");
+  return {
+      {"range-empty", rules, ManyRows("90_99,,,,无型面,无线割,软料（体颜色）,锯床下料,"), good},
+      {"wish-empty", rules, ManyRows("90_99,10_20,,,,无线割,软料（体颜色）,锯床下料,"), good},
+      {"material-empty", rules, ManyRows("90_99,10_20,,,无型面,无线割,,锯床下料,"), good},
+      {"text-look-alike", rules, ManyRows("90_99,10_20,,,无型面,无线割,软料（体颜色）,锯床下枓,"), good},
+  };
+}
+
+std::vector<Fixture> SettingFixtures() {
+  const std::string style = "chinesef_fs|3.5|0.7|0.5|0.5|1";
+  return {
+      {"cell-not-number", Role::kBom, "密度(g/cm)\n7.8o\n", "密度(g/cm)\n7.80\n"},
+      {"cell-out-of-range", Role::kBom, "密度(g/cm)\n1e999\n", "密度(g/cm)\n1e99\n"},
+      {"cell-not-integer", Role::kProcessSettings, "制造流程CAD图层\n20l\n", "制造流程CAD图层\n201\n"},
+      {"cell-integer-out-of-range", Role::kSystemSettings, "CAD打开方式\n9999999999\n", "CAD打开方式\n1\n"},
+      {"cell-not-flag", Role::kProcessSettings, "输出行号\n是\n", "输出行号\nY\n"},
+      {"cell-flag-letter", Role::kProcessSettings, "输出行号\ny\n", "输出行号\nY\n"},
+      {"cell-not-style", Role::kFrameInfo,
+       "图框信息-属性名称,图框信息-注解样式\nA,chinesef_fs|3.5|0.7|0.5|0.5\n",
+       "图框信息-属性名称,图框信息-注解样式\nA," + style + "\n"},
+      {"cell-reads-as-zero", Role::kTriangleSymbol, "三角符号-颜色,三角符号-图层\n,200\n",
+       "三角符号-颜色,三角符号-图层\n78,200\n"},
+      {"cell-empty-text", Role::kTexts, "代号文字,加工说明文字\n代号,\n",
+       "代号文字,加工说明文字\n代号,说明\n"},
+      {"cell-below-first-row", Role::kBom, "密度(g/cm),备注\n7.85,\n7.9,x\n", "密度(g/cm),备注\n7.85,\n,x\n"},
+      {"list-value-ignored", Role::kLayers, "模板图层\n0\n", "模板图层\n1\n"},
+      {"column-none", Role::kBom, "连接字符\n-\n", "密度(g/cm)\n7\n"},
+      {"quote-open", Role::kBom, "密度(g/cm)\n\"7\n", "密度(g/cm)\n\"7\"\n"},
+      {"quote-swallows", Role::kTexts, "代号文字,加工说明文字\n\"a,b\nc,d\n\"e\",f\n",
+       "代号文字,加工说明文字\na,b\nc,d\n"},
+      {"quote-text-behind", Role::kTexts, "代号文字\n\"a\"b\n", "代号文字\n\"a\"\n"},
+      {"table-empty", Role::kBom, "", "密度(g/cm)\n7\n"},
+      {"table-no-rows", Role::kBom, "密度(g/cm)\n", "密度(g/cm)\n7\n"},
+      {"table-separator", Role::kTexts, "代号文字;加工说明文字\na;b\n", "代号文字,加工说明文字\na,b\n"},
+      {"table-separator-line", Role::kBom, "sep=,\n密度(g/cm)\n7\n", "密度(g/cm)\n7\n"},
+      {"table-title-line", Role::kBom, "材料表\n密度(g/cm)\n7\n", "密度(g/cm)\n7\n"},
+      {"table-line-ends", Role::kBom, "密度(g/cm)\r7\r", "密度(g/cm)\r\n7\r\n"},
+      {"table-workbook", Role::kBom, "PK\x03\x04xx", "密度(g/cm)\n7\n"},
+  };
+}
+
+std::vector<Fixture> AllFixtures() {
+  std::vector<Fixture> all = RuleFixtures();
+  for (const auto& more : {RowFixtures(), SettingFixtures()}) all.insert(all.end(), more.begin(), more.end());
+  return all;
+}
+
+std::vector<std::string> CodesIn(Role role, const std::string& table) {
+  return test::CodesOf(FindingsOf(test::Given(role, table), test::AllCodes()));
+}
+
+TEST(CodeFixtures, EachCodeIsRaisedByItsBadTableAndNotByItsGoodOne) {
+  for (const Fixture& fixture : AllFixtures()) {
+    EXPECT_THAT(CodesIn(fixture.role, fixture.bad), Contains(fixture.code)) << fixture.bad;
+    EXPECT_THAT(CodesIn(fixture.role, fixture.good), Not(Contains(fixture.code))) << fixture.good;
+  }
+}
+
+TEST(CodeFixtures, BytesThatAreNoGbkAreToldWithWhatTheyAre) {
+  const auto codes = [](const std::string& bytes) {
+    return test::CodesOf(FindingsOf(test::GivenBytes(Role::kBom, bytes), test::AllCodes()));
+  };
+  EXPECT_THAT(codes("密度(g/cm)\n7\n"), Contains("table-utf8"));
+  EXPECT_THAT(codes("\xFF\xFE"
+                    "a\0"),
+              Contains("table-utf16"));
+  EXPECT_THAT(codes("\x80\xFF,a\n1,2\n"), Contains("table-not-gbk"));
+  EXPECT_THAT(codes(test::Gbk("密度(g/cm),备注\n7,板") + "\xFF\n"), Contains("character-not-gbk"));
+}
+
+TEST(CodeFixtures, AFileThatIsNotThereOrCanNotBeReadIsOneFinding) {
+  EXPECT_EQ(test::CodesOf(FindingsOf({Role::kBom, "t.csv", false, nullptr}, test::AllCodes())),
+            std::vector<std::string>{"table-missing"});
+  EXPECT_EQ(test::CodesOf(FindingsOf({Role::kBom, "t.csv", true, nullptr}, test::AllCodes())),
+            std::vector<std::string>{"table-unreadable"});
+}
+
+/// Codes whose fixtures stand beside the readers that raise them.
+bool IsOfAnInput(std::string_view code) {
+  const auto begins = [&](std::string_view prefix) { return code.starts_with(prefix); };
+  return begins("input-") || begins("plate-") || begins("hole-") || begins("manifest-") || begins("index-") ||
+         begins("config-") || begins("role-") || begins("root-");
+}
+
+TEST(CodeFixtures, EveryCodeOfATableHasAFixture) {
+  std::set<std::string, std::less<>> covered = {"table-utf8",        "table-utf16",   "table-not-gbk",
+                                                "character-not-gbk", "table-missing", "table-unreadable"};
+  for (const Fixture& fixture : AllFixtures()) covered.insert(fixture.code);
+  for (const CodeRow& row : kCodes) {
+    if (!IsOfAnInput(row.name)) EXPECT_TRUE(covered.contains(row.name)) << row.name;
+  }
+}
+
+TEST(CodeFixtures, EveryCodeOfATableHasAPageInBothLanguages) {
+  for (const CodeRow& row : kCodes) {
+    if (IsOfAnInput(row.name)) continue;
+    EXPECT_FALSE(row.page.english.empty()) << row.name;
+    EXPECT_FALSE(row.page.chinese.empty()) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace plateconfig
