@@ -145,7 +145,7 @@ class CheckRun {
   }
 
   void NoteMissing(const RoleRow& role) {
-    Finding finding{"role-without-file", {configuration_.FolderName()}};
+    Finding finding{"role-without-file", {configuration_.FolderName() + "tables.json"}};
     finding.text = std::string(role.name);
     wayThere_.push_back(finding);
   }
