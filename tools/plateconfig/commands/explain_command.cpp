@@ -2,6 +2,7 @@
 #include <memory>
 #include <optional>
 
+#include "analysis/checks/rule_values.h"
 #include "analysis/rules/explanation.h"
 #include "plateconfig/commands/plate_job.h"
 #include "plateconfig/commands/verbs.h"
@@ -16,19 +17,18 @@ using Json = nlohmann::ordered_json;
 
 struct ConditionName {
   Condition condition;
-  const char* json;
   const char* english;
   const char* chinese;
 };
 
 constexpr ConditionName kConditionNames[] = {
-    {Condition::kLength, "length", "length", "长度"},
-    {Condition::kWidth, "width", "width", "宽度"},
-    {Condition::kHeight, "thickness", "thickness", "厚度"},
-    {Condition::kWeight, "weight", "weight", "重量"},
-    {Condition::kMaterial, "material", "material", "材质"},
-    {Condition::kProfile, "profile", "profile", "型面"},
-    {Condition::kWireCutting, "wireCutting", "wire cutting", "线割"},
+    {Condition::kLength, "length", "长度"},
+    {Condition::kWidth, "width", "宽度"},
+    {Condition::kHeight, "thickness", "厚度"},
+    {Condition::kWeight, "weight", "重量"},
+    {Condition::kMaterial, "material", "材质"},
+    {Condition::kProfile, "profile", "型面"},
+    {Condition::kWireCutting, "wire cutting", "线割"},
 };
 static_assert(std::ranges::equal(kConditionNames, kConditions, {}, &ConditionName::condition));
 
@@ -129,7 +129,7 @@ void WriteText(const PlateInput& input, const ExplanationSink& explanation, cons
 }
 
 Json ToJson(const Refusal& refusal, const Plate& plate) {
-  Json json = {{"condition", NamesOf(refusal.condition).json}};
+  Json json = {{"condition", NameOf(refusal.condition)}};
   if (refusal.IsSize()) {
     json.update({{"minimum", refusal.range.minimum}, {"maximum", refusal.range.maximum}});
     json.update({{"value", refusal.value}, {"missedBy", refusal.Miss()}});

@@ -15,9 +15,6 @@
 
 namespace plateconfig {
 
-/// The column (UTF-8) of the number of holes, which serves both count conditions.
-inline constexpr std::string_view kHoleCountName = "孔数量";
-
 struct Feature {
   ProcessRule::RuleType type;
   std::string processName;  ///< GBK; of a process that is ordered by hand.

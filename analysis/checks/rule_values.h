@@ -1,0 +1,32 @@
+#pragma once
+
+// What the analysis of rule tables finds, as values for programs.
+//
+//   finding.members = {{"box", BoxValue(gap.box)}, {"group", GroupValue(gap.group)},
+//                      {"witness", WitnessValue(gap.witness)}};
+
+#include "analysis/rules/gaps.h"
+#include "analysis/rules/rule_regions.h"
+#include "analysis/text/value.h"
+
+namespace plateconfig {
+
+/// The name of a size, profile, wire-cutting or material condition: `length`, `wireCutting`.
+const char* NameOf(Condition condition);
+
+/// `{"length": [low, high], …}`; an end that is infinite is null.
+Value BoxValue(const Box& box);
+
+/// `{"colors": …, "profile": …, "wireCutting": …}`.
+Value GroupValue(const GroupName& group);
+/// The same; of tables whose answers do not always agree it has those of each.
+Value GroupValue(const RegionGroup& group, bool answersAgree);
+
+/// A plate as plate files in JSON have it: what is 0, empty or unknown is left out where they may leave it
+/// out.
+Value WitnessValue(const Plate& plate, const PlateFeatures& features = {});
+
+/// Column and cell of each pair.
+Value NewRowValue(const NewRow& row);
+
+}  // namespace plateconfig
