@@ -92,7 +92,7 @@ std::string RuleTableText(const std::vector<BenchRow>& rows, int changedRows) {
       "通用要求,通用参数,排工艺顺序,模板所在图层,长度范围,宽度范围,厚度范围,重量范围,有无型面,有无线割,材质要求"_gbk);
   for (int process = 0; process < kProcesses; ++process) text += "," + ProcessName(process);
   const std::string_view parameters[] = {"软料（体颜色）,12_87_130"_gbk, "硬料（体颜色）,42_55_201"_gbk,
-                                    "有型面,186_190"_gbk, "有线割,103_181"_gbk};
+                                         "有型面,186_190"_gbk, "有线割,103_181"_gbk};
   for (std::size_t row = 0; row < rows.size(); ++row) {
     text += "\n";
     text += row < std::size(parameters) ? parameters[row] : ",";

@@ -49,7 +49,8 @@ std::string RepairedNumber(const std::string& utf8) {
   return text;
 }
 
-/// Raises `code` with what the cell counts as, and with the repaired text where that is what the column holds.
+/// Raises `code` with what the cell counts as, and with the repaired text where that is what the column
+/// holds.
 template <typename IsGood>
 void RaiseRepairable(Code code, const CheckedCell& cell, const IsGood& isGood, const Raise& raise) {
   Finding finding = cell.Finds(code);
@@ -62,12 +63,14 @@ void RaiseRepairable(Code code, const CheckedCell& cell, const IsGood& isGood, c
 void CheckNumber(const CheckedCell& cell, const Raise& raise) {
   const auto isGood = [](const std::string& text) { return StrictNumber(text).has_value(); };
   if (isGood(cell.gbk)) return;
-  RaiseRepairable(IsNumberOutOfRange(cell.gbk) ? Code("cell-out-of-range") : Code("cell-not-number"), cell, isGood, raise);
+  RaiseRepairable(IsNumberOutOfRange(cell.gbk) ? Code("cell-out-of-range") : Code("cell-not-number"), cell,
+                  isGood, raise);
 }
 
 /// A number of the host's world that the host does not have.
 void CheckMeaning(const CheckedCell& cell, int number, const Raise& raise) {
-  Finding finding = cell.schema.unit == Unit::kLayer ? cell.Finds("layer-out-of-range") : cell.Finds("color-out-of-range");
+  Finding finding =
+      cell.schema.unit == Unit::kLayer ? cell.Finds("layer-out-of-range") : cell.Finds("color-out-of-range");
   const int last = cell.schema.unit == Unit::kLayer ? kLastLayer : kLastColor;
   const bool hasMeaning = cell.schema.unit == Unit::kLayer || cell.schema.unit == Unit::kColor;
   if (!hasMeaning || (number >= 1 && number <= last)) return;
@@ -81,7 +84,8 @@ bool IsIgnored(const CheckedCell& cell, int number, const Raise& raise) {
   const bool isTaken = isLayer ? number >= 1 && number <= kLastLayer : number != 0;
   if (isTaken || (!isLayer && cell.schema.form != CellForm::kNonZeroIntegers)) return false;
   Finding finding = cell.Finds("list-value-ignored");
-  finding.words = {isLayer ? Word("a number from 1 to 256", "1 到 256 的整数") : Word("a number other than 0", "非 0 的整数")};
+  finding.words = {isLayer ? Word("a number from 1 to 256", "1 到 256 的整数")
+                           : Word("a number other than 0", "非 0 的整数")};
   raise(finding);
   return true;
 }
@@ -94,7 +98,8 @@ void CheckInteger(const CheckedCell& cell, const Raise& raise) {
   }
   if (!IsIntegerOutOfRange(cell.gbk)) return RaiseRepairable("cell-not-integer", cell, isGood, raise);
   Finding finding = cell.Finds("cell-integer-out-of-range");
-  finding.words = {std::to_string(std::numeric_limits<int>::min()), std::to_string(std::numeric_limits<int>::max())};
+  finding.words = {std::to_string(std::numeric_limits<int>::min()),
+                   std::to_string(std::numeric_limits<int>::max())};
   finding.usedAs = UsedAs(cell);
   raise(finding);
 }
@@ -247,7 +252,8 @@ void CheckEmptyFirst(const CheckedCell& cell, const Raise& raise) {
   const Cells taken = cell.schema.taken({cell.gbk});
   if (taken == cell.schema.whenAbsent || taken.empty()) return;
   const std::string absent = cell.schema.whenAbsent.empty() ? "" : GbkToUtf8(cell.schema.whenAbsent.front());
-  Finding finding = cell.schema.type == CellType::kText ? cell.Finds("cell-empty-text") : cell.Finds("cell-reads-as-zero");
+  Finding finding =
+      cell.schema.type == CellType::kText ? cell.Finds("cell-empty-text") : cell.Finds("cell-reads-as-zero");
   finding.usedAs = GbkToUtf8(taken.front());
   finding.words = {absent};
   raise(finding);
@@ -288,7 +294,8 @@ class CellCheck {
 
   void Check(const CheckedCell& cell, bool hasManyRows) {
     if (!cell.gbk.empty()) {
-      // The names of parameters and processes, and the values of other parameters than ours, are looked at elsewhere.
+      // The names of parameters and processes, and the values of other parameters than ours, are looked at
+      // elsewhere.
       if (cell.schema.use == ColumnUse::kValues) CheckFilled(cell, raise_);
     } else if (!hasManyRows) {
       CheckEmptyFirst(cell, raise_);
@@ -316,6 +323,12 @@ Finding CellFinding(Code code, const TableText& table, std::size_t row, std::siz
   finding.columnName = table.ColumnName(column);
   finding.text = table.Text(row, column);
   return finding;
+}
+
+void CheckCell(const TableText& table, const ColumnSchema& schema, std::size_t row, std::size_t column,
+               const Raise& raise) {
+  const CheckedCell cell{table, schema, row, column, table.Cells().Cell(row, column)};
+  if (!cell.gbk.empty()) CheckFilled(cell, raise);
 }
 
 void CheckCells(const TableText& table, const TableSchema& schema, const Raise& raise) {

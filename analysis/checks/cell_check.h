@@ -9,8 +9,12 @@ namespace plateconfig {
 /// A finding at a cell of a table, with its place, its column and its text.
 Finding CellFinding(Code code, const TableText& table, std::size_t row, std::size_t column);
 
-/// Raises what is wrong with the cells that the library reads, each as its kind reads it: what is not what its column
-/// holds, what is read as something else, what is not read at all.
+/// Raises what is wrong with one cell, as the kind of `schema` reads it; an empty one is never wrong.
+void CheckCell(const TableText& table, const ColumnSchema& schema, std::size_t row, std::size_t column,
+               const Raise& raise);
+
+/// Raises what is wrong with the cells that the library reads, each as its kind reads it: what is not what
+/// its column holds, what is read as something else, what is not read at all.
 void CheckCells(const TableText& table, const TableSchema& schema, const Raise& raise);
 
 }  // namespace plateconfig

@@ -12,8 +12,8 @@
 namespace plateconfig {
 namespace {
 
-/// The absent name that a header was probably meant to be: the same but for width, case, script, blanks or a unit; or one
-/// that it shortens or lengthens; or one that differs in few characters.
+/// The absent name that a header was probably meant to be: the same but for width, case, script, blanks or a
+/// unit; or one that it shortens or lengthens; or one that differs in few characters.
 std::string ProbablyMeant(const std::string& name, const std::vector<std::string>& absent) {
   constexpr std::size_t kTwoCharacters = 6;
   const std::string folded = FoldedNameWithoutUnit(name);
@@ -24,7 +24,8 @@ std::string ProbablyMeant(const std::string& name, const std::vector<std::string
   std::vector<std::string> nested;
   for (const std::string& candidate : absent) {
     const std::string other = FoldedName(candidate);
-    if (other.find(folded) != std::string::npos || folded.find(other) != std::string::npos) nested.push_back(candidate);
+    if (other.find(folded) != std::string::npos || folded.find(other) != std::string::npos)
+      nested.push_back(candidate);
   }
   if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
   return MostSimilarName(name, {absent.begin(), absent.end()});
@@ -93,8 +94,10 @@ class ColumnCheck {
     if (column.use == ColumnUse::kPlaceholder || table_.Cells().FindColumn(column.column)) return;
     Finding finding{"column-absent", {table_.Name(), 1, 1}};
     finding.columnName = GbkToUtf8(column.column);
-    const std::string value = column.whenAbsent.empty() ? std::string() : GbkToUtf8(column.whenAbsent.front());
-    finding.words = {value.empty() ? Word("it reads as empty", "取空值") : Word("it reads as " + value, "取 " + value)};
+    const std::string value =
+        column.whenAbsent.empty() ? std::string() : GbkToUtf8(column.whenAbsent.front());
+    finding.words = {value.empty() ? Word("it reads as empty", "取空值")
+                                   : Word("it reads as " + value, "取 " + value)};
     raise_(finding);
   }
 
@@ -124,7 +127,8 @@ std::set<std::string> ReadColumns(const TableSchema& schema, const Table& table)
   std::set<std::string> names;
   for (const ColumnSchema& column : schema.columns) {
     if (column.use != ColumnUse::kPlaceholder) names.insert(column.column);
-    const auto naming = column.use == ColumnUse::kColumnNames ? table.FindColumn(column.column) : std::nullopt;
+    const auto naming =
+        column.use == ColumnUse::kColumnNames ? table.FindColumn(column.column) : std::nullopt;
     for (std::size_t row = 1; naming && row <= table.RowCount(); ++row) {
       if (std::string name = table.Cell(row, *naming); !name.empty()) names.insert(std::move(name));
     }
@@ -142,9 +146,9 @@ bool IsRemarkColumn(const std::string& name) {
 }
 
 void CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise) {
-  const bool isAnyColumnRead = std::all_of(schema.columns.begin(), schema.columns.end(), [](const auto& column) {
-    return column.use == ColumnUse::kPlaceholder;
-  });
+  const bool isAnyColumnRead =
+      std::all_of(schema.columns.begin(), schema.columns.end(),
+                  [](const auto& column) { return column.use == ColumnUse::kPlaceholder; });
   if (!isAnyColumnRead) ColumnCheck(table, schema, raise).Run();
 }
 

@@ -4,25 +4,12 @@
 #include <optional>
 
 #include "analysis/text/file_form.h"
+#include "analysis/text/separator.h"
 #include "text/gbk.h"
 #include "text/gbk_scan.h"
 
 namespace plateconfig {
 namespace {
-
-Words NameOf(Separator separator) {
-  switch (separator) {
-    case Separator::kSemicolon:
-      return {"semicolons", "分号"};
-    case Separator::kTab:
-      return {"tabs", "制表符"};
-    case Separator::kFullWidthComma:
-      return {"full-width commas", "全角逗号"};
-    case Separator::kNone:
-      break;
-  }
-  return {};
-}
 
 std::string_view HeaderLine(const Table& table) {
   return table.Bytes().substr(0, table.Bytes().find_first_of("\r\n"));
@@ -50,7 +37,7 @@ std::optional<Finding> FormFinding(const TableText& table) {
     }
     case FileForm::kWrongSeparator: {
       Finding finding{"table-separator", first};
-      finding.words = {NameOf(OtherSeparatorOf(header))};
+      finding.words = {FindOtherSeparator(GbkToUtf8(header)).value_or(Words())};
       return finding;
     }
   }

@@ -38,7 +38,7 @@ class Code {
 
 struct Finding {
   Code code;
-  Place place;
+  Place place = {};
   std::string cell = {};                 ///< C17 as the spreadsheet names it; empty for none.
   std::string columnName = {};           ///< Header of the column, UTF-8; empty for none.
   std::optional<std::string> text = {};  ///< The offending text, UTF-8.

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "analysis/text/separator.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
-
-using namespace literals;
 
 bool IsWorkbook(std::string_view bytes) {
   constexpr std::string_view kZip = "PK\x03\x04";
@@ -56,16 +55,9 @@ FileForm FormOf(std::string_view bytes) {
   if (HasOnlyCarriageReturns(bytes)) return FileForm::kCarriageReturns;
   const std::string_view header = HeaderOf(bytes);
   if (IsSeparatorLine(header)) return FileForm::kSeparatorLine;
-  return OtherSeparatorOf(header) == Separator::kNone ? FileForm::kTable : FileForm::kWrongSeparator;
-}
-
-Separator OtherSeparatorOf(std::string_view header) {
-  if (header.find(',') != std::string_view::npos) return Separator::kNone;
-  if (header.find(';') != std::string_view::npos) return Separator::kSemicolon;
-  if (header.find('\t') != std::string_view::npos) return Separator::kTab;
-  const bool isInGbk = header.find("，"_gbk) != std::string_view::npos;
-  return isInGbk || header.find("\uFF0C") != std::string_view::npos ? Separator::kFullWidthComma
-                                                                    : Separator::kNone;
+  const bool hasComma = header.find(',') != std::string_view::npos;
+  const bool isSeparated = hasComma || !FindOtherSeparator(GbkToUtf8(header));
+  return isSeparated ? FileForm::kTable : FileForm::kWrongSeparator;
 }
 
 }  // namespace plateconfig

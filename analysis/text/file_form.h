@@ -19,9 +19,4 @@ enum class FileForm {
 
 FileForm FormOf(std::string_view bytes);
 
-/// What separates the columns of a header (bytes of GBK or UTF-8) that has no comma.
-enum class Separator { kNone, kSemicolon, kTab, kFullWidthComma };
-
-Separator OtherSeparatorOf(std::string_view header);
-
 }  // namespace plateconfig

@@ -11,6 +11,8 @@ namespace plateconfig {
 struct Position {
   std::size_t line = 0;
   std::size_t column = 0;
+
+  bool operator==(const Position&) const = default;
 };
 
 /// A place with the name of its file (UTF-8, as its user names it). Made when something is said about it;
@@ -20,6 +22,10 @@ struct Place {
   std::size_t line = 0;
   std::size_t column = 0;
 };
+
+inline Place PlaceIn(const std::string& file, Position position) {
+  return {file, position.line, position.column};
+}
 
 /// "file:line:column", without what is unknown.
 std::string ToString(const Place& place);

@@ -13,7 +13,8 @@
 #include "plateconfig_export.h"
 
 /// Lengths are mm, layers NX layer numbers, colours colour indices, ratios fractions; margins are
-/// whatever the drawing takes them for. Texts are GBK. What a missing column or an empty cell gives is said at the loaders.
+/// whatever the drawing takes them for. Texts are GBK. What a missing column or an empty cell gives is said
+/// at the loaders.
 class PLATECONFIG_API CustomDefault {
  public:
   /// A text style, in a table one cell of six fields joined by "|". Empty until a cell is read.

@@ -44,13 +44,11 @@ TEST(FileForm, ASeparatorLineIsNoHeader) {
   EXPECT_EQ(FormOf("sep=;\r\na;b\n"), FileForm::kSeparatorLine);
 }
 
-TEST(FileForm, AHeaderWithoutCommasTellsWhatSeparatesItsColumns) {
+TEST(FileForm, AHeaderWithoutCommasThatSomethingElseSeparatesIsTold) {
   EXPECT_EQ(FormOf("a;b\n"), FileForm::kWrongSeparator);
-  EXPECT_EQ(OtherSeparatorOf("a;b"), Separator::kSemicolon);
-  EXPECT_EQ(OtherSeparatorOf("a\tb"), Separator::kTab);
-  EXPECT_EQ(OtherSeparatorOf(Gbk("长度，宽度")), Separator::kFullWidthComma);
-  EXPECT_EQ(OtherSeparatorOf("长度，宽度"), Separator::kFullWidthComma);
-  EXPECT_EQ(OtherSeparatorOf("a;b,c"), Separator::kNone);
+  EXPECT_EQ(FormOf("a\tb\n"), FileForm::kWrongSeparator);
+  EXPECT_EQ(FormOf(Gbk("长度，宽度\n")), FileForm::kWrongSeparator);
+  EXPECT_EQ(FormOf("a;b,c\n"), FileForm::kTable);
   EXPECT_EQ(FormOf("a\n1\n"), FileForm::kTable);
 }
 

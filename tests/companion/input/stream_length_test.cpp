@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <streambuf>
+#include <utility>
 
 #include "support/companion.h"
 
@@ -32,18 +33,23 @@ class CountingOutput : public std::streambuf {
 /// Gives one piece of input at a time, and notes how far the output is behind the plates handed out so far.
 class GeneratedInput : public std::streambuf {
  public:
-  /// `piece(n)` is the text of plate n, and of the beginning for 0.
-  GeneratedInput(int plates, std::function<std::string(int)> piece, const CountingOutput& output)
-      : plates_(plates), piece_(std::move(piece)), output_(output) {}
+  /// `piece(n)` is the text of plate n, and of the beginning for 0; `end` stands behind the last plate.
+  GeneratedInput(int plates, std::function<std::string(int)> piece, std::string end,
+                 const CountingOutput& output)
+      : plates_(plates), piece_(std::move(piece)), end_(std::move(end)), output_(output) {}
 
   int LargestLead() const { return largestLead_; }
 
  protected:
   int_type underflow() override {
     largestLead_ = std::max(largestLead_, given_ - output_.Count());
-    if (given_ == plates_) return traits_type::eof();
-    current_ = piece_(isBegun_ ? ++given_ : 0);
-    isBegun_ = true;
+    if (given_ == plates_) {
+      current_ = std::exchange(end_, "");
+    } else {
+      current_ = piece_(isBegun_ ? ++given_ : 0);
+      isBegun_ = true;
+    }
+    if (current_.empty()) return traits_type::eof();
     setg(current_.data(), current_.data(), current_.data() + current_.size());
     return traits_type::to_int_type(current_.front());
   }
@@ -51,6 +57,7 @@ class GeneratedInput : public std::streambuf {
  private:
   int plates_;
   std::function<std::string(int)> piece_;
+  std::string end_;
   const CountingOutput& output_;
   std::string current_;
   bool isBegun_ = false;
@@ -76,11 +83,11 @@ struct Outcome {
 };
 
 Outcome RunOn(int plates, const std::string& verb, const std::string& format,
-              const std::function<std::string(int)>& piece) {
+              const std::function<std::string(int)>& piece, const std::string& end) {
   const test::SmallConfiguration configuration;
   // The P of a plate's name stands nowhere else in either output.
   CountingOutput output('P');
-  GeneratedInput input(plates, piece, output);
+  GeneratedInput input(plates, piece, end, output);
   std::istream in(&input);
   std::ostream out(&output);
   std::ostringstream err;
@@ -95,11 +102,11 @@ TEST(StreamLength, NoMoreThanOnePlateIsAheadOfTheOutputHoweverManyThereAre) {
   for (const char* verb : {"process", "explain"}) {
     for (const char* format : {"text", "json"}) {
       for (const int plates : {1000, 10000}) {
-        const Outcome csv = RunOn(plates, verb, format, CsvPiece);
+        const Outcome csv = RunOn(plates, verb, format, CsvPiece, "");
         EXPECT_EQ(csv.exitCode, 0);
         EXPECT_EQ(csv.printed, plates);
         EXPECT_LE(csv.largestLead, 1) << verb << " " << format << " csv";
-        const Outcome json = RunOn(plates, verb, format, JsonPiece);
+        const Outcome json = RunOn(plates, verb, format, JsonPiece, "\n]\n");
         EXPECT_EQ(json.exitCode, 0);
         EXPECT_EQ(json.printed, plates);
         EXPECT_LE(json.largestLead, 1) << verb << " " << format << " json";

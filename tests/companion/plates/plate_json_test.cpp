@@ -48,7 +48,7 @@ TEST(PlateJson, ReadsEveryField) {
   ASSERT_EQ(plates.size(), 1u) << file.messages.Text();
   const Plate& plate = plates[0].plate;
   EXPECT_EQ(plates[0].name, "A板");
-  EXPECT_EQ(ToString(plates[0].place), "板.json:1:2");
+  EXPECT_EQ(plates[0].position, (Position{1, 2}));
   EXPECT_EQ(plate.length, 450);
   EXPECT_EQ(plate.width, 400.5);
   EXPECT_EQ(plate.height, 90);

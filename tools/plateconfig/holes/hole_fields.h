@@ -2,72 +2,55 @@
 
 // What holes and hole types consist of, with the names in both forms of input and in the output.
 
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "holes/classification.h"
+#include "plateconfig/input/field.h"
 
 namespace plateconfig {
-
-struct HoleFieldName {
-  std::string_view json;
-  std::string_view column;
-};
-
-inline constexpr HoleFieldName kHoleName = {"name", "孔名称"};
-inline constexpr std::string_view kGroupColumn = "位置";  ///< In JSON the groups are members.
-inline constexpr HoleFieldName kSegmentColor = {"color", "颜色"};
-inline constexpr std::string_view kSegmentOrigin = "origin";  ///< JSON: [x, y, z].
 
 /// One group of segments, and a type's lists for it.
 struct HoleGroupNames {
   std::string_view json;
   std::string_view cell;
-  std::string_view english;
-  std::string_view chinese;
-  HoleFieldName colors;
-  HoleFieldName diameters;
+  Words name;
+  FieldNames colors;
+  FieldNames diameters;
 };
 
 /// In the order of `kHoleGroups`.
 inline constexpr HoleGroupNames kHoleGroupNames[] = {
-    {"top", "顶", "top", "顶部", {"topColor", "顶颜色"}, {"topDiameter", "顶直径"}},
-    {"through", "通", "through", "贯通", {"throughColor", "通颜色"}, {"throughDiameter", "通直径"}},
-    {"bottom", "底", "bottom", "底部", {"bottomColor", "底颜色"}, {"bottomDiameter", "底直径"}},
+    {"top", "顶", {"top", "顶部"}, {"顶颜色", "topColor"}, {"顶直径", "topDiameter"}},
+    {"through", "通", {"through", "贯通"}, {"通颜色", "throughColor"}, {"通直径", "throughDiameter"}},
+    {"bottom", "底", {"bottom", "底部"}, {"底颜色", "bottomColor"}, {"底直径", "bottomDiameter"}},
 };
 static_assert(std::size(kHoleGroupNames) == kHoleGroupCount);
 
-struct SegmentNumberField {
-  HoleFieldName name;
-  double HoleInfo::*value;
-  bool isRequired;  ///< Else 0 when it is missing.
+struct HoleInput {
+  std::string name;  ///< UTF-8.
+  Position position;
+  CombHole hole;
 };
 
-inline constexpr SegmentNumberField kSegmentNumbers[] = {
-    {{"diameter", "直径"}, &HoleInfo::diameter, true},
-    {{"height", "高度"}, &HoleInfo::height, false},
-    {{"rHeight", "R高度"}, &HoleInfo::rHeight, false},
+/// A row of a CSV file of holes.
+struct SegmentInput {
+  std::string holeName;  ///< Empty when the row goes on with the hole of the row before.
+  Position position;
+  std::size_t group = 0;  ///< Place in `kHoleGroups`.
+  HoleInfo segment;
 };
 
-struct CoordinateField {
-  std::string_view column;
-  double NXOpen::Point3d::*value;
+struct HoleTypeInput {
+  std::string name;     ///< UTF-8; `type.name` stays empty.
+  std::string content;  ///< UTF-8; `type.content` stays empty.
+  Position position;
+  HoleTypeInfo type;
 };
 
-/// In the order of a JSON origin.
-inline constexpr CoordinateField kCoordinates[] = {
-    {"X", &NXOpen::Point3d::X},
-    {"Y", &NXOpen::Point3d::Y},
-    {"Z", &NXOpen::Point3d::Z},
-};
-
-/// The JSON members of a hole, a segment and a type, for looking names up.
-std::vector<std::string_view> HoleMembers();
-std::vector<std::string_view> SegmentMembers();
-std::vector<std::string_view> HoleTypeMembers();
-
-inline constexpr HoleFieldName kTypeName = {"name", "名称"};
-inline constexpr HoleFieldName kTypeStructure = {"structure", "结构"};
-inline constexpr HoleFieldName kTypeContent = {"content", "说明"};
+RecordKind<HoleInput> HoleFields();  ///< JSON alone: CSV has segments.
+RecordKind<SegmentInput> SegmentFields();
+RecordKind<HoleTypeInput> HoleTypeFields();
 
 }  // namespace plateconfig

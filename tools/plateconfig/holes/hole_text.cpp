@@ -36,7 +36,7 @@ std::string SegmentText(const CombHole& hole, const HoleTypeInfo& type, const Se
   const HoleInfo& segment = (hole.*group.segments)[verdict.segment];
   const HoleGroupNames& names = kHoleGroupNames[verdict.group];
   return Say("{0} {1}: colour {2} {3}, diameter {4} {5}", "{0}第 {1} 段：颜色 {2} {3}，直径 {4} {5}",
-             SayPlain(names.english, names.chinese), verdict.segment + 1, segment.color,
+             names.name.In(CurrentLanguage()), verdict.segment + 1, segment.color,
              VerdictText(verdict.color, ListOf(type.*group.colors, verdict.segment)),
              Number(segment.diameter),
              VerdictText(verdict.diameter, ListOf(type.*group.diameters, verdict.segment)));

@@ -1,40 +1,50 @@
 #include "plateconfig/holes/hole_type_reader.h"
 
-#include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "analysis/text/shown_text.h"
 #include "analysis/text/strict_values.h"
 #include "config/text_helpers.h"
 #include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/input/input_form.h"
-#include "plateconfig/messages/language.h"
 
 namespace plateconfig {
 namespace {
 
-void CheckColors(const HoleTypeInput& input, Reporter& reporter) {
-  const std::vector<std::size_t> counts = SegmentCounts(input.type.countKey);
-  for (std::size_t group = 0; group < counts.size(); ++group) {
-    const std::size_t lists = (input.type.*kHoleGroups[group].colors).size();
-    if (lists >= counts[group]) continue;
-    const HoleFieldName& name = kHoleGroupNames[group].colors;
-    reporter.Warning(input.place,
-                     Say("the type {0} refuses every hole: {1} ({2}) has {3} lists for {4} segments; write 0 "
-                         "for any colour",
-                         "类型 {0} 不接受任何孔：{1}（{2}）只有 {3} 个列表，而有 {4} 段；任意颜色请写 0",
-                         ShownText(input.name), name.json, name.column, lists, counts[group]));
-  }
-}
+/// Warns of types that can not accept any hole.
+class TypeCheck {
+ public:
+  TypeCheck(const std::string& file, Reporter& reporter) : file_(file), reporter_(reporter) {}
 
-void CheckType(const HoleTypeInput& input, Reporter& reporter) {
-  if (!SegmentCounts(input.type.countKey).empty()) return CheckColors(input, reporter);
-  reporter.Warning(
-      input.place,
-      Say("no hole has the structure \"{1}\" of the type {0}; write the numbers of top, through and bottom "
-          "segments like 1_1_0",
-          "类型 {0} 的结构“{1}”不对应任何孔；请将顶、通、底的段数写成 1_1_0 这样的形式",
-          ShownText(input.name), ShownText(input.type.countKey)));
-}
+  void Run(const HoleTypeInput& input) {
+    const std::vector<std::size_t> counts = SegmentCounts(input.type.countKey);
+    if (counts.empty()) {
+      Report({.code = "hole-type-structure", .text = input.type.countKey, .words = {ShownText(input.name)}},
+             input);
+    }
+    for (std::size_t group = 0; group < counts.size(); ++group) CheckColors(input, group, counts[group]);
+  }
+
+ private:
+  void CheckColors(const HoleTypeInput& input, std::size_t group, std::size_t segments) {
+    const std::size_t lists = (input.type.*kHoleGroups[group].colors).size();
+    if (lists >= segments) return;
+    const FieldNames& names = kHoleGroupNames[group].colors;
+    Report({.code = "hole-type-refuses-all",
+            .words = {ShownText(input.name), std::string(names.member), std::string(names.column),
+                      std::to_string(lists), std::to_string(segments)}},
+           input);
+  }
+
+  void Report(Finding finding, const HoleTypeInput& input) {
+    finding.place = PlaceIn(file_, input.position);
+    reporter_.Report(finding);
+  }
+
+  const std::string& file_;
+  Reporter& reporter_;
+};
 
 }  // namespace
 
@@ -50,9 +60,11 @@ std::vector<std::size_t> SegmentCounts(const std::string& structure) {
 }
 
 std::vector<HoleTypeInput> ReadHoleTypes(std::istream& in, const std::string& file, Reporter& reporter) {
-  std::vector<HoleTypeInput> types =
-      IsJson(in, file) ? ReadHoleTypesFromJson(in, file, reporter) : ReadHoleTypesFromCsv(in, file, reporter);
-  for (const HoleTypeInput& type : types) CheckType(type, reporter);
+  const auto reader = ReadRecords(in, file, HoleTypeFields(), reporter);
+  std::vector<HoleTypeInput> types;
+  while (std::optional<HoleTypeInput> type = reader->Next()) types.push_back(std::move(*type));
+  TypeCheck check(file, reporter);
+  for (const HoleTypeInput& type : types) check.Run(type);
   return types;
 }
 

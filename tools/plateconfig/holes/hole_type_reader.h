@@ -8,25 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "holes/hole_type_info.h"
+#include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/messages/reporter.h"
 
 namespace plateconfig {
 
-struct HoleTypeInput {
-  std::string name;     ///< UTF-8; `type.name` stays empty.
-  std::string content;  ///< UTF-8; `type.content` stays empty.
-  Place place;
-  HoleTypeInfo type;
-};
-
 /// Every type without a mistake. A type that can not accept any hole is warned of.
 std::vector<HoleTypeInput> ReadHoleTypes(std::istream& in, const std::string& file, Reporter& reporter);
-
-std::vector<HoleTypeInput> ReadHoleTypesFromCsv(std::istream& in, const std::string& file,
-                                                Reporter& reporter);
-std::vector<HoleTypeInput> ReadHoleTypesFromJson(std::istream& in, const std::string& file,
-                                                 Reporter& reporter);
 
 /// How many segments of each group a structure such as "1_0_2" means; empty when it is no structure that a
 /// hole can have.

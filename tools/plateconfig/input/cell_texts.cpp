@@ -38,6 +38,12 @@ std::string Offending(const std::string& text) {
   return Say("\"{}\"", "“{}”", ShownText(text)) + Remark(text);
 }
 
+/// Of a whole number that is no int; with its quotes, if any.
+std::string IntegerOutOfRange(const std::string& shown) {
+  return Say("{} is out of range; whole numbers go from {} to {}", "{}超出范围；整数须在 {} 到 {} 之间",
+             shown, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+}
+
 }  // namespace
 
 std::string NotANumber(const std::string& text) {
@@ -69,21 +75,6 @@ std::string NotARange(const std::string& text) {
 
 std::string NotYesNo(const std::string& text) {
   return Say("{} is neither Y nor N", "{}既不是 Y 也不是 N", Offending(text));
-}
-
-std::string NotAGroup(const std::string& text) {
-  return Say("{} is none of 顶 (top), 通 (through) and 底 (bottom)", "{}不是 顶、通、底 之一",
-             Offending(text));
-}
-
-std::string TooSmall(const std::string& text, bool hasToBePositive) {
-  return hasToBePositive ? Say("{} is too small; write a number above 0", "{} 太小；请写大于 0 的数字", text)
-                         : Say("{} is too small; write 0 or more", "{} 太小；请写 0 或更大的数字", text);
-}
-
-std::string IntegerOutOfRange(const std::string& shown) {
-  return Say("{} is out of range; whole numbers go from {} to {}", "{}超出范围；整数须在 {} 到 {} 之间",
-             shown, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
 }
 
 // In quotes, because a blank at the end of a name would not be seen.

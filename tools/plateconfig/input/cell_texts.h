@@ -1,6 +1,6 @@
 #pragma once
 
-// What is wrong with a cell of an input, and how to write it. All texts are UTF-8.
+// What is wrong with a cell of a configuration table, and how to write it. All texts are UTF-8.
 
 #include <string>
 
@@ -12,12 +12,6 @@ std::string NotIntegers(const std::string& text);
 std::string NotNumbers(const std::string& text);
 std::string NotARange(const std::string& text);
 std::string NotYesNo(const std::string& text);
-std::string NotAGroup(const std::string& text);
-
-/// Of a value that is not at least 0, or not above 0.
-std::string TooSmall(const std::string& text, bool hasToBePositive);
-/// Of a whole number that is no int; UTF-8 with its quotes, if any.
-std::string IntegerOutOfRange(const std::string& shown);
 
 /// Of a header cell; `similar` is the known name that looks most like it, empty when there is none.
 std::string UnknownColumn(const std::string& name, const std::string& similar);

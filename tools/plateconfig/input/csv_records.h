@@ -1,12 +1,11 @@
 #pragma once
 
-// Reads a CSV input whose every row is a record of known columns.
+// Reads a CSV input whose every row is a record of known fields.
 //
-//   CsvRecords<SegmentRow> rows(in, file, kFields, reporter);
-//   while (const auto row = rows.Next()) …
+//   CsvRecords<PlateInput> plates(in, file, kind, reporter);
+//   while (const auto plate = plates.Next()) …
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,52 +13,50 @@
 #include <vector>
 
 #include "analysis/text/similar_name.h"
-#include "plateconfig/input/cell_texts.h"
 #include "plateconfig/input/csv_stream.h"
-#include "plateconfig/messages/language.h"
+#include "plateconfig/input/field.h"
 
 namespace plateconfig {
 
 template <typename Record>
-struct CsvField {
-  std::string_view column;  ///< UTF-8.
-  bool isRequired;          ///< Else the column may be missing and its cells empty.
-  /// Puts a cell's text where it belongs; gives what is wrong with it, or an empty text.
-  std::function<std::string(const std::string& text, Record& record)> store;
-};
-
-template <typename Record>
-class CsvRecords {
+class CsvRecords : public RecordReader<Record> {
  public:
   struct Row {
-    Place place;
     Record record{};
     bool isGood = true;          ///< False when a cell was refused, which is reported.
     bool isBehindALoss = false;  ///< A row right before this one could not be read, which is reported.
   };
 
-  /// Reads the header. Columns that are unknown or stand there twice are warned of, missing ones are errors.
-  CsvRecords(std::istream& in, const std::string& file, std::vector<CsvField<Record>> fields,
-             Reporter& reporter)
-      : rows_(in, file, reporter), fields_(std::move(fields)), reporter_(reporter) {
-    const std::optional<CsvRow> header = rows_.ReadHeader();
-    if (!header) return;
+  /// Reads the header. Missing columns are errors. Columns that stand there twice, and unknown ones that look
+  /// like a known one, are warned of; others are taken as the user's own remarks.
+  CsvRecords(std::istream& in, const std::string& file, RecordKind<Record> kind, Reporter& reporter)
+      : rows_(in, file, reporter), file_(file), kind_(std::move(kind)), reporter_(reporter) {
+    const CsvRow* header = rows_.ReadHeader();
+    if (header == nullptr) return;
     for (std::size_t column = 0; column < header->cells.size(); ++column) TakeColumn(*header, column);
     isUsable_ = HasRequiredColumns(*header);
     lastNumber_ = header->number;
   }
 
+  std::optional<Record> Next() override {
+    while (std::optional<Row> row = NextRow()) {
+      if (row->isGood) return std::move(row->record);
+    }
+    return std::nullopt;
+  }
+
   /// The next row that is not blank; nothing at the end or without a usable header.
-  std::optional<Row> Next() {
+  std::optional<Row> NextRow() {
     bool isBehindALoss = false;
     while (isUsable_) {
-      const std::optional<CsvRow> cells = rows_.ReadRow();
-      if (!cells) break;
+      const CsvRow* cells = rows_.ReadRow();
+      if (cells == nullptr) break;
       isBehindALoss = isBehindALoss || cells->number != lastNumber_ + 1;
       lastNumber_ = cells->number;
       if (cells->IsBlank()) continue;
-      Row row = Read(*cells);
-      row.isBehindALoss = isBehindALoss;
+      std::optional<Row> row(std::in_place);
+      row->isBehindALoss = isBehindALoss;
+      Read(*cells, *row);
       return row;
     }
     return std::nullopt;
@@ -69,62 +66,76 @@ class CsvRecords {
   bool EndsBehindALoss() const { return rows_.RowCount() != lastNumber_; }
 
  private:
-  using Field = CsvField<Record>;
-
   void TakeColumn(const CsvRow& header, std::size_t column) {
     const CsvCell& cell = header.cells[column];
-    const auto field =
-        std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) { return f.column == cell.text; });
-    const bool isKnown = field != fields_.end();
-    const bool isSecond = isKnown && std::find(columns_.begin(), columns_.end(), &*field) != columns_.end();
+    const auto field = std::find_if(kind_.fields.begin(), kind_.fields.end(), [&](const Field<Record>& each) {
+      return !cell.text.empty() && each.names.column == cell.text;
+    });
+    const bool isKnown = field != kind_.fields.end();
+    const bool isSecond = isKnown && HasColumn(*field);
     columns_.push_back(isKnown && !isSecond ? &*field : nullptr);
-    if (columns_.back() != nullptr || cell.text.empty()) return;
-    reporter_.Warning(cell.place, CellName(column, header.number) + ": " +
-                                      (isSecond ? SecondColumn(cell.text)
-                                                : UnknownColumn(cell.text, SimilarColumn(cell.text))));
+    if (isSecond) return Warn(header, column, "input-column-twice", {});
+    if (isKnown || cell.text.empty()) return;
+    const std::string similar = MostSimilarName(cell.text, Names(kind_.fields, &FieldNames::column));
+    if (!similar.empty()) Warn(header, column, "input-column-unknown", similar);
   }
 
-  std::string SimilarColumn(const std::string& name) const {
-    std::vector<std::string_view> known;
-    for (const Field& field : fields_) known.push_back(field.column);
-    return MostSimilarName(name, known);
+  bool HasColumn(const Field<Record>& field) const {
+    return std::find(columns_.begin(), columns_.end(), &field) != columns_.end();
+  }
+
+  void Warn(const CsvRow& header, std::size_t column, Code code, const std::string& similar) {
+    const std::string name(header.cells[column].text);
+    Finding finding{code, PlaceIn(file_, header.cells[column].position), CellName(column, header.number)};
+    finding.columnName = name;
+    finding.text = name;
+    if (!similar.empty()) finding.fix = similar;
+    reporter_.Report(finding);
   }
 
   bool HasRequiredColumns(const CsvRow& header) {
     bool hasAll = true;
-    for (const Field& field : fields_) {
-      if (!field.isRequired || std::find(columns_.begin(), columns_.end(), &field) != columns_.end())
-        continue;
-      reporter_.Error(header.cells.front().place,
-                      Say("the column {} is missing; nothing can be read without it",
-                          "缺少列 {}，无法读取任何内容", field.column));
+    for (const Field<Record>& field : kind_.fields) {
+      if (field.names.column.empty() || field.need == Need::kOptional || HasColumn(field)) continue;
+      reporter_.Report({.code = "input-column-missing",
+                        .place = PlaceIn(file_, header.cells.front().position),
+                        .columnName = std::string(field.names.column),
+                        .words = {kind_.nothing}});
       hasAll = false;
     }
     return hasAll;
   }
 
-  Row Read(const CsvRow& cells) {
-    Row row;
-    row.place = cells.cells.front().place;
+  void Read(const CsvRow& cells, Row& row) {
+    row.record.position = cells.cells.front().position;
     for (std::size_t column = 0; column < columns_.size(); ++column) {
-      if (columns_[column] == nullptr) continue;
+      const Field<Record>* field = columns_[column];
+      if (field == nullptr) continue;
       // A cell that a short row lacks is empty and stands at the row's end.
-      const bool exists = column < cells.cells.size();
-      const std::string text = exists ? cells.cells[column].text : "";
-      if (text.empty() && !columns_[column]->isRequired) continue;
-      const std::string wrong = columns_[column]->store(text, row.record);
-      if (wrong.empty()) continue;
-      row.isGood = false;
-      reporter_.Error(exists ? cells.cells[column].place : cells.cells.back().place,
-                      CellName(column, cells.number) + ": " + wrong);
+      const std::string_view text = column < cells.cells.size() ? cells.cells[column].text : "";
+      if (text.empty() && field->need == Need::kOptional) continue;
+      if (auto mistake = field->fromCell(text, row.record)) {
+        row.isGood = false;
+        Refuse(cells, column, std::move(*mistake));
+      }
     }
-    return row;
+  }
+
+  void Refuse(const CsvRow& cells, std::size_t column, CellMistake mistake) {
+    const CsvCell& cell = cells.cells[std::min(column, cells.cells.size() - 1)];
+    reporter_.Report({.code = mistake.code,
+                      .place = PlaceIn(file_, cell.position),
+                      .cell = CellName(column, cells.number),
+                      .columnName = std::string(columns_[column]->names.column),
+                      .text = std::move(mistake.text),
+                      .words = {kind_.whenCellIsRefused}});
   }
 
   CsvStream rows_;
-  std::vector<Field> fields_;
+  std::string file_;
+  RecordKind<Record> kind_;
   Reporter& reporter_;
-  std::vector<const Field*> columns_;  ///< One per column; null for a column that is ignored.
+  std::vector<const Field<Record>*> columns_;  ///< One per column; null for a column that is ignored.
   bool isUsable_ = false;
   std::size_t lastNumber_ = 0;
 };

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "config/table.h"
-#include "plateconfig/input/separator.h"
-#include "plateconfig/messages/language.h"
+#include "analysis/text/position_counter.h"
+#include "analysis/text/separator.h"
+#include "config/quotes.h"
 #include "text/gbk.h"
-#include "text/gbk_scan.h"
 
 namespace plateconfig {
 namespace {
@@ -16,55 +15,28 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 // A quote that is never closed would swallow the rest of the file.
 constexpr std::size_t kLargestQuotedRow = std::size_t{1} << 20;
 
-/// Tells whether a row ends inside a quoted cell, line by line.
-class QuoteTracker {
- public:
-  bool IsOpen() const { return isOpen_; }
-  /// Where the cell that is open begins.
-  std::size_t Opening() const { return opening_; }
+constexpr std::size_t kNone = std::string_view::npos;
 
-  void Take(std::string_view row, std::size_t from) {
-    for (std::size_t at = from; at < row.size(); ++at) {
-      if (isOpen_) {
-        at += TakeQuoted(row, at);
-      } else {
-        TakePlain(row[at], at);
-      }
-    }
-  }
-
- private:
-  /// Gives 1 when the next character is used up too, the second of a doubled quote.
-  std::size_t TakeQuoted(std::string_view row, std::size_t at) {
-    if (row[at] != '"') return 0;
-    if (at + 1 < row.size() && row[at + 1] == '"') return 1;
-    isOpen_ = false;
-    return 0;
-  }
-
-  void TakePlain(char c, std::size_t at) {
-    if (c == ',') cell_ = at + 1;
-    if (c != '"' || at != cell_) return;
-    isOpen_ = true;
-    opening_ = at;
-  }
-
-  bool isOpen_ = false;
-  std::size_t opening_ = 0;
-  std::size_t cell_ = 0;
-};
-
-/// One row as the table reader sees it, so that quoting means the same everywhere.
-Table AsTable(const std::string& row) {
-  FileBytes bytes;
-  bytes.data = std::make_unique<char[]>(row.size());
-  bytes.size = row.copy(bytes.data.get(), row.size());
-  return Table(std::move(bytes));
+bool HasOpenQuote(std::string_view row, std::size_t cell) {
+  return cell < row.size() && row[cell] == kQuote && EndOfQuotes(row, cell) == cell;
 }
 
-std::size_t CountUtf8Characters(std::string_view utf8) {
-  return static_cast<std::size_t>(
-      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+/// Where the first cell from `cell` on begins whose quote is not closed in the row; `kNone` without one.
+std::size_t FindOpenQuote(std::string_view row, std::size_t cell) {
+  while (!HasOpenQuote(row, cell)) {
+    const std::size_t comma = row.find(',', EndOfQuotes(row, cell));
+    if (comma == kNone) return kNone;
+    cell = comma + 1;
+  }
+  return cell;
+}
+
+/// The same for a row that ended inside the quotes of the cell at `open` and goes on at `from`.
+std::size_t FindOpenQuoteBehind(std::string_view row, std::size_t open, std::size_t from) {
+  const std::size_t closing = FindClosingQuote(row, from);
+  if (closing == kNone) return open;
+  const std::size_t comma = row.find(',', closing + 1);
+  return comma == kNone ? kNone : FindOpenQuote(row, comma + 1);
 }
 
 }  // namespace
@@ -76,121 +48,123 @@ bool CsvRow::IsBlank() const {
 CsvStream::CsvStream(std::istream& in, const std::string& file, Reporter& reporter)
     : in_(in), file_(file), reporter_(reporter) {}
 
-std::optional<CsvRow> CsvStream::ReadHeader() {
-  const std::optional<RawRow> raw = TakeRaw();
-  if (!raw) return std::nullopt;
-  if (IsValidUtf8(raw->bytes)) return DecodeHeader(*raw);
-  encoding_ = Encoding::kGbk;
-  if (IsValidGbk(raw->bytes)) return DecodeHeader(*raw);
-  reporter_.Error({file_, 1, 1},
-                  Say("the header is neither UTF-8 nor GBK; save the file as CSV in one of them",
-                      "表头既不是 UTF-8 也不是 GBK；请将文件存为其中一种编码的 CSV"));
-  return std::nullopt;
+void CsvStream::Report(Finding finding, Position position) {
+  finding.place = PlaceIn(file_, position);
+  reporter_.Report(finding);
 }
 
-std::optional<CsvRow> CsvStream::DecodeHeader(const RawRow& raw) {
-  std::optional<CsvRow> header = Decode(raw);
-  if (!header || header->cells.size() != 1) return header;
-  const std::string complaint = OtherSeparator(header->cells.front().text);
-  if (complaint.empty()) return header;
-  reporter_.Error(header->cells.front().place, complaint);
-  return std::nullopt;
-}
-
-std::optional<CsvRow> CsvStream::ReadRow() {
-  while (const std::optional<RawRow> raw = TakeRaw()) {
-    if (std::optional<CsvRow> row = Decode(*raw)) return row;
+const CsvRow* CsvStream::ReadHeader() {
+  if (!TakeRow()) return nullptr;
+  if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
+  if (!TurnIntoUtf8()) {
+    Report({.code = "input-header-encoding"}, {1, 1});
+    return nullptr;
   }
-  return std::nullopt;
+  SplitIntoCells();
+  const auto separator = row_.cells.size() == 1 ? FindOtherSeparator(row_.cells.front().text) : std::nullopt;
+  if (!separator) return &row_;
+  Report({.code = "input-separator", .words = {*separator}}, row_.cells.front().position);
+  return nullptr;
 }
 
-std::optional<std::string> CsvStream::TakeLine() {
-  std::string line;
+const CsvRow* CsvStream::ReadRow() {
+  while (TakeRow()) {
+    if (TurnIntoUtf8()) {
+      SplitIntoCells();
+      return &row_;
+    }
+    const char* const encoding = encoding_ == Encoding::kUtf8 ? "UTF-8" : "GBK";
+    Report({.code = "input-row-encoding", .words = {encoding}}, {rowLine_, 1});
+  }
+  return nullptr;
+}
+
+bool CsvStream::TakeLine(std::string& line) {
   if (!pending_.empty()) {
     line = std::move(pending_.front());
     pending_.pop_front();
   } else if (!std::getline(in_, line)) {
-    return std::nullopt;
+    return false;
   }
   if (line_ == 0 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
   ++line_;
-  return line;
+  return true;
 }
 
-std::optional<CsvStream::RawRow> CsvStream::TakeRaw() {
-  while (std::optional<std::string> first = TakeLine()) {
-    RawRow row{std::move(*first), line_};
-    ++rowNumber_;
-    QuoteTracker quotes;
-    quotes.Take(row.bytes, 0);
-    while (quotes.IsOpen() && row.bytes.size() < kLargestQuotedRow) {
-      const std::optional<std::string> next = TakeLine();
-      if (!next) break;
-      const std::size_t from = row.bytes.size();
-      row.bytes.append("\n").append(*next);
-      quotes.Take(row.bytes, from);
+/// Takes the bytes of the next row whose quotes are closed.
+bool CsvStream::TakeRow() {
+  while (TakeLine(bytes_)) {
+    rowLine_ = line_;
+    ++row_.number;
+    const std::size_t open = TakeQuotedLines();
+    if (open == kNone) {
+      if (bytes_.ends_with('\r')) bytes_.pop_back();
+      return true;
     }
-    if (!quotes.IsOpen()) {
-      if (row.bytes.ends_with('\r')) row.bytes.pop_back();
-      return row;
-    }
-    GiveUp(row, quotes.Opening());
+    GiveUp(open);
   }
-  return std::nullopt;
+  return false;
+}
+
+/// Takes the lines behind the first one that belong to the row because of a quote. Where the quote stands
+/// that is never closed; `kNone` without one.
+std::size_t CsvStream::TakeQuotedLines() {
+  std::size_t open = FindOpenQuote(bytes_, 0);
+  std::string line;
+  while (open != kNone && bytes_.size() < kLargestQuotedRow && TakeLine(line)) {
+    const std::size_t from = bytes_.size();
+    bytes_.append("\n").append(line);
+    open = FindOpenQuoteBehind(bytes_, open, from);
+  }
+  return open;
 }
 
 /// Passes over the first line of a row whose quote is never closed and gives the lines behind it back.
-void CsvStream::GiveUp(RawRow& row, std::size_t quote) {
-  const Place place = Behind({file_, row.line, 1}, std::string_view(row.bytes).substr(0, quote));
-  reporter_.Error(place, Say("a quote opens here and is never closed; this row is passed over",
-                             "此处的引号没有结束；本行被跳过"));
-  const std::size_t firstEnd = row.bytes.find('\n');
-  if (firstEnd == std::string::npos) return;
+void CsvStream::GiveUp(std::size_t quote) {
+  const std::string_view before = std::string_view(bytes_).substr(0, quote);
+  PositionCounter counter({rowLine_, 1});
+  counter.Take(encoding_ == Encoding::kUtf8 ? std::string(before) : GbkToUtf8(before));
+  Report({.code = "input-quote-open"}, counter.At());
+  const std::size_t firstEnd = bytes_.find('\n');
+  if (firstEnd == kNone) return;
   std::deque<std::string> lines;
-  for (std::size_t begin = firstEnd + 1; begin <= row.bytes.size();) {
-    const std::size_t end = std::min(row.bytes.find('\n', begin), row.bytes.size());
-    lines.push_back(row.bytes.substr(begin, end - begin));
+  for (std::size_t begin = firstEnd + 1; begin <= bytes_.size();) {
+    const std::size_t end = std::min(bytes_.find('\n', begin), bytes_.size());
+    lines.push_back(bytes_.substr(begin, end - begin));
     begin = end + 1;
   }
   line_ -= lines.size();
   pending_.insert(pending_.begin(), lines.begin(), lines.end());
 }
 
-std::optional<CsvRow> CsvStream::Decode(const RawRow& raw) {
-  if (!ToUtf8(raw.bytes)) {
-    const bool isUtf8 = encoding_ == Encoding::kUtf8;
-    reporter_.Error({file_, raw.line, 1},
-                    Say("this row is not {0} as the header is; it is passed over. Save the file as {0}",
-                        "本行与表头的编码 {0} 不一致，被跳过。请将文件存为 {0}", isUtf8 ? "UTF-8" : "GBK"));
-    return std::nullopt;
-  }
-  const Table table = AsTable(raw.bytes);
-  CsvRow row{rowNumber_, {}};
-  Place place{file_, raw.line, 1};
-  const char* reached = table.Bytes().data();
-  for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
-    const char* const begin = table.RawCell(0, column).data();
-    place = Behind(place, {reached, static_cast<std::size_t>(begin - reached)});
-    reached = begin;
-    row.cells.push_back({ToUtf8(table.Cell(0, column)).value_or(""), place});
-  }
-  if (row.cells.empty()) row.cells.push_back({"", place});
-  return row;
+/// False for a row that is not in the file's encoding.
+bool CsvStream::TurnIntoUtf8() {
+  if (encoding_ == Encoding::kUtf8) return IsValidUtf8(bytes_);
+  std::optional<std::string> utf8 = TryGbkToUtf8(bytes_);
+  if (utf8) bytes_ = std::move(*utf8);
+  return utf8.has_value();
 }
 
-Place CsvStream::Behind(Place place, std::string_view bytes) const {
-  if (const std::size_t lineEnd = bytes.rfind('\n'); lineEnd != std::string_view::npos) {
-    place.line += static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-    place.column = 1;
-    bytes.remove_prefix(lineEnd + 1);
+void CsvStream::SplitIntoCells() {
+  const std::string_view row = bytes_;
+  PositionCounter counter({rowLine_, 1});
+  row_.cells.clear();
+  for (std::size_t begin = 0; begin <= row.size();) {
+    const std::size_t end = std::min(row.find(',', EndOfQuotes(row, begin)), row.size());
+    const Position position = counter.At();
+    counter.Take(row.substr(begin, end + 1 - begin));
+    row_.cells.push_back({TextOfCell(begin, end), position});
+    begin = end + 1;
   }
-  place.column += encoding_ == Encoding::kUtf8 ? CountUtf8Characters(bytes) : CountGbkCharacters(bytes);
-  return place;
 }
 
-std::optional<std::string> CsvStream::ToUtf8(std::string_view bytes) const {
-  if (encoding_ == Encoding::kGbk) return TryGbkToUtf8(bytes);
-  return IsValidUtf8(bytes) ? std::optional<std::string>(bytes) : std::nullopt;
+/// A cell without its quotes takes less room than with them, so it is written to where it stood.
+std::string_view CsvStream::TextOfCell(std::size_t begin, std::size_t end) {
+  const std::string_view raw = std::string_view(bytes_).substr(begin, end - begin);
+  if (!raw.starts_with(kQuote)) return raw;
+  const std::string text = Unquoted(raw);
+  text.copy(bytes_.data() + begin, text.size());
+  return raw.substr(0, text.size());
 }
 
 }  // namespace plateconfig

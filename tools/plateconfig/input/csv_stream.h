@@ -17,57 +17,56 @@
 
 namespace plateconfig {
 
+/// `text` lives until the next row is read.
 struct CsvCell {
-  std::string text;  ///< UTF-8, without quotes.
-  Place place;       ///< Where the cell begins.
+  std::string_view text;  ///< UTF-8, without quotes.
+  Position position;      ///< Where the cell begins.
 };
 
 struct CsvRow {
-  std::size_t number = 0;  ///< Row of the spreadsheet; the header is 1.
-  std::vector<CsvCell> cells;
+  std::size_t number = 0;      ///< Row of the spreadsheet; the header is 1.
+  std::vector<CsvCell> cells;  ///< At least one.
 
   bool IsBlank() const;
 };
 
 class CsvStream {
  public:
+  /// `file` is the name for messages.
   CsvStream(std::istream& in, const std::string& file, Reporter& reporter);
 
-  /// The header row; nothing when the file is empty, or its header does not decode or is not separated by
-  /// commas, which is reported.
-  std::optional<CsvRow> ReadHeader();
+  /// The header row; null when the file is empty, or its header does not decode or is not separated by
+  /// commas, which is reported. Lives until the next row is read.
+  const CsvRow* ReadHeader();
 
-  /// The next row that can be read; blank lines are rows of one empty cell. Nothing at the end.
-  std::optional<CsvRow> ReadRow();
+  /// The next row that can be read; blank lines are rows of one empty cell. Null at the end. Lives until the
+  /// next row is read.
+  const CsvRow* ReadRow();
 
   /// Rows of the spreadsheet so far, those included that were passed over.
-  std::size_t RowCount() const { return rowNumber_; }
+  std::size_t RowCount() const { return row_.number; }
 
  private:
   enum class Encoding { kUtf8, kGbk };
 
-  /// The bytes of one row, and the line on which it begins.
-  struct RawRow {
-    std::string bytes;
-    std::size_t line;
-  };
-
-  std::optional<std::string> TakeLine();
-  std::optional<RawRow> TakeRaw();
-  void GiveUp(RawRow& row, std::size_t quote);
-  std::optional<CsvRow> DecodeHeader(const RawRow& raw);
-  std::optional<CsvRow> Decode(const RawRow& raw);
-  /// The place behind `bytes`, which begin at `place`.
-  Place Behind(Place place, std::string_view bytes) const;
-  std::optional<std::string> ToUtf8(std::string_view bytes) const;
+  bool TakeLine(std::string& line);
+  bool TakeRow();
+  std::size_t TakeQuotedLines();
+  void GiveUp(std::size_t quote);
+  bool TurnIntoUtf8();
+  void SplitIntoCells();
+  std::string_view TextOfCell(std::size_t begin, std::size_t end);
+  void Report(Finding finding, Position position);
 
   std::istream& in_;
   std::string file_;
   Reporter& reporter_;
   std::deque<std::string> pending_;  ///< Lines that were read ahead and not used.
   Encoding encoding_ = Encoding::kUtf8;
-  std::size_t line_ = 0;       ///< Lines taken so far.
-  std::size_t rowNumber_ = 0;  ///< Rows taken so far.
+  std::size_t line_ = 0;     ///< Lines taken so far.
+  std::string bytes_;        ///< Of the latest row; what its cells show.
+  std::size_t rowLine_ = 0;  ///< The line on which it begins.
+  CsvRow row_;
 };
 
 }  // namespace plateconfig

@@ -5,8 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "analysis/text/shown_text.h"
-#include "plateconfig/messages/language.h"
+#include "analysis/text/position_counter.h"
 
 namespace plateconfig {
 namespace {
@@ -16,10 +15,10 @@ namespace {
 /// behind a number.
 class TokenTracker {
  public:
-  explicit TokenTracker(const Place& start) : at_(start), token_(start) {}
+  explicit TokenTracker(Position start) : counter_(start), token_(start) {}
 
-  const Place& Token() const { return token_; }
-  const Place& At() const { return at_; }
+  Position Token() const { return token_; }
+  Position At() const { return counter_.At(); }
 
   void Take(char c) {
     if (inString_) {
@@ -27,7 +26,7 @@ class TokenTracker {
     } else {
       TakeOutside(c);
     }
-    Advance(c);
+    counter_.Take(c);
   }
 
  private:
@@ -39,24 +38,13 @@ class TokenTracker {
   void TakeOutside(char c) {
     const bool begins = c == '"' || c == '[' || c == '{';
     const bool separates = std::string_view(" \t\r\n,:]}").find(c) != std::string_view::npos;
-    if (begins || (!separates && !inWord_)) token_ = at_;
+    if (begins || (!separates && !inWord_)) token_ = counter_.At();
     inWord_ = !begins && !separates;
     inString_ = c == '"';
   }
 
-  void Advance(char c) {
-    constexpr unsigned char kContinuationMask = 0xC0;
-    constexpr unsigned char kContinuation = 0x80;
-    if (c == '\n') {
-      ++at_.line;
-      at_.column = 1;
-    } else if ((static_cast<unsigned char>(c) & kContinuationMask) != kContinuation) {
-      ++at_.column;
-    }
-  }
-
-  Place at_;
-  Place token_;
+  PositionCounter counter_;
+  Position token_;
   bool inString_ = false;
   bool escaped_ = false;
   bool inWord_ = false;
@@ -89,7 +77,8 @@ class TrackedIterator {
 /// are moved into their parents as they close.
 class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
  public:
-  NodeBuilder(const TokenTracker& tracker, Reporter& reporter) : tracker_(tracker), reporter_(reporter) {}
+  NodeBuilder(const TokenTracker& tracker, const std::string& file, Reporter& reporter)
+      : tracker_(tracker), file_(file), reporter_(reporter) {}
 
   JsonNode TakeRoot() { return std::move(root_); }
 
@@ -99,11 +88,9 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
     node.flag = value;
     return Add(std::move(node));
   }
-  bool number_integer(number_integer_t value) override { return AddNumber(static_cast<double>(value), true); }
-  bool number_unsigned(number_unsigned_t value) override {
-    return AddNumber(static_cast<double>(value), true);
-  }
-  bool number_float(number_float_t value, const string_t&) override { return AddNumber(value, false); }
+  bool number_integer(number_integer_t value) override { return AddNumber(static_cast<double>(value)); }
+  bool number_unsigned(number_unsigned_t value) override { return AddNumber(static_cast<double>(value)); }
+  bool number_float(number_float_t value, const string_t&) override { return AddNumber(value); }
   bool string(string_t& value) override {
     JsonNode node = Node(JsonNode::Kind::kString);
     node.text = std::move(value);
@@ -120,39 +107,34 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
   }
   bool parse_error(std::size_t, const std::string& near, const nlohmann::detail::exception& error) override {
     constexpr int kNumberOverflow = 406;
-    const std::string shown = ShownText(near);
-    if (shown.empty()) {
-      reporter_.Error(tracker_.At(), Say("the JSON ends here too early", "JSON 在此处过早结束"));
-      return false;
-    }
-    reporter_.Error(tracker_.Token(),
-                    error.id == kNumberOverflow
-                        ? Say("this number is too large: {}", "数字过大：{}", shown)
-                        : Say("this is not JSON here: \"{}\"", "这里不符合 JSON 语法：“{}”", shown));
-    return false;
+    if (near.empty()) return Refuse("input-json-end", tracker_.At());
+    const bool isNumber = error.id == kNumberOverflow;
+    return Refuse(isNumber ? Code("input-json-number") : Code("input-json-syntax"), tracker_.Token(), near);
   }
 
  private:
+  /// False, as the parser wants it of a mistake.
+  bool Refuse(Code code, Position position, const std::string& text = {}) {
+    reporter_.Report({.code = code, .place = PlaceIn(file_, position), .text = text});
+    return false;
+  }
+
   JsonNode Node(JsonNode::Kind kind) const {
     JsonNode node;
     node.kind = kind;
-    node.place = tracker_.Token();
+    node.position = tracker_.Token();
     return node;
   }
 
-  bool AddNumber(double value, bool isInteger) {
+  bool AddNumber(double value) {
     JsonNode node = Node(JsonNode::Kind::kNumber);
     node.number = value;
-    node.isInteger = isInteger;
     return Add(std::move(node));
   }
 
   bool Open(JsonNode::Kind kind) {
     constexpr std::size_t kDeepest = 100;  // Nothing that is read here nests deeper than three.
-    if (open_.size() == kDeepest) {
-      reporter_.Error(tracker_.Token(), Say("the values are nested too deeply", "嵌套层数过多"));
-      return false;
-    }
+    if (open_.size() == kDeepest) return Refuse("input-json-depth", tracker_.Token());
     open_.push_back(Node(kind));
     return true;
   }
@@ -175,6 +157,7 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
   }
 
   const TokenTracker& tracker_;
+  const std::string& file_;
   Reporter& reporter_;
   JsonNode root_;
   std::vector<JsonNode> open_;
@@ -196,8 +179,8 @@ const JsonNode* JsonNode::Find(std::string_view name) const {
 }
 
 bool ParseJson(std::string_view text, const Place& start, Reporter& reporter, JsonNode& node) {
-  TokenTracker tracker(start);
-  NodeBuilder builder(tracker, reporter);
+  TokenTracker tracker({start.line, start.column});
+  NodeBuilder builder(tracker, start.file, reporter);
   const bool isParsed = nlohmann::json::sax_parse(
       TrackedIterator(text.data(), &tracker), TrackedIterator(text.data() + text.size(), &tracker), &builder);
   if (isParsed) node = builder.TakeRoot();

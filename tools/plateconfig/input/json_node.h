@@ -1,6 +1,6 @@
 #pragma once
 
-// A JSON value that knows where it stands in its file, so that a message can point at it.
+// A JSON value that knows where it stands, so that a message can point at it.
 
 #include <string>
 #include <string_view>
@@ -23,11 +23,10 @@ struct JsonNode {
   ~JsonNode();
 
   Kind kind = Kind::kNull;
-  Place place;
+  Position position;
   bool flag = false;
   double number = 0;
-  bool isInteger = false;  ///< The number was written without point and exponent.
-  std::string text;        ///< UTF-8.
+  std::string text;  ///< UTF-8.
   std::vector<JsonNode> items;
   std::vector<std::pair<std::string, JsonNode>> members;  ///< In the order of the file.
 

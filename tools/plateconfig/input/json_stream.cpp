@@ -1,6 +1,5 @@
 #include "plateconfig/input/json_stream.h"
 
-#include "plateconfig/messages/language.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -11,139 +10,145 @@ constexpr std::size_t kLargestObject = std::size_t{16} << 20;
 
 constexpr int kEnd = std::istream::traits_type::eof();
 
-bool IsBetweenObjects(char c) {
-  return std::string_view(" \t\r\n,[]").find(c) != std::string_view::npos;
+bool IsBlank(char c) {
+  return std::string_view(" \t\r\n").find(c) != std::string_view::npos;
 }
 
-/// Follows the nesting of one object, mistakes included: a bracket that closes what is not the innermost
-/// closes the inner ones too, and a string ends with its line at the latest.
+/// Tells where an object ends. Only a closing bracket too many or too few is noticed here; the parser sees
+/// to the rest.
 class Nesting {
  public:
-  /// True when this character closes a list that the object stands in, so that the object is never closed.
-  bool Leaves(char c) const {
-    return !inString_ && c == ']' && !open_.empty() && open_.find('[') == std::string::npos;
-  }
-
   /// True when this character closes the object.
   bool Take(char c) {
     if (inString_) {
-      if (c == '\n' || (!escaped_ && c == '"')) inString_ = false;
-      escaped_ = inString_ && !escaped_ && c == '\\';
+      TakeInString(c);
       return false;
     }
     inString_ = c == '"';
-    if (c == '{' || c == '[') open_ += c;
-    if (c == '}') Close('{');
-    if (c == ']') Close('[');
-    return open_.empty();
+    if (c == '{' || c == '[') ++depth_;
+    return (c == '}' || c == ']') && --depth_ == 0;
   }
 
  private:
-  void Close(char opening) { open_.erase(open_.rfind(opening)); }
+  /// A string ends with its line at the latest: JSON has none over two lines.
+  void TakeInString(char c) {
+    inString_ = c != '\n' && (isEscaped_ || c != '"');
+    isEscaped_ = inString_ && !isEscaped_ && c == '\\';
+  }
 
-  std::string open_;  ///< The brackets that are open, the innermost last.
+  std::size_t depth_ = 0;
   bool inString_ = false;
-  bool escaped_ = false;
-};
-
-/// Tells where a line begins.
-class LineBegin {
- public:
-  bool IsHere() const { return isHere_; }
-  void Take(char c) { isHere_ = c == '\n' || (isHere_ && (c == ' ' || c == '\t')); }
-
- private:
-  bool isHere_ = false;
+  bool isEscaped_ = false;
 };
 
 }  // namespace
 
 JsonStream::JsonStream(std::istream& in, const std::string& file, Reporter& reporter)
-    : in_(in), at_{file, 1, 1}, reporter_(reporter) {
+    : in_(in), file_(file), reporter_(reporter) {
+  SkipByteOrderMark();
+}
+
+void JsonStream::SkipByteOrderMark() {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  while (pending_.size() < kByteOrderMark.size() && in_.peek() != kEnd) {
-    pending_ += static_cast<char>(in_.get());
+  std::size_t taken = 0;
+  while (taken < kByteOrderMark.size() && Peek() == static_cast<unsigned char>(kByteOrderMark[taken])) {
+    in_.get();
+    ++taken;
   }
-  if (pending_ == kByteOrderMark) pending_.clear();
+  // A part of it is the begin of some other character.
+  if (taken != 0 && taken != kByteOrderMark.size())
+    Report({.code = "input-json-stray", .text = "…", .words = {"{…}"}}, counter_.At());
 }
 
-int JsonStream::Peek() {
-  return pendingAt_ < pending_.size() ? static_cast<unsigned char>(pending_[pendingAt_]) : in_.peek();
+void JsonStream::Report(Finding finding, Position position) {
+  finding.place = PlaceIn(file_, position);
+  reporter_.Report(finding);
 }
 
-int JsonStream::Take() {
-  const int c = pendingAt_ < pending_.size() ? static_cast<unsigned char>(pending_[pendingAt_++]) : in_.get();
-  if (c == '\n') {
-    ++at_.line;
-    at_.column = 1;
-  } else if (c != kEnd && (c & 0xC0) != 0x80) {
-    ++at_.column;
-  }
+char JsonStream::Take() {
+  const char c = static_cast<char>(in_.get());
+  counter_.Take(c);
   return c;
 }
 
-std::optional<std::string> JsonStream::TakeObject() {
-  const Place start = at_;
-  std::string text;
-  std::optional<Restart> restart;
-  Nesting nesting;
-  LineBegin lineBegin;
-  while (text.size() < kLargestObject && Peek() != kEnd) {
-    const char next = static_cast<char>(Peek());
-    if (next == '{' && lineBegin.IsHere() && at_.column <= start.column) {
-      if (!restart) restart = Restart{text.size(), at_};
-      if (isRecovering_) break;
+std::optional<JsonNode> JsonStream::Next() {
+  while (!isLost_ && Peek() != kEnd) {
+    const char c = static_cast<char>(Peek());
+    if (c != '{') {
+      TakeSeparator(c);
+    } else if (std::optional<JsonNode> object = ReadObject()) {
+      return object;
     }
-    if (nesting.Leaves(next)) break;
-    Take();
-    text += next;
-    lineBegin.Take(next);
-    if (nesting.Take(next)) return text;
   }
-  GiveUp(start, text, restart);
+  CheckEnd();
   return std::nullopt;
 }
 
-void JsonStream::GiveUp(const Place& start, const std::string& text, const std::optional<Restart>& restart) {
-  if (!restart) {
-    reporter_.Error(start, Say("this object is never closed; what follows it can not be read",
-                               "这个对象没有结束，后面的内容无法读取"));
-    isAtEnd_ = true;
+/// Takes what stands between objects.
+void JsonStream::TakeSeparator(char c) {
+  if (IsBlank(c)) {
+    Take();
+  } else if (c == '[') {
+    Take();
+    ++openLists_;
+    before_ = Before::kOpening;
+  } else if (c == ']' && openLists_ > 0 && before_ != Before::kComma) {
+    Take();
+    --openLists_;
+    before_ = Before::kValue;
+  } else if (c == ',' && before_ == Before::kValue) {
+    Take();
+    before_ = Before::kComma;
+  } else {
+    SkipStray();
+  }
+}
+
+/// Reports what stands where an object should, once, and passes it over.
+void JsonStream::SkipStray() {
+  const Position position = counter_.At();
+  const char first = Take();
+  const bool isAscii = static_cast<unsigned char>(first) < 0x80;
+  Report({.code = "input-json-stray", .text = isAscii ? std::string(1, first) : "…", .words = {"{…}"}},
+         position);
+  if (first == ']' && openLists_ > 0) {
+    --openLists_;
+    before_ = Before::kValue;
     return;
   }
-  reporter_.Error(start, Say("this object is never closed and is passed over; the next one begins on line {}",
-                             "这个对象没有结束，被跳过；下一个对象从第 {} 行开始", restart->place.line));
-  isRecovering_ = true;
-  at_ = restart->place;
-  if (restart->offset == text.size()) return;
-  pending_ = text.substr(restart->offset) + pending_.substr(pendingAt_);
-  pendingAt_ = 0;
+  before_ = Before::kOpening;
+  while (Peek() != kEnd && Peek() != '{' && (openLists_ == 0 || Peek() != ']')) Take();
 }
 
-void JsonStream::SkipStray(char first) {
-  reporter_.Error(at_,
-                  Say("an object {{…}} is expected here, not \"{}\"", "这里应当是一个对象 {{…}}，而不是“{}”",
-                      static_cast<unsigned char>(first) < 0x80 ? std::string(1, first) : "…"));
-  while (Peek() != kEnd && Peek() != '{') Take();
+/// Reports a text that is cut off.
+void JsonStream::CheckEnd() {
+  if (isLost_ || (openLists_ == 0 && before_ != Before::kComma)) return;
+  isLost_ = true;  // So that it is said once.
+  Report({.code = "input-json-end"}, counter_.At());
 }
 
-std::optional<JsonNode> JsonStream::Next() {
-  while (!isAtEnd_ && Peek() != kEnd) {
-    const char c = static_cast<char>(Peek());
-    if (c != '{') {
-      IsBetweenObjects(c) ? static_cast<void>(Take()) : SkipStray(c);
-      continue;
-    }
-    const Place start = at_;
-    const auto text = TakeObject();
-    if (!text) continue;
-    if (!IsValidUtf8(*text)) {
-      reporter_.Error(start, Say("this object is not UTF-8; save the file as UTF-8",
-                                 "这个对象不是 UTF-8；请将文件存为 UTF-8"));
-      continue;
-    }
-    JsonNode node;
-    if (ParseJson(*text, start, reporter_, node)) return node;
+std::optional<JsonNode> JsonStream::ReadObject() {
+  const Place start = PlaceIn(file_, counter_.At());
+  before_ = Before::kValue;
+  const std::optional<std::string> text = TakeObject();
+  if (!text) {
+    isLost_ = true;
+    reporter_.Report({.code = "input-json-open-object", .place = start});
+  } else if (!IsValidUtf8(*text)) {
+    reporter_.Report({.code = "input-json-encoding", .place = start});
+  } else if (JsonNode node; ParseJson(*text, start, reporter_, node)) {
+    return node;
+  }
+  return std::nullopt;
+}
+
+/// The characters of one object; nothing when it is never closed.
+std::optional<std::string> JsonStream::TakeObject() {
+  std::string text;
+  Nesting nesting;
+  while (text.size() < kLargestObject && Peek() != kEnd) {
+    text += Take();
+    if (nesting.Take(text.back())) return text;
   }
   return std::nullopt;
 }

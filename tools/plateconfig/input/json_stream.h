@@ -1,14 +1,17 @@
 #pragma once
 
-// The objects of a long JSON text, one at a time: an array of objects, or objects one after another (JSON
-// Lines). Only one object is held in memory, and an object with a mistake does not spoil the ones behind it,
-// not even one that is never closed, if they begin on lines of their own.
+// The objects of a long JSON text, one at a time: a list of objects, or objects one after another (JSON
+// Lines). Every character is read once and only one object is held in memory. A mistake inside an object
+// costs that object alone, because its braces tell where the next one begins; behind an object that is never
+// closed nothing can be told, and nothing is read.
 
 #include <cstddef>
 #include <istream>
 #include <optional>
 #include <string>
+#include <string_view>
 
+#include "analysis/text/position_counter.h"
 #include "plateconfig/input/json_node.h"
 #include "plateconfig/messages/reporter.h"
 
@@ -23,27 +26,26 @@ class JsonStream {
   std::optional<JsonNode> Next();
 
  private:
-  /// A line within an object that begins like a next object: no further right than the object itself.
-  struct Restart {
-    std::size_t offset;
-    Place place;
-  };
+  /// What stands before the next character, blanks apart.
+  enum class Before { kOpening, kValue, kComma };
 
-  int Peek();
-  int Take();
+  int Peek() { return in_.peek(); }
+  char Take();
+  void SkipByteOrderMark();
+  void TakeSeparator(char c);
+  std::optional<JsonNode> ReadObject();
   std::optional<std::string> TakeObject();
-  void GiveUp(const Place& start, const std::string& text, const std::optional<Restart>& restart);
-  void SkipStray(char first);
+  void SkipStray();
+  void CheckEnd();
+  void Report(Finding finding, Position position);
 
   std::istream& in_;
-  std::string pending_;  ///< Was read ahead; comes before what `in_` has.
-  std::size_t pendingAt_ = 0;
-  Place at_;
+  std::string file_;
   Reporter& reporter_;
-  /// One object was never closed. From then on a line that begins like a next object ends the one before, so
-  /// that many such mistakes do not make every object be searched to the end of the file.
-  bool isRecovering_ = false;
-  bool isAtEnd_ = false;
+  PositionCounter counter_;
+  std::size_t openLists_ = 0;
+  Before before_ = Before::kOpening;
+  bool isLost_ = false;  ///< An object was never closed.
 };
 
 }  // namespace plateconfig

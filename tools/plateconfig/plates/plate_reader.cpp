@@ -6,8 +6,7 @@ namespace plateconfig {
 
 std::unique_ptr<PlateReader> ReadPlates(std::istream& in, const std::string& file,
                                         const PlateVocabulary& vocabulary, Reporter& reporter) {
-  return IsJson(in, file) ? ReadPlatesFromJson(in, file, vocabulary, reporter)
-                          : ReadPlatesFromCsv(in, file, vocabulary, reporter);
+  return ReadRecords(in, file, PlateFields(vocabulary), reporter);
 }
 
 }  // namespace plateconfig

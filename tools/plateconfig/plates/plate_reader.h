@@ -9,36 +9,16 @@
 #include <optional>
 #include <string>
 
-#include "analysis/rules/plate_features.h"
 #include "plateconfig/messages/reporter.h"
-#include "plateconfig/plates/plate_vocabulary.h"
-#include "rules/evaluation.h"
+#include "plateconfig/plates/plate_fields.h"
 
 namespace plateconfig {
 
-struct PlateInput {
-  std::string name;  ///< UTF-8.
-  Place place;
-  Plate plate;
-  PlateFeatures features;
-};
-
-class PlateReader {
- public:
-  virtual ~PlateReader() = default;
-
-  /// The next plate without a mistake; nothing at the end.
-  virtual std::optional<PlateInput> Next() = 0;
-};
+using PlateReader = RecordReader<PlateInput>;
 
 /// The reader for a file of this name (for messages, and because .json and .csv decide the form; otherwise
 /// its first character does). Everything is referred to, not copied.
 std::unique_ptr<PlateReader> ReadPlates(std::istream& in, const std::string& file,
                                         const PlateVocabulary& vocabulary, Reporter& reporter);
-
-std::unique_ptr<PlateReader> ReadPlatesFromCsv(std::istream& in, const std::string& file,
-                                               const PlateVocabulary& vocabulary, Reporter& reporter);
-std::unique_ptr<PlateReader> ReadPlatesFromJson(std::istream& in, const std::string& file,
-                                                const PlateVocabulary& vocabulary, Reporter& reporter);
 
 }  // namespace plateconfig

@@ -31,6 +31,9 @@ class PlateVocabulary {
   /// What a column or member of this name (UTF-8) means; null for an unknown name.
   const Feature* Find(std::string_view name) const;
 
+  /// All of them by name.
+  const std::map<std::string, Feature, std::less<>>& Features() const { return features_; }
+
   /// The known name that looks most like this one, for a message; empty when none is near. `others` are
   /// further names.
   std::string Suggest(std::string_view name, const std::vector<std::string_view>& others) const;

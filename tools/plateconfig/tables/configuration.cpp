@@ -6,8 +6,8 @@
 #include "analysis/text/shown_text.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
-#include "plateconfig/input/json_members.h"
 #include "plateconfig/input/json_node.h"
+#include "plateconfig/input/json_values.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/console.h"
 #include "plateconfig/system/file_kind.h"
@@ -123,24 +123,25 @@ void Configuration::ReadManifest() {
   JsonNode root;
   if (!ParseJson(WithoutByteOrderMark(bytes->View()), {manifest.shownAs, 1, 1}, reporter_, root)) return;
   if (root.kind != JsonNode::Kind::kObject) {
-    reporter_.Error(root.place, Say("the manifest should be an object {{ role: file name, … }}",
-                                    "清单应当是一个对象 {{ 角色: 文件名, … }}"));
+    reporter_.Error(PlaceIn(manifest.shownAs, root.position),
+                    Say("the manifest should be an object {{ role: file name, … }}",
+                        "清单应当是一个对象 {{ 角色: 文件名, … }}"));
     return;
   }
   isUsable_ = true;
-  ReadMembers(root, {}, reporter_, [this](const std::string& name, const JsonNode& file) {
-    ReadRole(name, file);
-    return true;  // An unknown one is warned of as a role.
-  });
+  JsonValues(manifest.shownAs, reporter_)
+      .ForEachMember(root,
+                     [&](const std::string& name, const JsonNode& file) { ReadRole(name, file, manifest); });
 }
 
-void Configuration::ReadRole(const std::string& name, const JsonNode& file) {
+void Configuration::ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest) {
+  const Place place = PlaceIn(manifest.shownAs, file.position);
   const auto role = FindRole(name, ManifestRoles());
   if (!role) {
-    reporter_.Warning(file.place, UnknownRole(name));
+    reporter_.Warning(place, UnknownRole(name));
   } else if (file.kind != JsonNode::Kind::kString) {
-    reporter_.Error(file.place, Say("the file of the role {} should be a text in quotes",
-                                    "角色 {} 的文件名应当是带引号的文本", name));
+    reporter_.Error(place, Say("the file of the role {} should be a text in quotes",
+                               "角色 {} 的文件名应当是带引号的文本", name));
   } else {
     manifest_[*role] = file.text;
   }

@@ -46,7 +46,7 @@ class Configuration {
   std::optional<TableFile> ReadableAgain(const TableFile& table);
   bool FindFolder();
   void ReadManifest();
-  void ReadRole(const std::string& name, const JsonNode& file);
+  void ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest);
   std::optional<TableFile> InFolder(const std::string& name) const;
 
   const ConfigurationOptions& options_;
