@@ -3,8 +3,8 @@
 namespace plateconfig {
 
 // Each in a file of its own: folder_command.cpp and so on.
-AddOptions FolderOptions, ProcessOptions, ExplainOptions, HolesOptions, ShowOptions, SchemaOptions,
-    TemplateOptions;
+AddOptions FolderOptions, ProcessOptions, ExplainOptions, DiffOptions, HolesOptions, ShowOptions,
+    SchemaOptions, TemplateOptions;
 
 std::span<const Verb> Verbs() {
   static constexpr Verb kVerbs[] = {
@@ -14,6 +14,8 @@ std::span<const Verb> Verbs() {
        ProcessOptions},
       {"explain", "tell for each plate which rule row fits, and why none before it does",
        "说明每块板符合哪一规则行，以及之前各行为何不符合", ExplainOptions},
+      {"diff", "tell what changed between two configurations, and for which plates",
+       "比较两个配置：有哪些变化，影响哪些板", DiffOptions},
       {"holes", "list for each combined hole the types that it belongs to, with their scores, best first",
        "列出每个组合孔所属的类型及其得分，得分最高者在前", HolesOptions},
       {"show", "print every setting of a configuration, and where it comes from",

@@ -11,14 +11,14 @@ void Reporter::Error(const Place& place, const std::string& text) {
 }
 
 void Reporter::Warning(const Place& place, const std::string& text) {
-  hasFindings_ = true;
+  hasFindings_ = hasFindings_ || warningsCount_;
   Write(place, "warning", text);
 }
 
 void Reporter::Report(const Finding& finding) {
   const Severity severity = finding.code.Row().severity;
   hasErrors_ = hasErrors_ || severity == Severity::kError;
-  hasFindings_ = hasFindings_ || severity == Severity::kWarning;
+  hasFindings_ = hasFindings_ || (warningsCount_ && severity == Severity::kWarning);
   Write(finding.place, NameOf(severity), LineOf(finding, CurrentLanguage()));
 }
 

@@ -29,6 +29,8 @@ class Reporter {
   void Report(const Finding& finding);
   /// A result that the user should look at, already shown in the output.
   void CountFinding() { hasFindings_ = true; }
+  /// From now on warnings do not count: whether the input looks wrong is not what the verb answers.
+  void ShowWarningsOnly() { warningsCount_ = false; }
 
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
@@ -43,6 +45,7 @@ class Reporter {
   std::function<void()> prepare_;
   bool hasErrors_ = false;
   bool hasFindings_ = false;
+  bool warningsCount_ = true;
 };
 
 }  // namespace plateconfig
