@@ -186,14 +186,19 @@ TEST_F(DiffCommand, APlateWithoutARowHasNoLine) {
 }
 
 TEST_F(DiffCommand, EachTableIsFedWithItsOwnProcessList) {
-  WriteRules("old", With(kRows, "有无圆孔", "自定义追加工艺"));
-  // Only the old table knows 钻孔 as a process that is ordered by hand, and only the new one asks for holes.
+  // The two processes exchange their conditions: what is ordered by hand is known to one table alone.
+  WriteRules("new", With(With(kRows, "下料,自定义追加工艺", "下料,有无圆孔"), "钻孔,有无圆孔",
+                         "钻孔,自定义追加工艺"));
   const std::string plates =
-      "名称,长度,宽度,厚度,重量,体颜色,有无圆孔,钻孔\n甲,50,40,10,1,12,Y,N\n乙,50,40,10,1,12,N,Y\n"
-      "丙,50,40,10,1,12,Y,Y\n";
+      "名称,长度,宽度,厚度,重量,体颜色,有无圆孔,下料,钻孔\n"
+      "甲,50,40,10,1,12,Y,N,N\n"
+      "乙,50,40,10,1,12,N,Y,N\n"
+      "丙,50,40,10,1,12,N,N,Y\n"
+      "丁,50,40,10,1,12,Y,Y,Y\n";
   EXPECT_EQ(DiffAsJson({"--plates", "-"}, plates)["plates"], Json::parse(R"([
-      {"name": "甲", "old": {"line": 2, "text": ""}, "new": {"line": 2, "text": "钻"}},
-      {"name": "乙", "old": {"line": 2, "text": "钻"}, "new": {"line": 2, "text": ""}}])"));
+      {"name": "甲", "old": {"line": 2, "text": "钻"}, "new": {"line": 2, "text": "锯"}},
+      {"name": "乙", "old": {"line": 2, "text": "锯"}, "new": {"line": 2, "text": ""}},
+      {"name": "丙", "old": {"line": 2, "text": ""}, "new": {"line": 2, "text": "钻"}}])"));
 }
 
 TEST_F(DiffCommand, RenumberingAloneIsNoDifferenceEvenWhereTheTextsHoldTheNumbers) {
