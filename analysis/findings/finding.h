@@ -38,7 +38,8 @@ class Code {
 
 struct Finding {
   Code code;
-  Place place = {};
+  // Written out: optimising, g++ 12 takes the file of a {} for uninitialised when a later member throws.
+  Place place = Place();
   std::string cell = {};                 ///< C17 as the spreadsheet names it; empty for none.
   std::string columnName = {};           ///< Header of the column, UTF-8; empty for none.
   std::optional<std::string> text = {};  ///< The offending text, UTF-8.

@@ -28,7 +28,9 @@ inline CompanionResult RunPlateconfig(std::vector<std::string> arguments, const 
   const ScopedVariable locale("LC_ALL", "C.UTF-8");
 #ifdef _WIN32
   // The last one counts, and there the language is not a variable's.
-  const auto isLanguage = [](const std::string& argument) { return argument.starts_with("--lang"); };
+  const auto isLanguage = [](const std::string& argument) {
+    return argument == "--lang" || argument.starts_with("--lang=");
+  };
   if (std::none_of(arguments.begin(), arguments.end(), isLanguage))
     arguments.insert(arguments.begin(), {"--lang", "en"});
 #endif

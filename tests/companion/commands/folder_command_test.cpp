@@ -119,9 +119,10 @@ TEST(FolderCommand, AnIndexWithoutItsColumnsOrRowsLeadsToTheConfigFolder) {
     const auto result = RunPlateconfig({"folder"});
     EXPECT_EQ(result.exitCode, 1) << table;
     EXPECT_THAT(result.out, StartsWith(root.Config() + "\n")) << table;
-    EXPECT_EQ(result.err, root.Index() +
-                              ": warning: the index table lacks rows or one of its columns 文件夹名称 and "
-                              "有效配置; the folder config itself is active\n")
+    EXPECT_THAT(result.err,
+                StartsWith(root.Index() +
+                           ": warning: the index table lacks rows or one of its columns 文件夹名称 and "
+                           "有效配置; the folder config itself is active\n"))
         << table;
   }
 }
@@ -143,8 +144,14 @@ TEST(FolderCommand, OnlyAFlagOfExactlyOneLetterYIsActive) {
   const auto result = RunPlateconfig({"folder"});
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.out, StartsWith(root.Config() + "\n"));
+  const std::string almost =
+      " is not exactly Y, so the row is not active; write Y or N; it is read as N; did you mean \"Y\"?\n";
   EXPECT_EQ(result.err,
-            root.Index() + ": warning: no row is active (Y); the folder config itself is active\n");
+            root.Index() + ":2:3: warning: B2: \"YES\"" + almost + root.Index() +
+                ":4:3: warning: B4: \" Y\" (with a blank)" + almost + root.Index() +
+                ":6:1: warning: A6: this row is marked as active but names no folder, so it is passed "
+                "over; write the name of a folder below config\n" +
+                root.Index() + ": warning: no row is active (Y); the folder config itself is active\n");
 }
 
 TEST(FolderCommand, ASmallYIsActiveToo) {
@@ -172,7 +179,8 @@ TEST(FolderCommand, AFolderThatDoesNotExistIsAnError) {
   root.WriteIndex("标准,Y\n");
   const auto result = RunPlateconfig({"folder"});
   EXPECT_EQ(result.exitCode, 2);
-  EXPECT_EQ(result.err, root.Config() + kSeparator + "标准: error: this folder does not exist\n");
+  EXPECT_EQ(result.err, root.Index() + ":2:1: error: A2: the folder " + root.Config() + kSeparator +
+                            "标准 does not exist\n");
 }
 
 }  // namespace

@@ -201,8 +201,8 @@ TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
 
 TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
-            "plateconfig: error: a verb is missing: one of folder, process, explain, diff, holes, show, "
-            "schema, template");
+            "plateconfig: error: a verb is missing: one of folder, check, process, explain, diff, "
+            "holes, show, schema, template");
   EXPECT_EQ(Complaint({"process"}), "plateconfig: error: plates is required");
   EXPECT_EQ(Complaint({"holes", "a.csv"}), "plateconfig: error: --types is required");
   EXPECT_EQ(Complaint({"process", "--config"}), "plateconfig: error: the value behind --config is missing");
