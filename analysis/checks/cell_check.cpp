@@ -32,6 +32,10 @@ struct CheckedCell {
   Finding Finds(Code code) const { return CellFinding(code, table, row, column); }
 };
 
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 /// What the library makes of the cell, UTF-8.
 std::string UsedAs(const CheckedCell& cell) {
   const Cells taken = cell.schema.taken ? cell.schema.taken({cell.gbk}) : Cells();
@@ -151,7 +155,10 @@ void CheckFlag(FlagLetters letters, const CheckedCell& cell, const Raise& raise)
 bool IsStyle(const std::string& text) {
   const std::vector<std::string> fields = SplitString(text, "|");
   constexpr std::size_t kFields = 6;
-  if (fields.size() != kFields || fields.front().empty() || !StrictInteger(fields.back())) return false;
+  if (fields.size() != kFields || !StrictInteger(fields.back())) return false;
+  const std::string& font = fields.front();
+  if (font.empty() || IsBlank(font.front()) || IsBlank(font.back()) || StrictNumber(fields[1]) <= 0.0)
+    return false;
   return std::all_of(fields.begin() + 1, fields.end() - 1,
                      [](const std::string& field) { return StrictNumber(field).has_value(); });
 }
@@ -191,20 +198,25 @@ void CheckExact(const CheckedCell& cell, const Raise& raise) {
   raise(finding);
 }
 
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
+/// What a spreadsheet program writes for a formula that fails.
+bool IsFormulaError(std::string_view text) {
+  constexpr std::string_view kErrors[] = {"#REF!", "#N/A", "#VALUE!", "#NAME?", "#DIV/0!", "#NUM!", "#NULL!"};
+  return std::any_of(std::begin(kErrors), std::end(kErrors),
+                     [&](std::string_view error) { return text.find(error) != std::string_view::npos; });
 }
 
 /// Nothing is trimmed, and a blank at an end is not seen. A connector may well have blanks on both sides.
 void CheckText(const CheckedCell& cell, const Raise& raise) {
   using namespace literals;
   const std::string_view text = cell.gbk;
+  if (IsFormulaError(text)) return raise(cell.Finds("text-formula-error"));
+  if (text.find('?') != std::string_view::npos) raise(cell.Finds("text-question-mark"));
   const bool isInFront = IsBlank(text.front()) || text.starts_with("\u3000"_gbk);
   const bool isBehind = IsBlank(text.back()) || text.ends_with("\u3000"_gbk);
   if (isInFront == isBehind) return;
   Finding finding = cell.Finds("text-blank");
-  const std::size_t begin = text.find_first_not_of(" \t");
-  finding.fix = GbkToUtf8(text.substr(begin, text.find_last_not_of(" \t") + 1 - begin));
+  const std::size_t begin = text.find_first_not_of(" \t\r\n");
+  finding.fix = GbkToUtf8(text.substr(begin, text.find_last_not_of(" \t\r\n") + 1 - begin));
   raise(finding);
 }
 
@@ -250,10 +262,10 @@ void CheckFilled(const CheckedCell& cell, const Raise& raise) {
 void CheckEmptyFirst(const CheckedCell& cell, const Raise& raise) {
   if (cell.schema.emptyIsAbsent || !cell.schema.taken) return;
   const Cells taken = cell.schema.taken({cell.gbk});
-  if (taken == cell.schema.whenAbsent || taken.empty()) return;
+  const bool isPlainText = cell.schema.form == CellForm::kText;
+  if (taken.empty() || (isPlainText && taken == cell.schema.whenAbsent)) return;
   const std::string absent = cell.schema.whenAbsent.empty() ? "" : GbkToUtf8(cell.schema.whenAbsent.front());
-  Finding finding =
-      cell.schema.type == CellType::kText ? cell.Finds("cell-empty-text") : cell.Finds("cell-reads-as-zero");
+  Finding finding = isPlainText ? cell.Finds("cell-empty-text") : cell.Finds("cell-reads-as-zero");
   finding.usedAs = GbkToUtf8(taken.front());
   finding.words = {absent};
   raise(finding);
@@ -290,13 +302,26 @@ class CellCheck {
       Check({table_, column, row, at, table_.Cells().Cell(row, at)}, hasManyRows);
     }
     if (!hasManyRows) CheckBelow(at);
+    if (column.isList) CheckGaps(at);
+  }
+
+  /// An empty cell inside a list ends nothing; of a list of texts it is one of them.
+  void CheckGaps(std::size_t column) {
+    std::size_t last = table_.RowCount();
+    while (last > 0 && table_.Cells().CellEquals(last, column, "")) --last;
+    for (std::size_t row = 1; row < last; ++row) {
+      if (table_.Cells().CellEquals(row, column, ""))
+        return raise_(CellFinding("list-gap", table_, row, column));
+    }
   }
 
   void Check(const CheckedCell& cell, bool hasManyRows) {
     if (!cell.gbk.empty()) {
       // The names of parameters and processes, and the values of other parameters than ours, are looked at
       // elsewhere.
-      if (cell.schema.use == ColumnUse::kValues) CheckFilled(cell, raise_);
+      const bool isValue =
+          cell.schema.use == ColumnUse::kValues || cell.schema.use == ColumnUse::kPlaceholder;
+      if (isValue) CheckFilled(cell, raise_);
     } else if (!hasManyRows) {
       CheckEmptyFirst(cell, raise_);
     }

@@ -12,25 +12,6 @@
 namespace plateconfig {
 namespace {
 
-/// The absent name that a header was probably meant to be: the same but for width, case, script, blanks or a
-/// unit; or one that it shortens or lengthens; or one that differs in few characters.
-std::string ProbablyMeant(const std::string& name, const std::vector<std::string>& absent) {
-  constexpr std::size_t kTwoCharacters = 6;
-  const std::string folded = FoldedNameWithoutUnit(name);
-  if (folded.empty()) return {};
-  for (const std::string& candidate : absent) {
-    if (FoldedNameWithoutUnit(candidate) == folded) return candidate;
-  }
-  std::vector<std::string> nested;
-  for (const std::string& candidate : absent) {
-    const std::string other = FoldedName(candidate);
-    if (other.find(folded) != std::string::npos || folded.find(other) != std::string::npos)
-      nested.push_back(candidate);
-  }
-  if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
-  return MostSimilarName(name, {absent.begin(), absent.end()});
-}
-
 /// Few names as a message lists them.
 std::string Listed(const std::vector<std::string>& names) {
   constexpr std::size_t kMost = 3;
@@ -48,13 +29,17 @@ class ColumnCheck {
     }
   }
 
-  void Run() {
+  std::set<std::size_t> Run() {
     bool isForeign = true;
     for (std::size_t column = 0; column < table_.ColumnCount(); ++column) {
       if (CheckHeader(column)) isForeign = false;
     }
-    if (isForeign) return RaiseForeign();
-    for (const ColumnSchema& column : schema_.columns) CheckPresence(column);
+    if (isForeign) {
+      RaiseForeign();
+    } else {
+      for (const ColumnSchema& column : schema_.columns) CheckPresence(column);
+    }
+    return told_;
   }
 
  private:
@@ -68,7 +53,7 @@ class ColumnCheck {
 
   bool CheckUnknown(std::size_t column) {
     const std::string name = table_.ColumnName(column);
-    const std::string meant = ProbablyMeant(name, absent_);
+    const std::string meant = ProbablyMeantName(name, absent_);
     if (!meant.empty()) {
       Finding finding = HeaderFinding("column-misspelled", column);
       finding.fix = meant;
@@ -107,7 +92,8 @@ class ColumnCheck {
     raise_(finding);
   }
 
-  Finding HeaderFinding(Code code, std::size_t column) const {
+  Finding HeaderFinding(Code code, std::size_t column) {
+    told_.insert(column);
     Finding finding{code, table_.PlaceOf(0, column)};
     finding.cell = CellName(column, 1);
     finding.text = table_.ColumnName(column);
@@ -119,6 +105,7 @@ class ColumnCheck {
   const Raise& raise_;
   std::set<std::string> read_;       ///< GBK
   std::vector<std::string> absent_;  ///< UTF-8; of `read_` those that the table does not have.
+  std::set<std::size_t> told_;       ///< Columns with a finding at their header.
 };
 
 }  // namespace
@@ -145,11 +132,11 @@ bool IsRemarkColumn(const std::string& name) {
          });
 }
 
-void CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise) {
+std::set<std::size_t> CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise) {
   const bool isAnyColumnRead =
       std::all_of(schema.columns.begin(), schema.columns.end(),
                   [](const auto& column) { return column.use == ColumnUse::kPlaceholder; });
-  if (!isAnyColumnRead) ColumnCheck(table, schema, raise).Run();
+  return isAnyColumnRead ? std::set<std::size_t>() : ColumnCheck(table, schema, raise).Run();
 }
 
 }  // namespace plateconfig

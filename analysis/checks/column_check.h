@@ -18,6 +18,7 @@ bool IsRemarkColumn(const std::string& name);
 
 /// Raises what the header tells: columns that look misspelled, stand there twice, or are unknown while others
 /// are absent; columns that are absent; a table without any column of its role.
-void CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise);
+/// Gives the columns whose headers have a finding.
+std::set<std::size_t> CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise);
 
 }  // namespace plateconfig

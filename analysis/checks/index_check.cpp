@@ -39,7 +39,10 @@ class IndexCheck {
 
   void RaiseNoRows() {
     RaiseWhole("index-no-rows", {GbkToUtf8(kIndexFolderColumn), GbkToUtf8(kIndexFlagColumn), kConfigItself});
-    CheckHeader(given_, raise_);
+    // That there are no rows is said already.
+    CheckHeader(given_, [&](const Finding& finding) {
+      if (finding.code != Code("table-no-rows") && finding.code != Code("table-empty")) raise_(finding);
+    });
   }
 
   void CheckRows() {
@@ -86,13 +89,28 @@ bool EndsInConfig(std::string_view root) {
   return FoldedName(root.substr(separator == std::string_view::npos ? 0 : separator + 1)) == "config";
 }
 
+/// At the last row that leads there, if one does.
+Finding MissingFolder(const ConfigurationIndex& index, const GivenTable& given, const std::string& folder) {
+  const auto row = std::find_if(index.rows.rbegin(), index.rows.rend(),
+                                [](const IndexRow& each) { return each.isActive; });
+  const auto column = given.table ? given.table->FindColumn(kIndexFolderColumn) : std::nullopt;
+  const bool hasCell = row != index.rows.rend() && column;
+  Finding finding{"index-folder-missing", {hasCell ? given.name : folder}};
+  if (hasCell) {
+    const auto at = static_cast<std::size_t>(index.rows.rend() - row);
+    finding = CellFinding("index-folder-missing", TableText(given.name, *given.table), at, *column);
+  }
+  finding.words = {folder};
+  return finding;
+}
+
 }  // namespace
 
 void CheckIndex(const ConfigurationIndex& index, const GivenTable& given, const IndexNames& names,
                 const Raise& raise) {
   IndexCheck(index, given, raise).Run();
-  if (EndsInConfig(names.root)) raise({"root-ends-in-config", {"TQConfig"}});
-  if (!names.activeFolderExists) raise({"index-folder-missing", {names.activeFolder}});
+  if (EndsInConfig(names.root)) raise({"root-ends-in-config", {given.name}});
+  if (!names.activeFolderExists) raise(MissingFolder(index, given, names.activeFolder));
 }
 
 }  // namespace plateconfig

@@ -13,6 +13,7 @@
 #include "analysis/schema/table_schema.h"
 #include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
+#include "analysis/text/strict_values.h"
 #include "rules/condition_texts.h"
 #include "rules/rule_table_keys.h"
 #include "text/gbk.h"
@@ -169,8 +170,9 @@ bool AsksForParameter(ProcessRule::RuleType type) {
 
 class ProcessCheck {
  public:
-  ProcessCheck(const TableText& table, const Raise& raise)
+  ProcessCheck(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise)
       : table_(table),
+        toldHeaders_(toldHeaders),
         raise_(raise),
         names_(table.Cells().FindColumn(columns::kProcessName)),
         conditions_(table.Cells().FindColumn(columns::kConditionType)),
@@ -232,17 +234,32 @@ class ProcessCheck {
   void CheckParameter(std::size_t row, const std::string& name, const std::string& condition,
                       ProcessRule::RuleType type) {
     const bool isEmpty = Cell(row, parameters_).empty();
-    if (AsksForParameter(type) != isEmpty) return;
+    if (AsksForParameter(type) != isEmpty) return CheckMeaning(row, type);
     Finding finding = isEmpty ? CellFinding("condition-without-parameter", table_, row, *parameters_)
                               : CellFinding("condition-parameter-unused", table_, row, *parameters_);
     finding.words = {GbkToUtf8(condition), GbkToUtf8(name)};
     raise_(finding);
   }
 
+  /// A number that no plate ever has.
+  void CheckMeaning(std::size_t row, ProcessRule::RuleType type) {
+    constexpr int kLastColor = 216;
+    if (FedByOf(type) != FedBy::kColors) return;
+    const auto colors = StrictIntegers(Cell(row, parameters_));
+    if (!colors) return;
+    for (const int color : *colors) {
+      if (color >= 1 && color <= kLastColor) continue;
+      Finding finding = CellFinding("color-out-of-range", table_, row, *parameters_);
+      finding.text = std::to_string(color);
+      raise_(finding);
+    }
+  }
+
   /// A column with texts in rule rows that nobody lists.
   void CheckColumn(std::size_t column) {
     const auto layer = table_.Cells().FindColumn(columns::kLayer);
-    if (!layer || read_.contains(table_.Cells().Cell(0, column)) || IsRemarkColumn(table_.ColumnName(column)))
+    if (!layer || toldHeaders_.contains(column) || read_.contains(table_.Cells().Cell(0, column)) ||
+        IsRemarkColumn(table_.ColumnName(column)))
       return;
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
       const bool isRuleRow = !table_.Cells().CellEquals(row, *layer, "");
@@ -254,6 +271,7 @@ class ProcessCheck {
   }
 
   const TableText& table_;
+  const std::set<std::size_t>& toldHeaders_;
   const Raise& raise_;
   std::optional<std::size_t> names_;
   std::optional<std::size_t> conditions_;
@@ -268,8 +286,8 @@ void CheckParameters(const TableText& table, const RuleTables& tables, const Rai
   ParameterCheck(table, tables, raise).Run();
 }
 
-void CheckProcesses(const TableText& table, const Raise& raise) {
-  ProcessCheck(table, raise).Run();
+void CheckProcesses(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise) {
+  ProcessCheck(table, toldHeaders, raise).Run();
 }
 
 }  // namespace plateconfig

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+
 #include "analysis/findings/finding.h"
 #include "analysis/text/table_text.h"
 #include "rules/rule_tables.h"
@@ -10,6 +12,7 @@ namespace plateconfig {
 /// found, missing, doubled or without a value, conditions without their parameter, colours of both materials.
 /// `tables` is what the library loads from it.
 void CheckParameters(const TableText& table, const RuleTables& tables, const Raise& raise);
-void CheckProcesses(const TableText& table, const Raise& raise);
+/// `toldHeaders` are columns of whose headers something is said already.
+void CheckProcesses(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise);
 
 }  // namespace plateconfig

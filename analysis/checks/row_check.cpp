@@ -84,7 +84,10 @@ class RowCheck {
     FindColumns();
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) CheckLayer(row);
     for (const ColumnSchema& column : SchemaOf(Role::kProcessRules).columns) CheckEmptyCells(column);
-    for (const std::size_t column : processes_) CheckTexts(column);
+    for (const std::size_t column : processes_) {
+      CheckTexts(column);
+      CheckEmptyTexts(column);
+    }
   }
 
  private:
@@ -133,6 +136,20 @@ class RowCheck {
     for (const std::size_t row : empty) RaiseEmpty(schema, row, *column);
   }
 
+  /// A row without the text of a process that nearly every other row has.
+  void CheckEmptyTexts(std::size_t column) {
+    std::vector<std::size_t> empty;
+    std::size_t rows = 0;
+    for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
+      if (!isRuleRow_[row]) continue;
+      ++rows;
+      if (IsEmpty(row, column)) empty.push_back(row);
+    }
+    constexpr std::size_t kFewOf = 16;
+    if (empty.size() * kFewOf > rows) return;
+    for (const std::size_t row : empty) raise_(CellFinding("process-text-empty", table_, row, column));
+  }
+
   void RaiseEmpty(const ColumnSchema& schema, std::size_t row, std::size_t column) {
     const bool isRange = schema.form == CellForm::kRange;
     const bool isMaterial = schema.form == CellForm::kExactSoftParameter;
@@ -156,6 +173,7 @@ class RowCheck {
 
   void CheckText(const Texts& texts, std::size_t row, std::size_t column) {
     const std::string text = table_.Text(row, column);
+    if (FoldedName(text).empty()) return raise_(CellFinding("text-blank", table_, row, column));
     const std::string alike = texts.LookAlike(text);
     if (alike.empty()) return CheckCell(table_, ProcessColumn(), row, column, raise_);
     Finding finding = CellFinding("text-look-alike", table_, row, column);

@@ -12,27 +12,6 @@
 namespace plateconfig {
 namespace {
 
-/// A condition as a sentence calls it.
-Word WordOf(Condition condition) {
-  switch (condition) {
-    case Condition::kLength:
-      return {"length", "长度"};
-    case Condition::kWidth:
-      return {"width", "宽度"};
-    case Condition::kHeight:
-      return {"thickness", "厚度"};
-    case Condition::kWeight:
-      return {"weight", "重量"};
-    case Condition::kMaterial:
-      return {"material", "材质"};
-    case Condition::kProfile:
-      return {"profile", "型面"};
-    case Condition::kWireCutting:
-      return {"wire cutting", "线割"};
-  }
-  return "";
-}
-
 std::string NumberText(double value) {
   return RangeCell(value, value).substr(0, RangeCell(value, value).find('_'));
 }
@@ -98,11 +77,11 @@ class RuleFindings {
       Finding finding = RowFinding("row-never-matches", row.row);
       finding.members.emplace_back("condition",
                                    row.condition ? Value(NameOf(*row.condition)) : Value(nullptr));
-      finding.words.push_back(row.condition
-                                  ? Word(": its " + WordOf(*row.condition).english + " admits none",
-                                         "：其" + WordOf(*row.condition).chinese + "条件不允许任何值")
-                                  : Word(": no plate has these answers about profile and wire cutting",
-                                         "：没有板同时符合其型面和线割的要求"));
+      finding.words.push_back(
+          row.condition ? Word(": its " + std::string(WordsOf(*row.condition).english) + " admits none",
+                               "：其" + std::string(WordsOf(*row.condition).chinese) + "条件不允许任何值")
+                        : Word(": no plate has these answers about profile and wire cutting",
+                               "：没有板同时符合其型面和线割的要求"));
       raise_(finding);
     }
     for (const ShadowedRow& row : masked.shadowed) RaiseShadowed(row);
@@ -136,7 +115,7 @@ class RuleFindings {
       finding.members.emplace_back("value", bound.value);
       finding.members.emplace_back("witness", WitnessValue(bound.witness));
       finding.members.emplace_back("witnessRow", bound.otherRow);
-      finding.words.insert(finding.words.end(), {std::to_string(bound.otherRow), WordOf(bound.condition),
+      finding.words.insert(finding.words.end(), {std::to_string(bound.otherRow), WordsOf(bound.condition),
                                                  NumberText(bound.value)});
       raise_(finding);
     }
@@ -168,7 +147,7 @@ class RuleFindings {
     Word plates("", "");
     for (std::size_t size = 0; size < kSizeCount; ++size) {
       const std::string range = CoveringRangeCell(gap.box[size]);
-      const Word name = WordOf(kSizeConditions[size].condition);
+      const Word name = WordsOf(kSizeConditions[size].condition);
       plates.english += (size == 0 ? "" : ", ") + name.english + " " + range;
       plates.chinese += (size == 0 ? "" : "，") + name.chinese + " " + range;
     }

@@ -23,13 +23,6 @@ Value EndOf(double bound) {
   return std::isinf(bound) ? Value(nullptr) : Value(bound);
 }
 
-/// The text of its first condition; those of one type are fed together.
-std::string FeatureName(ProcessRule::RuleType type) {
-  const auto text = std::find_if(kConditionTexts.begin(), kConditionTexts.end(),
-                                 [&](const ConditionText& each) { return each.type == type; });
-  return GbkToUtf8(text->text);
-}
-
 Object FeatureMembers(const PlateFeatures& features) {
   Object members;
   for (const ProcessRule::RuleType type : features.present) members.emplace_back(FeatureName(type), true);
@@ -47,6 +40,12 @@ List NamesInUtf8(const std::set<std::string>& names) {
 }
 
 }  // namespace
+
+std::string FeatureName(ProcessRule::RuleType type) {
+  const auto text = std::find_if(kConditionTexts.begin(), kConditionTexts.end(),
+                                 [&](const ConditionText& each) { return each.type == type; });
+  return GbkToUtf8(text->text);
+}
 
 const char* NameOf(Condition condition) {
   switch (condition) {
@@ -66,6 +65,26 @@ const char* NameOf(Condition condition) {
       break;
   }
   return "wireCutting";
+}
+
+Words WordsOf(Condition condition) {
+  switch (condition) {
+    case Condition::kLength:
+      return {"length", "长度"};
+    case Condition::kWidth:
+      return {"width", "宽度"};
+    case Condition::kHeight:
+      return {"thickness", "厚度"};
+    case Condition::kWeight:
+      return {"weight", "重量"};
+    case Condition::kMaterial:
+      return {"material", "材质"};
+    case Condition::kProfile:
+      return {"profile", "型面"};
+    case Condition::kWireCutting:
+      break;
+  }
+  return {"wire cutting", "线割"};
 }
 
 Value BoxValue(const Box& box) {

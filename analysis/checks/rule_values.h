@@ -5,14 +5,23 @@
 //   finding.members = {{"box", BoxValue(gap.box)}, {"group", GroupValue(gap.group)},
 //                      {"witness", WitnessValue(gap.witness)}};
 
+#include <string>
+
 #include "analysis/rules/gaps.h"
 #include "analysis/rules/rule_regions.h"
 #include "analysis/text/value.h"
+#include "analysis/text/words.h"
 
 namespace plateconfig {
 
+/// The feature that decides a condition of this type, as plate files call it (UTF-8): the text of the first
+/// such condition, because those of one type are fed together.
+std::string FeatureName(ProcessRule::RuleType type);
+
 /// The name of a size, profile, wire-cutting or material condition: `length`, `wireCutting`.
 const char* NameOf(Condition condition);
+/// The same for people.
+Words WordsOf(Condition condition);
 
 /// `{"length": [low, high], …}`; an end that is infinite is null.
 Value BoxValue(const Box& box);

@@ -1,5 +1,6 @@
 #include "analysis/checks/table_check.h"
 
+#include <set>
 #include <string>
 
 #include "analysis/checks/cell_check.h"
@@ -43,10 +44,10 @@ bool CheckFile(const GivenTable& given, const TableText& text, const Raise& rais
 }
 
 RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const RuleAnalysis& analysis,
-                           const Raise& raise) {
+                           const std::set<std::size_t>& toldHeaders, const Raise& raise) {
   const RuleTables tables = LoadRuleTables(ReaderOf(given), ReadConfigFile());
   CheckParameters(text, tables, raise);
-  CheckProcesses(text, raise);
+  CheckProcesses(text, toldHeaders, raise);
   CheckRuleRows(text, raise);
   return AnalyseRules(text, tables, analysis, raise);
 }
@@ -60,9 +61,10 @@ RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis
   }
   const TableText text(given.name, *given.table);
   if (!CheckFile(given, text, raise)) return {};
-  CheckColumns(text, SchemaOf(given.role), raise);
+  const std::set<std::size_t> toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
   CheckCells(text, SchemaOf(given.role), raise);
-  return given.role == Role::kProcessRules ? CheckRules(given, text, analysis, raise) : RuleAnalysisEnd();
+  return given.role == Role::kProcessRules ? CheckRules(given, text, analysis, toldHeaders, raise)
+                                           : RuleAnalysisEnd();
 }
 
 void CheckHeader(const GivenTable& given, const Raise& raise) {

@@ -51,7 +51,7 @@ std::vector<double> DiametersNear(double parameter) {
   constexpr double kAlmostTheTolerance = 0.00009;
   std::vector<double> diameters = {parameter, parameter - kAlmostTheTolerance,
                                    parameter + kAlmostTheTolerance};
-  std::erase_if(diameters, [](double diameter) { return !(diameter > 0); });
+  std::erase_if(diameters, [](double diameter) { return !(diameter > 0) || std::isinf(diameter); });
   return diameters;
 }
 
@@ -62,20 +62,31 @@ std::vector<int> CountsNear(int parameter) {
   return counts;
 }
 
-/// Features that may decide an entry of the process list, one at a time. Those that its condition does not
-/// look at make no difference to it, and so there is no need to know here which it looks at.
+/// Features that may decide an entry of the process list, one at a time.
 std::vector<PlateFeatures> FeaturesFor(const WrittenCell& entry) {
   const auto type = FindRuleType(entry.condition).value_or(ProcessRule::CustomProcess);
   const std::vector<std::string> parameters = SplitString(entry.parameter, "_");
-  std::vector<PlateFeatures> all(2);
-  all[0].customProcesses = {entry.process};
-  all[1].present = {type};
-  for (const int color : VectorToInt(parameters)) all.emplace_back().colors[type] = {color};
-  for (const double parameter : VectorToDouble(parameters)) {
-    for (const double diameter : DiametersNear(parameter)) all.emplace_back().diameters = {diameter};
+  std::vector<PlateFeatures> all;
+  switch (FedByOf(type)) {
+    case FedBy::kByHand:
+      all.emplace_back().customProcesses = {entry.process};
+      break;
+    case FedBy::kPresence:
+      all.emplace_back().present = {type};
+      break;
+    case FedBy::kColors:
+      for (const int color : VectorToInt(parameters)) all.emplace_back().colors[type] = {color};
+      break;
+    case FedBy::kDiameters:
+      for (const double parameter : VectorToDouble(parameters)) {
+        for (const double diameter : DiametersNear(parameter)) all.emplace_back().diameters = {diameter};
+      }
+      break;
+    case FedBy::kCount:
+      for (const int count : CountsNear(VectorToInt({entry.parameter}).front()))
+        all.emplace_back().holeCount = count;
+      break;
   }
-  for (const int count : CountsNear(VectorToInt({entry.parameter}).front()))
-    all.emplace_back().holeCount = count;
   return all;
 }
 

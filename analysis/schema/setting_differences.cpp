@@ -36,11 +36,11 @@ std::vector<SettingDifference> SettingDifferences(const SettingsByRole& before, 
     const std::vector<Setting>& old = Of(before, row.role);
     const std::vector<Setting>& now = Of(after, row.role);
     for (const Setting& setting : now) {
-      Add(differences, {row.role, setting.schema.column, ValueAmong(old, setting), setting.value});
+      Add(differences, {row.role, setting.schema, ValueAmong(old, setting), setting.value});
     }
     for (const Setting& setting : old) {
       if (Find(now, setting.schema.column) != nullptr) continue;
-      Add(differences, {row.role, setting.schema.column, setting.value, setting.schema.whenAbsent});
+      Add(differences, {row.role, setting.schema, setting.value, setting.schema.whenAbsent});
     }
   }
   return differences;

@@ -3,7 +3,6 @@
 // What differs between the settings of two configurations.
 
 #include <map>
-#include <string>
 #include <vector>
 
 #include "analysis/schema/settings.h"
@@ -12,8 +11,8 @@ namespace plateconfig {
 
 struct SettingDifference {
   Role role;
-  std::string column;  ///< GBK
-  Cells before;        ///< GBK; one cell, or those of a list.
+  ColumnSchema schema;
+  Cells before;  ///< GBK; one cell, or those of a list.
   Cells after;
 };
 

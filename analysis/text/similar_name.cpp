@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <numeric>
 
+#include "analysis/text/folded_name.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {
@@ -53,6 +54,21 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
     best = candidate;
   }
   return best;
+}
+
+std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known) {
+  constexpr std::size_t kTwoCharacters = 6;
+  const std::string folded = FoldedNameWithoutUnit(name);
+  if (folded.empty()) return {};
+  std::vector<std::string> nested;
+  for (const std::string& candidate : known) {
+    if (FoldedNameWithoutUnit(candidate) == folded) return candidate;
+    const std::string other = FoldedName(candidate);
+    if (other.find(folded) != std::string::npos || folded.find(other) != std::string::npos)
+      nested.push_back(candidate);
+  }
+  if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
+  return MostSimilarName(name, {known.begin(), known.end()});
 }
 
 }  // namespace plateconfig

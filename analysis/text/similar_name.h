@@ -10,4 +10,9 @@ namespace plateconfig {
 /// empty when each differs in more than a third of its characters.
 std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known);
 
+/// The name among `known` that a header was probably meant to be: the same but for width, case, script,
+/// blanks or a unit; or the only one that it shortens or lengthens; or one that differs in few characters.
+/// Empty when there is none.
+std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known);
+
 }  // namespace plateconfig

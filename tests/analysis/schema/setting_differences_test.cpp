@@ -20,7 +20,7 @@ class SettingDifferencesTest : public ::testing::Test {
   static std::vector<std::string> Between(const SettingsByRole& before, const SettingsByRole& after) {
     std::vector<std::string> texts;
     for (const SettingDifference& each : SettingDifferences(before, after)) {
-      texts.push_back(std::string(NameOf(each.role)) + " " + GbkToUtf8(each.column) + ": " +
+      texts.push_back(std::string(NameOf(each.role)) + " " + GbkToUtf8(each.schema.column) + ": " +
                       Joined(each.before) + " > " + Joined(each.after));
     }
     return texts;

@@ -144,9 +144,9 @@ TEST(Usage, EveryOptionOfEveryVerbWantsItsValueAndWantsItOnce) {
       EXPECT_EQ(Complaint(Complete(verb) + Words{"--lang", "zh", name + "="}),
                 "plateconfig: error: " + name + " 之后缺少值");
       if (option->get_items_expected_max() > 1) continue;
-      // The first of several values, or any name of a file.
+      // The first of several values, a number, or any name of a file.
       const std::string type = option->get_type_name();
-      const std::string given = name + "=" + type.substr(0, type.find('|'));
+      const std::string given = name + "=" + (type == "N" ? "1" : type.substr(0, type.find('|')));
       EXPECT_EQ(Complaint(Complete(verb) + Words{given, given}),
                 "plateconfig: error: " + name + " is given more than once");
     }
@@ -201,8 +201,8 @@ TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
 
 TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
-            "plateconfig: error: a verb is missing: one of folder, process, explain, holes, show, schema, "
-            "template");
+            "plateconfig: error: a verb is missing: one of folder, process, explain, diff, holes, show, "
+            "schema, template");
   EXPECT_EQ(Complaint({"process"}), "plateconfig: error: plates is required");
   EXPECT_EQ(Complaint({"holes", "a.csv"}), "plateconfig: error: --types is required");
   EXPECT_EQ(Complaint({"process", "--config"}), "plateconfig: error: the value behind --config is missing");

@@ -145,7 +145,7 @@ class CheckRun {
   }
 
   void NoteMissing(const RoleRow& role) {
-    Finding finding{"role-without-file", {configuration_.FolderName()}};
+    Finding finding{"role-without-file", {configuration_.FolderName() + "tables.json"}};
     finding.text = std::string(role.name);
     wayThere_.push_back(finding);
   }
@@ -386,7 +386,8 @@ void AddSelectionOptions(CLI::App& command, CheckJob& job) {
   command
       .add_option("--limit", job.limit,
                   Say("gaps of a group to list; 0 for all", "每组列出的空缺数；0 为全部"))
-      ->type_name("N");
+      ->type_name("N")
+      ->check(IsCount());
   command.add_option("--baseline", job.baseline, Say("a file of accepted findings", "已接受问题的文件"))
       ->check(NotEmpty())
       ->type_name(Say("FILE", "文件"));

@@ -15,29 +15,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct ConditionName {
-  Condition condition;
-  const char* english;
-  const char* chinese;
-};
-
-constexpr ConditionName kConditionNames[] = {
-    {Condition::kLength, "length", "长度"},
-    {Condition::kWidth, "width", "宽度"},
-    {Condition::kHeight, "thickness", "厚度"},
-    {Condition::kWeight, "weight", "重量"},
-    {Condition::kMaterial, "material", "材质"},
-    {Condition::kProfile, "profile", "型面"},
-    {Condition::kWireCutting, "wire cutting", "线割"},
-};
-static_assert(std::ranges::equal(kConditionNames, kConditions, {}, &ConditionName::condition));
-
-const ConditionName& NamesOf(Condition condition) {
-  return *std::ranges::find(kConditionNames, condition, &ConditionName::condition);
-}
-
 std::string ShownName(Condition condition) {
-  return SayPlain(NamesOf(condition).english, NamesOf(condition).chinese);
+  return std::string(WordsOf(condition).In(CurrentLanguage()));
 }
 
 /// Ten digits: enough for every size, and too few for the noise of a subtraction.

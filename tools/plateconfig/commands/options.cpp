@@ -4,6 +4,7 @@
 
 #include "analysis/text/shown_text.h"
 #include "analysis/text/similar_name.h"
+#include "analysis/text/strict_values.h"
 #include "plateconfig/messages/language.h"
 
 namespace plateconfig {
@@ -21,6 +22,16 @@ CLI::Validator NotEmpty() {
   return CLI::Validator(
       [](std::string& value) { return value.empty() ? Say("the value is empty", "值为空") : std::string(); },
       "");
+}
+
+CLI::Validator IsCount() {
+  const auto check = [](std::string& value) {
+    const auto number = StrictInteger(value);
+    return number && *number >= 0
+               ? std::string()
+               : Say("\"{}\" is no whole number from 0 on", "“{}”不是 0 或以上的整数", ShownText(value));
+  };
+  return CLI::Validator(check, "");
 }
 
 std::string Listed(const std::vector<std::string>& names) {

@@ -16,6 +16,9 @@ CLI::Validator OneOf(std::vector<std::string> values);
 /// Refuses an empty text, which is mostly a script's variable that was never set.
 CLI::Validator NotEmpty();
 
+/// Accepts whole numbers from 0 on.
+CLI::Validator IsCount();
+
 /// Names as a message or a help text lists them.
 std::string Listed(const std::vector<std::string>& names);
 

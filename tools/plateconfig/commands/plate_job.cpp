@@ -33,33 +33,18 @@ class PlateLoop {
       : job_(job), tables_(tables), vocabulary_(tables.processRules), context_(context), visit_(visit) {}
 
   void VisitFiles() {
-    for (const std::string& file : job_.files) VisitFile(file);
+    VisitPlateFiles(job_.files, vocabulary_, context_, [this](const PlateInput& plate) { Visit(plate); });
     for (const std::string& name : job_.names) {
       if (!met_.contains(name)) context_.reporter.Warning({"plateconfig"}, NoPlate(name));
     }
   }
 
  private:
-  void VisitFile(const std::string& file) {
-    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
-      return Visit(in, shownAs, progress);
-    };
-    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context_.streams,
-               context_.reporter, read);
-  }
-
-  std::size_t Visit(std::istream& in, const std::string& file, Progress& progress) {
-    const auto plates = ReadPlates(in, file, vocabulary_, context_.reporter);
-    std::size_t count = 0;
-    while (const std::optional<PlateInput> plate = plates->Next()) {
-      ++count;
-      progress.Step();
-      if (!IsWanted(*plate)) continue;
-      std::vector<ProcessRule> rules = tables_.processRules;
-      FeedRules(rules, plate->features);
-      visit_(*plate, tables_, rules);
-    }
-    return count;
+  void Visit(const PlateInput& plate) {
+    if (!IsWanted(plate)) return;
+    std::vector<ProcessRule> rules = tables_.processRules;
+    FeedRules(rules, plate.features);
+    visit_(plate, tables_, rules);
   }
 
   bool IsWanted(const PlateInput& plate) {
@@ -98,6 +83,24 @@ void AddPlateOptions(CLI::App& command, PlateJob& job) {
                       "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
       ->required();
+}
+
+void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabulary& vocabulary,
+                     Context& context, const std::function<void(const PlateInput& plate)>& visit) {
+  const auto read = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
+    const auto plates = ReadPlates(in, shownAs, vocabulary, context.reporter);
+    std::size_t count = 0;
+    while (const std::optional<PlateInput> plate = plates->Next()) {
+      ++count;
+      progress.Step();
+      visit(*plate);
+    }
+    return count;
+  };
+  for (const std::string& file : files) {
+    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context.streams,
+               context.reporter, read);
+  }
 }
 
 void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit) {

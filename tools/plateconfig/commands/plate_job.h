@@ -26,6 +26,10 @@ void AddPlateOptions(CLI::App& command, PlateJob& job);
 using PlateVisitor = std::function<void(const PlateInput& plate, const RuleTables& tables,
                                         const std::vector<ProcessRule>& rules)>;
 
+/// Visits every plate of every file (UTF-8; "-" is standard input); mistakes are reported and passed over.
+void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabulary& vocabulary,
+                     Context& context, const std::function<void(const PlateInput& plate)>& visit);
+
 /// Loads the tables and visits every plate of every file; mistakes are reported and passed over.
 void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit);
 

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <memory>
 
-#include "config/numbers.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
+#include "plateconfig/output/setting_value.h"
 #include "plateconfig/tables/schema_words.h"
 #include "plateconfig/tables/shown_settings.h"
 #include "text/gbk.h"
@@ -20,10 +20,6 @@ struct ShowJob {
   std::vector<std::string> roles;  ///< Empty for all.
 };
 
-bool HasManyValues(const ColumnSchema& column) {
-  return column.isList || column.isRowColumn;
-}
-
 std::string SourceText(Source source) {
   switch (source) {
     case Source::kAbsent:
@@ -36,28 +32,8 @@ std::string SourceText(Source source) {
   return {};
 }
 
-/// A cell on one line, whatever it holds.
-std::string OneLine(const std::string& gbk) {
-  std::string text;
-  for (const char c : GbkToUtf8(gbk)) {
-    const bool isControl = static_cast<unsigned char>(c) < 0x20;
-    text += c == '\n' ? "\\n" : isControl ? "\xEF\xBF\xBD" : std::string(1, c);  // U+FFFD
-  }
-  return text;
-}
-
-std::string ValueText(const Setting& setting) {
-  if (setting.value.empty()) return Say("none", "无");
-  std::string text;
-  for (const std::string& cell : setting.value) {
-    if (!text.empty()) text += ", ";
-    text += cell.empty() ? "\"\"" : OneLine(cell);
-  }
-  return text;
-}
-
 void WriteText(const Setting& setting, std::ostream& out) {
-  out << "  " << OneLine(setting.schema.column) << " = " << ValueText(setting);
+  out << "  " << OneLine(setting.schema.column) << " = " << SettingText(setting.value);
   if (setting.schema.unit != Unit::kNone && !setting.value.empty())
     out << "  [" << InWords(WordsOf(setting.schema.unit)) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
@@ -72,31 +48,6 @@ void WriteText(Role role, const std::optional<TableFile>& file, const std::vecto
   out << "\n";
 }
 
-/// A number that JSON lacks, such as inf, stays a text.
-Json CellToJson(CellType type, const std::string& cell) {
-  switch (type) {
-    case CellType::kNumber: {
-      const Json number = ParseDouble(cell);
-      return number.dump() == "null" ? Json(cell) : number;
-    }
-    case CellType::kInteger:
-      return ParseInt(cell);
-    case CellType::kFlag:
-      return cell == FlagText(true);
-    case CellType::kText:
-      break;
-  }
-  return GbkToUtf8(cell);
-}
-
-Json ValueToJson(const Setting& setting) {
-  const CellType type = setting.schema.type;
-  if (!HasManyValues(setting.schema)) return CellToJson(type, setting.value.front());
-  Json values = Json::array();
-  for (const std::string& cell : setting.value) values.push_back(CellToJson(type, cell));
-  return values;
-}
-
 const char* JsonName(Source source) {
   return source == Source::kTable ? "table" : source == Source::kAbsent ? "absent column" : "class";
 }
@@ -105,7 +56,7 @@ Json ToJson(Role role, const std::optional<TableFile>& file, const Setting& sett
   return {{"role", NameOf(role)},
           {"file", file ? Json(file->shownAs) : nullptr},
           {"column", GbkToUtf8(setting.schema.column)},
-          {"value", ValueToJson(setting)},
+          {"value", SettingToJson(setting.schema, setting.value)},
           {"unit", WordsOf(setting.schema.unit).english},
           {"source", JsonName(setting.source)}};
 }

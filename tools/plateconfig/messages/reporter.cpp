@@ -11,7 +11,7 @@ void Reporter::Error(const Place& place, const std::string& text) {
 }
 
 void Reporter::Warning(const Place& place, const std::string& text) {
-  hasFindings_ = true;
+  hasFindings_ = hasFindings_ || warningsCount_;
   Write(place, "warning", text);
 }
 
@@ -19,7 +19,7 @@ void Reporter::Report(const Finding& finding) {
   if (collected_ != nullptr) return collected_->push_back(finding);
   const Severity severity = finding.code.Row().severity;
   hasErrors_ = hasErrors_ || severity == Severity::kError;
-  hasFindings_ = hasFindings_ || severity == Severity::kWarning;
+  hasFindings_ = hasFindings_ || (warningsCount_ && severity == Severity::kWarning);
   Write(finding.place, NameOf(severity), LineOf(finding, CurrentLanguage()));
 }
 

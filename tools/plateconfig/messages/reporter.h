@@ -30,6 +30,8 @@ class Reporter {
   void Report(const Finding& finding);
   /// A result that the user should look at, already shown in the output.
   void CountFinding() { hasFindings_ = true; }
+  /// From now on warnings do not count: whether the input looks wrong is not what the verb answers.
+  void ShowWarningsOnly() { warningsCount_ = false; }
 
   /// From now on findings go there, instead of onto the stream, and do not count; null ends it.
   void CollectInto(std::vector<Finding>* findings) { collected_ = findings; }
@@ -48,6 +50,7 @@ class Reporter {
   std::function<void()> prepare_;
   bool hasErrors_ = false;
   bool hasFindings_ = false;
+  bool warningsCount_ = true;
 };
 
 }  // namespace plateconfig

@@ -6,8 +6,7 @@
 namespace plateconfig {
 namespace {
 
-constexpr std::string_view kFeatures = "features";  ///< JSON alone; in CSV each feature is a column.
-constexpr std::string_view kCustomProcesses = "customProcesses";  ///< The same.
+using namespace plate_members;
 
 std::optional<Code> IsName(const std::string& name) {
   return name.empty() ? std::optional<Code>(Code("plate-no-name")) : std::nullopt;
@@ -114,17 +113,17 @@ Field<PlateInput> CustomProcessesField(const PlateVocabulary& vocabulary) {
 RecordKind<PlateInput> PlateFields(const PlateVocabulary& vocabulary) {
   std::vector<Field<PlateInput>> fields = {
       FieldOf<std::string, PlateInput>(
-          {"名称", "name"}, Need::kRequired,
+          {"名称", kName}, Need::kRequired,
           [](PlateInput& input, std::string name) { input.name = std::move(name); }, IsName),
-      FieldOf<std::vector<int>, PlateInput>({"面颜色", "faceColors"}, Need::kOptional, PutFaceColors),
+      FieldOf<std::vector<int>, PlateInput>({"面颜色", kFaceColors}, Need::kOptional, PutFaceColors),
       FeaturesField(vocabulary),
       CustomProcessesField(vocabulary),
-      SizeField({"长度", "length"}, &Plate::length, IsPositive),
-      SizeField({"宽度", "width"}, &Plate::width, IsPositive),
-      SizeField({"厚度", "thickness"}, &Plate::height, IsPositive),
-      SizeField({"重量", "weight"}, &Plate::weight, IsNotNegative),
-      IntegerField({"图层", "layer"}, Need::kOptional, &Plate::layer),
-      IntegerField({"体颜色", "color"}, Need::kRequired, &Plate::color),
+      SizeField({"长度", kLength}, &Plate::length, IsPositive),
+      SizeField({"宽度", kWidth}, &Plate::width, IsPositive),
+      SizeField({"厚度", kThickness}, &Plate::height, IsPositive),
+      SizeField({"重量", kWeight}, &Plate::weight, IsNotNegative),
+      IntegerField({"图层", kLayer}, Need::kOptional, &Plate::layer),
+      IntegerField({"体颜色", kColor}, Need::kRequired, &Plate::color),
   };
   for (const auto& [name, feature] : vocabulary.Features()) fields.push_back(FeatureField(name, feature));
   return {std::move(fields),

@@ -14,7 +14,9 @@ void RaiseIndexFindings(const std::string& root, const ConfigurationIndex& index
 }
 
 void ReportIndex(const std::string& root, const ConfigurationIndex& index, Reporter& reporter) {
-  RaiseIndexFindings(root, index, [&](const Finding& finding) { reporter.Report(finding); });
+  RaiseIndexFindings(root, index, [&](const Finding& finding) {
+    if (finding.code.Row().severity != Severity::kHint) reporter.Report(finding);
+  });
 }
 
 }  // namespace plateconfig
