@@ -172,8 +172,9 @@ void CheckStyle(const CheckedCell& cell, const Raise& raise) {
 
 void CheckCondition(const CheckedCell& cell, const Raise& raise) {
   if (FindRuleType(cell.gbk)) return;
-  std::vector<std::string> known;
-  for (const ConditionText& condition : kConditionTexts) known.push_back(GbkToUtf8(condition.text));
+  std::vector<std::string> known(kConditionTexts.size());
+  std::transform(kConditionTexts.begin(), kConditionTexts.end(), known.begin(),
+                 [](const ConditionText& condition) { return GbkToUtf8(condition.text); });
   Finding finding = cell.Finds("condition-unknown");
   finding.usedAs = known.front();
   const auto same = std::find_if(known.begin(), known.end(), [&](const std::string& text) {
