@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "analysis/checks/configuration_check.h"
+#include "analysis/analysis.h"
 #include "analysis/findings/sentence.h"
 #include "support/gbk_text.h"
 
