@@ -206,6 +206,7 @@ TEST_F(HolesCommand, SpeaksChinese) {
   Run("M10,1_1_0,36,31,,18,9,,\n", kScrewHole, {"--lang", "zh", "--explain"});
   EXPECT_THAT(out_, HasSubstr("K1：结构 1_1_0，最大直径 14 mm，位置 1, 2, 3\n"));
   EXPECT_THAT(out_, HasSubstr("顶部第 1 段：颜色 36 已列出，直径 14 不在 18 之中\n"));
+  EXPECT_THAT(out_, HasSubstr("通孔第 1 段：颜色 31 已列出，直径 9 已列出\n"));
 }
 
 TEST_F(HolesCommand, SeveralFilesOfTypesAreTakenTogether) {

@@ -84,8 +84,8 @@ std::optional<TableFile> Configuration::Find(Role role) {
   if (table) return ReadableAgain(*table);
   if (isUsable_) {
     reporter_.Error({"plateconfig"}, Say("no table plays the role {0}: name it in {1}, or give --{0} FILE",
-                                         "没有文件担任 {0} 角色：请在 {1} 中指定，或使用 --{0} 文件",
-                                         NameOf(role), folder_.shownAs + kManifestName));
+                                         "未指定 {0} 表：请在 {1} 中指定，或使用 --{0} 文件", NameOf(role),
+                                         folder_.shownAs + kManifestName));
   }
   return std::nullopt;
 }
@@ -160,7 +160,7 @@ void Configuration::ReadManifest() {
   }
   if (root.kind != JsonNode::Kind::kObject) {
     Finding finding{"manifest-no-object", PlaceIn(manifest.shownAs, root.position)};
-    finding.words = {{"{ role: file name, … }", "{ 角色: 文件名, … }"}};
+    finding.words = {{"{ role: file name, … }", "{ 用途: 文件名, … }"}};
     return reporter_.Report(finding);
   }
   isUsable_ = true;
