@@ -23,14 +23,18 @@ std::string Figure(double figure) {
   return text;
 }
 
-void Print(const Comparison& row) {
-  Sampler plain(row.plain, kSampleSeconds);
-  if (row.tidy) row.tidy();
-  Sampler ours(row.ours, kSampleSeconds);
-  if (row.tidy) row.tidy();
-  const Medians medians = Compare(ours, plain, kSamples, row.tidy);
-  std::printf("| %2d | %-78s | %6s | %6s | %6s | %8s | %12.3f | %12.3f |\n", row.number, row.work.c_str(),
-              Figure(row.before).c_str(), Figure(row.must).c_str(), Figure(row.dream).c_str(),
+Medians Measure(const Comparison& comparison) {
+  Sampler plain(comparison.plain, kSampleSeconds);
+  if (comparison.tidy) comparison.tidy();
+  Sampler ours(comparison.ours, kSampleSeconds);
+  if (comparison.tidy) comparison.tidy();
+  return Compare(ours, plain, kSamples, comparison.tidy);
+}
+
+void Print(const Line& line) {
+  const Medians medians = Measure(line.make());
+  std::printf("| %2d | %-70s | %6s | %6s | %6s | %8s | %12.3f | %12.3f |\n", line.number, line.work.c_str(),
+              Figure(line.before).c_str(), Figure(line.must).c_str(), Figure(line.dream).c_str(),
               Figure(medians.Ratio()).c_str(), medians.ours * 1e6, medians.plain * 1e6);
   std::fflush(stdout);
 }
@@ -40,12 +44,12 @@ bool IsAskedFor(int number, const std::vector<int>& numbers) {
 }
 
 void PrintTable(const std::vector<int>& numbers) {
-  std::printf("|  # | %-78s | before |   must |  dream | measured |     ours, us |    plain, us |\n",
+  std::printf("|  # | %-70s | before |   must |  dream | measured |     ours, us |    plain, us |\n",
               "work / the plain way");
-  std::printf("|---:|%s|---:|---:|---:|---:|---:|---:|\n", std::string(80, '-').c_str());
-  for (const auto& comparisons : {TableComparisons, RuleComparisons, HoleComparisons}) {
-    for (const Comparison& row : comparisons()) {
-      if (IsAskedFor(row.number, numbers)) Print(row);
+  std::printf("|---:|%s|---:|---:|---:|---:|---:|---:|\n", std::string(72, '-').c_str());
+  for (const auto& lines : {TableLines, RuleLines, HoleLines}) {
+    for (const Line& line : lines()) {
+      if (IsAskedFor(line.number, numbers)) Print(line);
     }
   }
 }

@@ -10,14 +10,19 @@ std::atomic<bool> diagnosticFilesEnabled = true;
 }  // namespace
 
 DiagnosticFile::DiagnosticFile(Diagnostic which)
-    : file_(diagnosticFilesEnabled ? OpenPlatformDiagnosticFile(which) : nullptr) {}
+    : descriptor_(diagnosticFilesEnabled ? OpenPlatformDiagnosticFile(which) : -1) {}
 
 DiagnosticFile::~DiagnosticFile() {
-  if (file_ != nullptr) std::fclose(file_);
+  if (IsOpen()) ClosePlatformDiagnosticFile(descriptor_);
 }
 
 void DiagnosticFile::Append(std::string_view text) {
-  if (file_ != nullptr) std::fwrite(text.data(), 1, text.size(), file_);
+  if (!IsOpen()) return;
+  while (!text.empty()) {
+    const long long written = WritePlatformDiagnosticFile(descriptor_, text);
+    if (written <= 0) return;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
 }
 
 void EnableDiagnosticFiles(bool enabled) {

@@ -9,7 +9,6 @@
 // names in $XDG_STATE_HOME/plateconfig ($HOME/.local/state/plateconfig when unset), private to the user; with
 // neither variable set there is no file.
 
-#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -25,21 +24,26 @@ class DiagnosticFile {
   DiagnosticFile(const DiagnosticFile&) = delete;
   DiagnosticFile& operator=(const DiagnosticFile&) = delete;
 
-  bool IsOpen() const { return file_ != nullptr; }
+  bool IsOpen() const { return descriptor_ >= 0; }
 
-  /// Appends GBK text whose lines end with LF. A full disk is ignored as an unopenable file is.
+  /// Appends GBK text whose lines end with LF, at once and in one piece: it is in the file when this returns,
+  /// whatever becomes of the process, and another process that appends too does not tear it. A full disk is
+  /// ignored as an unopenable file is.
   void Append(std::string_view text);
 
  private:
-  std::FILE* file_;
+  int descriptor_;
 };
 
 /// Switches both files off or on for this process. The companion switches them off: trying out tables must
 /// not grow the files in which the drawing tool's own runs are looked up.
 void EnableDiagnosticFiles(bool enabled);
 
-/// Opens the platform's file for appending; null when that is impossible. For `DiagnosticFile` alone.
-std::FILE* OpenPlatformDiagnosticFile(Diagnostic which);
+/// The platform's file, for `DiagnosticFile` alone. Opened for appending: its descriptor, negative when that
+/// is impossible. Written: how many bytes were, less than 1 when none.
+int OpenPlatformDiagnosticFile(Diagnostic which);
+long long WritePlatformDiagnosticFile(int descriptor, std::string_view text);
+void ClosePlatformDiagnosticFile(int descriptor);
 
 /// The file's name without its folder.
 const char* DiagnosticFileName(Diagnostic which);
