@@ -81,10 +81,14 @@ TEST_F(DiagnosticPlace, KeepsWhatAFileAlreadyHolds) {
   EXPECT_EQ(ReadBytes(folder_.Path() / "plateconfig/log.txt"), "old\nnew\n");
 }
 
-/// Appends the same text again and again, in a process of its own.
-pid_t AppendInAnotherProcess(const std::string& text, int times) {
+/// Appends the same text again and again in a process of its own, which begins when `start` is closed.
+pid_t AppendInAnotherProcess(const std::string& text, int times, const int (&start)[2]) {
   const pid_t process = fork();
   if (process != 0) return process;
+  close(start[1]);
+  char none;
+  while (read(start[0], &none, 1) > 0) {
+  }
   for (int i = 0; i < times; ++i) DiagnosticFile(Diagnostic::kRules).Append(text);
   _exit(0);
 }
@@ -95,7 +99,12 @@ TEST_F(DiagnosticPlace, TakesTheTextsOfTwoProcessesEachInOnePiece) {
   const std::string a = std::string(20'000, 'a') + "\n";
   const std::string b = std::string(30'000, 'b') + "\n";
   EXPECT_TRUE(Append(a));
-  for (const pid_t process : {AppendInAnotherProcess(a, kTimes), AppendInAnotherProcess(b, kTimes)}) {
+  int start[2];
+  ASSERT_EQ(pipe(start), 0);
+  const pid_t processes[] = {AppendInAnotherProcess(a, kTimes, start),
+                             AppendInAnotherProcess(b, kTimes, start)};
+  for (const int end : start) close(end);
+  for (const pid_t process : processes) {
     int status = -1;
     ASSERT_EQ(waitpid(process, &status, 0), process);
     EXPECT_EQ(status, 0);
