@@ -30,9 +30,9 @@ class DiagnosticFile {
 
   bool IsOpen() const { return file_ != kNoFile; }
 
-  /// Appends GBK text whose lines end with LF. Other processes may append at the same time: their lines stand
-  /// between these, never inside one. Nothing is allocated or thrown; a full disk is ignored as an unopenable
-  /// file is.
+  /// Appends GBK text whose lines end with LF; it is in the file when this returns, whatever becomes of the
+  /// process. Other processes may append at the same time: their lines stand between these, never inside one.
+  /// Nothing is allocated or thrown; a full disk is ignored as an unopenable file is.
   void Append(std::string_view text);
 
  private:

@@ -53,6 +53,14 @@ TEST_F(DiagnosticText, KeepsEveryLineWhateverItsLength) {
   EXPECT_EQ(folder_.Read(Diagnostic::kRules), lines);
 }
 
+TEST_F(DiagnosticText, IsInTheFileAsSoonAsItIsAppended) {
+  DiagnosticFile file(Diagnostic::kHoles);
+  file.Append("first\n");
+  EXPECT_EQ(folder_.Read(Diagnostic::kHoles), "first\n");
+  file.Append("second\n");
+  EXPECT_EQ(folder_.Read(Diagnostic::kHoles), "first\nsecond\n");
+}
+
 TEST_F(DiagnosticText, OfRulesAndHolesStandsInTwoFiles) {
   Append(Diagnostic::kRules, "rules\n");
   Append(Diagnostic::kHoles, "holes\n");
