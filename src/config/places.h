@@ -10,6 +10,8 @@
 #include <memory>
 #include <utility>
 
+#include "platform/large_memory.h"
+
 namespace plateconfig {
 
 class Places {
@@ -48,6 +50,7 @@ class Places {
  private:
   void Grow(std::size_t capacity) {
     auto larger = std::make_unique_for_overwrite<std::uint32_t[]>(capacity);
+    PreferLargePages(larger.get(), capacity * sizeof(std::uint32_t));
     if (size_ > 0) std::memcpy(larger.get(), places_.get(), size_ * sizeof(std::uint32_t));
     places_ = std::move(larger);
     capacity_ = capacity;
