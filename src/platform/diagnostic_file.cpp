@@ -10,19 +10,14 @@ std::atomic<bool> diagnosticFilesEnabled = true;
 }  // namespace
 
 DiagnosticFile::DiagnosticFile(Diagnostic which)
-    : descriptor_(diagnosticFilesEnabled ? OpenPlatformDiagnosticFile(which) : -1) {}
+    : file_(diagnosticFilesEnabled ? OpenDiagnosticFile(which) : kNoFile) {}
 
 DiagnosticFile::~DiagnosticFile() {
-  if (IsOpen()) ClosePlatformDiagnosticFile(descriptor_);
+  if (IsOpen()) CloseDiagnosticFile(file_);
 }
 
 void DiagnosticFile::Append(std::string_view text) {
-  if (!IsOpen()) return;
-  while (!text.empty()) {
-    const long long written = WritePlatformDiagnosticFile(descriptor_, text);
-    if (written <= 0) return;
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
+  if (IsOpen()) AppendToDiagnosticFile(file_, text);
 }
 
 void EnableDiagnosticFiles(bool enabled) {

@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -35,9 +36,9 @@ int OpenForAppending(const std::string& path) {
 
 }  // namespace
 
-int OpenPlatformDiagnosticFile(Diagnostic which) {
+SystemFile OpenDiagnosticFile(Diagnostic which) {
   const std::string folder = Folder();
-  if (folder.empty()) return -1;
+  if (folder.empty()) return kNoFile;
   const std::string path = folder + '/' + DiagnosticFileName(which);
   const int descriptor = OpenForAppending(path);
   if (descriptor >= 0) return descriptor;
@@ -47,12 +48,19 @@ int OpenPlatformDiagnosticFile(Diagnostic which) {
   return OpenForAppending(path);
 }
 
-long long WritePlatformDiagnosticFile(int descriptor, std::string_view text) {
-  return write(descriptor, text.data(), text.size());
+void AppendToDiagnosticFile(SystemFile file, std::string_view text) {
+  // In one piece, which the system puts behind whatever another process wrote meanwhile. It takes less only
+  // when the disk is full or a signal comes.
+  while (!text.empty()) {
+    const ssize_t written = write(static_cast<int>(file), text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
 }
 
-void ClosePlatformDiagnosticFile(int descriptor) {
-  close(descriptor);
+void CloseDiagnosticFile(SystemFile file) {
+  close(static_cast<int>(file));
 }
 
 }  // namespace plateconfig
