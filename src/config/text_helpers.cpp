@@ -1,13 +1,12 @@
 #include "config/text_helpers.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "config/numbers.h"
 #include "config/pieces.h"
 
 std::vector<std::string> SplitString(const std::string& text, const std::string& separator) {
-  if (text.empty()) return {};
-  if (separator.empty()) return {text};
   std::vector<std::string> pieces;
   plateconfig::ForEachPiece(text, separator, [&](std::string_view piece) { pieces.emplace_back(piece); });
   return pieces;
