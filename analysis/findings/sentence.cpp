@@ -94,6 +94,19 @@ std::string AdviceOf(const Finding& finding, Language language) {
   return Fill(finding.code.Row().advice.In(language), finding, language);
 }
 
+std::string OutlineOf(std::string_view text) {
+  std::string outline;
+  for (std::size_t open; (open = text.find('{')) != std::string_view::npos;) {
+    outline += text.substr(0, open);
+    text.remove_prefix(text.find('}', open) + 1);
+    // What is put on at the end, as the case may be, is no part of the sentence.
+    const bool isAppended = text.empty() && !outline.empty() &&
+                            std::string_view(" “").find(outline.back()) == std::string_view::npos;
+    if (!isAppended) outline += "…";
+  }
+  return outline.append(text);
+}
+
 std::string LineOf(const Finding& finding, Language language) {
   constexpr Words kSeparator = {"; ", "；"};
   std::string line = finding.cell.empty() ? std::string() : finding.cell + ": ";
@@ -111,6 +124,18 @@ std::string_view NameOf(Severity severity) {
       return "warning";
     case Severity::kHint:
       return "hint";
+  }
+  return {};
+}
+
+Words WordsOf(Severity severity) {
+  switch (severity) {
+    case Severity::kError:
+      return {"error", "错误"};
+    case Severity::kWarning:
+      return {"warning", "警告"};
+    case Severity::kHint:
+      return {"hint", "提示"};
   }
   return {};
 }
