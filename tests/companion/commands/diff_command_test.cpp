@@ -273,7 +273,7 @@ TEST_F(DiffCommand, TheTextOfSettingsRowsAndPlatesWithoutARow) {
 TEST_F(DiffCommand, TheTextSpeaksChinese) {
   WriteRules("new", With(kRows, "锯,钻\n", "锯,深钻\n"));
   const std::string out = Diff({"--plates", "-", "--lang", "zh"}, kPlates).out;
-  EXPECT_THAT(out, StartsWith("此修改影响 1 / 3 块板\n有差别：0 项设置，1 个规则行，1 个板的区域\n"));
+  EXPECT_THAT(out, StartsWith("此修改影响 3 块板中的 1 块\n有差别：0 项设置，1 个规则行，1 个板的区域\n"));
   EXPECT_THAT(out, HasSubstr("  甲\n    旧  第 2 行  锯→【钻】\n    新  第 2 行  锯→【深钻】\n"));
   EXPECT_THAT(out, HasSubstr("长度 0 到 100.001；体颜色 12，无型面，无线割\n"));
 }
