@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -30,22 +31,32 @@ int OpenForAppending(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::FILE* OpenPlatformDiagnosticFile(Diagnostic which) {
+SystemFile OpenDiagnosticFile(Diagnostic which) {
   const std::filesystem::path state = StateFolder();
-  if (state.empty()) return nullptr;
+  if (state.empty()) return kNoFile;
   const std::filesystem::path folder = state / "plateconfig";
   const std::filesystem::path path = folder / DiagnosticFileName(which);
-  int descriptor = OpenForAppending(path);
-  if (descriptor < 0) {
-    // The folder is missing only once, while the file is opened for each rule, plate and hole.
-    std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
-    std::filesystem::create_directories(folder, ignored);
-    descriptor = OpenForAppending(path);
+  const int descriptor = OpenForAppending(path);
+  if (descriptor >= 0) return descriptor;
+  // The folder is missing only once, while the file is opened for each rule, plate and hole.
+  std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
+  std::filesystem::create_directories(folder, ignored);
+  return OpenForAppending(path);
+}
+
+void AppendToDiagnosticFile(SystemFile file, std::string_view text) {
+  // In one piece, which the system puts behind whatever another process wrote meanwhile. It takes less only
+  // when the disk is full or a signal comes.
+  while (!text.empty()) {
+    const ssize_t written = write(static_cast<int>(file), text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return;
+    text.remove_prefix(static_cast<std::size_t>(written));
   }
-  if (descriptor < 0) return nullptr;
-  std::FILE* file = fdopen(descriptor, "a");
-  if (file == nullptr) close(descriptor);
-  return file;
+}
+
+void CloseDiagnosticFile(SystemFile file) {
+  close(static_cast<int>(file));
 }
 
 }  // namespace plateconfig
