@@ -64,6 +64,13 @@ std::string Fill(std::string_view text, const Finding& finding, Language languag
   return filled;
 }
 
+/// True for a sentence to which nothing is missing, by what no sentence ends with.
+bool IsWhole(std::string_view sentence) {
+  constexpr std::string_view kOpenEnds[] = {" ", "“", "：", "；", "写", "读取"};
+  return !sentence.empty() && std::none_of(std::begin(kOpenEnds), std::end(kOpenEnds),
+                                           [&](std::string_view end) { return sentence.ends_with(end); });
+}
+
 /// True when the message itself says it.
 bool Says(const Finding& finding, std::string_view place) {
   return finding.code.Row().message.english.find(place) != std::string_view::npos;
@@ -99,10 +106,8 @@ std::string OutlineOf(std::string_view text) {
   for (std::size_t open; (open = text.find('{')) != std::string_view::npos;) {
     outline += text.substr(0, open);
     text.remove_prefix(text.find('}', open) + 1);
-    // What is put on at the end, as the case may be, is no part of the sentence.
-    const bool isAppended = text.empty() && !outline.empty() &&
-                            std::string_view(" “").find(outline.back()) == std::string_view::npos;
-    if (!isAppended) outline += "…";
+    // What is put on behind a whole sentence, as the case may be, is no part of it.
+    if (!text.empty() || !IsWhole(outline)) outline += "…";
   }
   return outline.append(text);
 }

@@ -54,8 +54,7 @@ Fixture Json(const std::string& code, const std::string& what, const std::string
 }
 
 std::vector<Fixture> PlateFixtures() {
-  std::string deep = "[";
-  for (int i = 0; i < 2000; ++i) deep += "[";
+  const std::string deep = std::string(150, '[') + std::string(150, ']');
   return {
       Csv("input-not-number", "300", "3OO"),
       Csv("input-not-integer", "12,36", "12x,36"),
@@ -152,6 +151,7 @@ std::vector<Fixture> ManifestFixtures() {
   return {
       manifest("manifest-encoding", "规则", "\xFF"),
       manifest("manifest-full-width", ": \"规则", "：\"规则"),
+      manifest("manifest-comma-last", ".csv\"}", ".csv\", }"),
       manifest("manifest-no-object", kManifest, "[]"),
       manifest("manifest-role-unknown", "bom", "bomb"),
       manifest("manifest-file-kind", "\"清单.csv\"", "5"),

@@ -362,6 +362,42 @@ TEST_F(CheckCommand, HoleTypesAreLookedAt) {
   EXPECT_EQ(findings[0]["file"], Path("孔.csv"));
 }
 
+// ---- the manifest ----
+
+/// What `check` says of a configuration with this manifest, its last line apart.
+std::string SaidOfManifest(const std::string& manifest, const std::string& language) {
+  const TemporaryFolder files;
+  files.WriteBytes("tables.json", manifest);
+  const std::string folder = ArgumentPath(files, "");
+  const std::string text = RunPlateconfig({"check", "--lang", language, "--config", folder}).out;
+  EXPECT_THAT(text, StartsWith(folder + "tables.json\n"));
+  const std::size_t begin = text.find('\n') + 1;
+  return text.substr(begin, text.find("\n\n") + 1 - begin);
+}
+
+TEST(CheckManifest, AFullWidthSignIsNamedWithItsHalfWidthForm) {
+  EXPECT_EQ(SaidOfManifest("{“bom\": \"b.csv\"}", "en"),
+            "  line 1  error: “ is a full-width character, which JSON does not know  [manifest-full-width]\n"
+            "      write \"\"\"\n");
+  EXPECT_EQ(SaidOfManifest("{\n\"bom\"： \"b.csv\"}", "zh"),
+            "  第 2 行  错误: ： 是全角字符，JSON 不认识  [manifest-full-width]\n      请写“:”\n");
+  EXPECT_EQ(SaidOfManifest("{\"bom\": \"b.csv\"，\n\"texts\": \"t.csv\"}", "zh"),
+            "  第 1 行  错误: ， 是全角字符，JSON 不认识  [manifest-full-width]\n      请写“,”\n");
+}
+
+TEST(CheckManifest, ACommaBehindTheLastEntryIsToldAtItsPlace) {
+  EXPECT_EQ(SaidOfManifest("{\n\"bom\": \"b,}.csv\",\n}\n", "en"),
+            "  line 2  error: a comma stands behind the last entry of this manifest  [manifest-comma-last]\n"
+            "      delete the comma\n");
+  EXPECT_EQ(SaidOfManifest("{\"bom\": \"b.csv\", }", "zh"),
+            "  第 1 行  错误: 清单最后一项之后多了一个逗号  [manifest-comma-last]\n      请删除此逗号\n");
+}
+
+TEST(CheckManifest, AnotherMistakeIsToldWithWholeCharacters) {
+  EXPECT_THAT(SaidOfManifest("{\"材料\" \"清单.csv\"}", "zh"), HasSubstr("这里不符合 JSON 语法"));
+  EXPECT_THAT(SaidOfManifest("{材料: \"b.csv\"}", "zh"), HasSubstr("“{”  [input-json-syntax]"));
+}
+
 // ---- the other verbs ----
 
 TEST_F(CheckCommand, ProcessAndExplainAndShowTellTheSameOfTheTablesThatTheyRead) {

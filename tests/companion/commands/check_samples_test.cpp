@@ -97,6 +97,35 @@ TEST(CheckSamples, TheTablesOfTheShopHaveNothingToMend) {
   }
 }
 
+/// The lines that another verb has to say about a file: errors and warnings; hints belong to `check`.
+std::vector<std::string> LinesAbout(const std::string& file, const Json& findings) {
+  std::vector<std::string> lines;
+  for (const Json& finding : findings) {
+    if (finding["file"] != file || finding["severity"] == "hint") continue;
+    const std::string cell = finding["cell"].is_null() ? "" : finding["cell"].get<std::string>() + ": ";
+    lines.push_back(finding["severity"].get<std::string>() + ": " + cell +
+                    finding["message"].get<std::string>());
+  }
+  return lines;
+}
+
+TEST(CheckSamples, ShowTellsOfEachTableWhatCheckTells) {
+  const AtTheSamples place;
+  const std::string folder = "samples/config/带错误";
+  const Json report = Json::parse(Check("带错误", "en", "json").out);
+  for (const Json& table : report["checked"]["tables"]) {
+    const std::string role = table["role"];
+    const std::string shown = RunPlateconfig({"show", "--config", folder, role}).err;
+    const std::vector<std::string> lines = LinesAbout(table["file"], report["findings"]);
+    for (const std::string& line : lines) EXPECT_THAT(shown, ::testing::HasSubstr(line)) << role;
+    std::size_t said = 0;
+    for (std::size_t at = 0;
+         (at = shown.find(table["file"].get<std::string>() + ":", at)) != std::string::npos; ++at)
+      ++said;
+    EXPECT_EQ(said, lines.size()) << role << "\n" << shown;
+  }
+}
+
 /// Rows that leave several conditions empty catch what the others leave; of the cells that are empty alone, a
 /// keeper wants to hear.
 TEST(CheckSamples, HintsAboutEmptyCellsAreThoseOfCellsThatAreEmptyAlone) {

@@ -313,5 +313,38 @@ TEST_F(DiffCommand, APlateWithAMistakeIsReportedOnceAndTheOthersAreCompared) {
   EXPECT_EQ(result.exitCode, 2);
 }
 
+TEST_F(DiffCommand, WrongValuesOfOptionsAreToldAndNothingIsCompared) {
+  struct Wrong {
+    std::vector<std::string> options;
+    std::string message;
+  };
+  const Wrong all[] = {
+      {{"--limit", "x"}, "\"x\" is no whole number from 0 on"},
+      {{"--limit", "1.5"}, "\"1.5\" is no whole number from 0 on"},
+      {{"--format", "sarif"}, "\"sarif\" is none of text, json"},
+      {{"--plates"}, "the value behind --plates is missing"},
+      {{"-o", Path("fehlt/a.txt")}, "a.txt"},
+      {{"--plates", Path("fehlt.csv")}, "fehlt.csv: error: "},
+  };
+  for (const Wrong& wrong : all) {
+    const CompanionResult result = Diff(wrong.options);
+    EXPECT_EQ(result.exitCode, 2) << wrong.message;
+    EXPECT_THAT(result.err, HasSubstr(wrong.message));
+  }
+  const CompanionResult oneFolder = RunPlateconfig({"diff", Path("old")});
+  EXPECT_EQ(oneFolder.exitCode, 2);
+  EXPECT_THAT(oneFolder.err, HasSubstr("new"));
+}
+
+TEST_F(DiffCommand, TheTextSaysFirstThatNoPlateChanges) {
+  WriteSettings("new", "→,Y");
+  WriteRules("new", With(kRows, "13,200_300", "14,200_300"));
+  const CompanionResult result =
+      Diff({"--plates", "-"}, "名称,长度,宽度,厚度,重量,体颜色,有无圆孔\n甲,50,40,10,1,12,N\n");
+  EXPECT_THAT(result.out, StartsWith("this edit changes "));
+  EXPECT_THAT(result.out, HasSubstr("different: 1 settings, 1 rule rows, 0 regions of plates\n"));
+  EXPECT_EQ(result.exitCode, 1);
+}
+
 }  // namespace
 }  // namespace plateconfig::test
