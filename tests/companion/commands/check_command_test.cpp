@@ -52,7 +52,7 @@ class CheckCommand : public ::testing::Test {
   void WriteRules(const std::string& table) { files_.WriteTable("规则.csv", table); }
   std::string Path(const std::string& name) const { return ArgumentPath(files_, name); }
   std::string Written(const std::string& name) const {
-    return ReadBytes(std::filesystem::path(std::u8string(Path(name).begin(), Path(name).end())));
+    return ReadBytes(files_.Path() / std::u8string(name.begin(), name.end()));
   }
 
   /// Checks the rule table alone.
@@ -386,8 +386,8 @@ TEST(CheckManifest, AFullWidthSignIsNamedWithItsHalfWidthForm) {
 }
 
 TEST(CheckManifest, ACommaBehindTheLastEntryIsToldAtItsPlace) {
-  EXPECT_EQ(SaidOfManifest("{\n\"bom\": \"b,}.csv\",\n}\n", "en"),
-            "  line 2  error: a comma stands behind the last entry of this manifest  [manifest-comma-last]\n"
+  EXPECT_EQ(SaidOfManifest("{\n\"bom\": \"b,}.csv\",\n\"texts\": \"t.csv\",\n}\n", "en"),
+            "  line 3  error: a comma stands behind the last entry of this manifest  [manifest-comma-last]\n"
             "      delete the comma\n");
   EXPECT_EQ(SaidOfManifest("{\"bom\": \"b.csv\", }", "zh"),
             "  第 1 行  错误: 清单最后一项之后多了一个逗号  [manifest-comma-last]\n      请删除此逗号\n");
