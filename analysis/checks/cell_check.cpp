@@ -163,10 +163,23 @@ bool IsStyle(const std::string& text) {
                      [](const std::string& field) { return StrictNumber(field).has_value(); });
 }
 
+/// A style (UTF-8) with half-width separators and numbers.
+std::string RepairedStyle(std::string text) {
+  constexpr std::string_view kFullWidth = "｜";
+  for (std::size_t at; (at = text.find(kFullWidth)) != std::string::npos;)
+    text.replace(at, kFullWidth.size(), "|");
+  const std::vector<std::string> fields = SplitString(text, "|");
+  std::string repaired = fields.empty() ? std::string() : fields.front();
+  for (std::size_t i = 1; i < fields.size(); ++i) repaired += "|" + RepairedNumber(fields[i]);
+  return repaired;
+}
+
 void CheckStyle(const CheckedCell& cell, const Raise& raise) {
   if (IsStyle(cell.gbk)) return;
   Finding finding = cell.Finds("cell-not-style");
   finding.usedAs = UsedAs(cell);
+  const std::string repaired = RepairedStyle(*finding.text);
+  if (repaired != *finding.text && IsStyle(repaired)) finding.fix = repaired;
   raise(finding);
 }
 
@@ -185,6 +198,14 @@ void CheckCondition(const CheckedCell& cell, const Raise& raise) {
   raise(finding);
 }
 
+/// Which of two texts was probably meant by one that is shortened or much like it; empty for none.
+std::string MeantOf(const std::string& text, const std::string& wanted, const std::string& opposite) {
+  const std::string folded = FoldedName(text);
+  const bool isShort = !folded.empty() && wanted.starts_with(folded) != opposite.starts_with(folded);
+  if (isShort) return wanted.starts_with(folded) ? wanted : opposite;
+  return MostSimilarName(folded, {wanted, opposite});
+}
+
 /// A cell that has to be exactly one text: everything else means the opposite, in silence.
 void CheckExact(const CheckedCell& cell, const Raise& raise) {
   const ExactTexts& exact = cell.schema.exact;
@@ -193,8 +214,7 @@ void CheckExact(const CheckedCell& cell, const Raise& raise) {
   Finding finding = isMaterial ? cell.Finds("material-unknown") : cell.Finds("wish-unknown");
   finding.words = {GbkToUtf8(exact.wanted), GbkToUtf8(exact.opposite)};
   finding.usedAs = GbkToUtf8(exact.opposite);
-  const std::string meant =
-      MostSimilarName(FoldedName(*finding.text), {finding.words[0].english, finding.words[1].english});
+  const std::string meant = MeantOf(*finding.text, finding.words[0].english, finding.words[1].english);
   if (!meant.empty()) finding.fix = meant;
   raise(finding);
 }

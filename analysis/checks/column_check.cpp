@@ -55,9 +55,10 @@ class ColumnCheck {
     const std::string name = table_.ColumnName(column);
     const std::string meant = ProbablyMeantName(name, absent_);
     if (!meant.empty()) {
-      Finding finding = HeaderFinding("column-misspelled", column);
-      finding.fix = meant;
-      raise_(finding);
+      meant_.insert(meant);
+      told_.insert(column);
+      // Where the name was probably written wrongly in the process list, it is told there.
+      if (!IsProcess(meant) || OddCharacters(meant) <= OddCharacters(name)) RaiseMisspelled(column, meant);
       return true;
     }
     if (absent_.empty() || IsRemarkColumn(name) || !HasCells(column)) return false;
@@ -67,6 +68,18 @@ class ColumnCheck {
     return false;
   }
 
+  void RaiseMisspelled(std::size_t column, const std::string& meant) {
+    Finding finding = HeaderFinding("column-misspelled", column);
+    finding.fix = meant;
+    raise_(finding);
+  }
+
+  /// True for a name that a cell of the table gives.
+  bool IsProcess(const std::string& name) const {
+    return std::none_of(schema_.columns.begin(), schema_.columns.end(),
+                        [&](const ColumnSchema& column) { return GbkToUtf8(column.column) == name; });
+  }
+
   bool HasCells(std::size_t column) const {
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
       if (!table_.Cells().RawCell(row, column).empty()) return true;
@@ -74,11 +87,14 @@ class ColumnCheck {
     return false;
   }
 
-  /// The absence of a process's column is told where the process is listed.
+  /// The absence of a process's column is told where the process is listed, that of a misspelled one at its
+  /// header.
   void CheckPresence(const ColumnSchema& column) {
     if (column.use == ColumnUse::kPlaceholder || table_.Cells().FindColumn(column.column)) return;
     Finding finding{"column-absent", {table_.Name(), 1, 1}};
     finding.columnName = GbkToUtf8(column.column);
+    if (meant_.contains(finding.columnName)) return;
+    finding.kin = "column-absent";
     const std::string value =
         column.whenAbsent.empty() ? std::string() : GbkToUtf8(column.whenAbsent.front());
     finding.words = {value.empty() ? Word("it reads as empty", "取空值")
@@ -105,6 +121,7 @@ class ColumnCheck {
   const Raise& raise_;
   std::set<std::string> read_;       ///< GBK
   std::vector<std::string> absent_;  ///< UTF-8; of `read_` those that the table does not have.
+  std::set<std::string> meant_;      ///< UTF-8; absent names that misspelled ones stand for.
   std::set<std::size_t> told_;       ///< Columns with a finding at their header.
 };
 

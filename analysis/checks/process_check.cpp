@@ -73,8 +73,11 @@ class ParameterCheck {
     if (!pairs_.HasNames()) return;
     std::map<std::string, std::size_t> rows;
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) CheckRow(row, rows);
+    for (const GeneralParameter& parameter : kGeneralParameters) {
+      if (!rows.contains(std::string(parameter.name))) missing_.push_back(GbkToUtf8(parameter.name));
+    }
+    CheckUnknownNames();
     for (const GeneralParameter& parameter : kGeneralParameters) CheckMissing(parameter, rows);
-    CheckUnknownNames(rows);
     CheckBothMaterials(rows);
   }
 
@@ -110,16 +113,15 @@ class ParameterCheck {
 
   void CheckMissing(const GeneralParameter& parameter, const std::map<std::string, std::size_t>& rows) {
     const std::string name(parameter.name);
-    if (rows.contains(name)) return;
-    missing_.push_back(GbkToUtf8(name));
-    if (!IsAskedFor(parameter)) return;
+    const bool isTold = meant_.contains(GbkToUtf8(name));  // At the name that was written instead.
+    if (rows.contains(name) || isTold || !IsAskedFor(parameter)) return;
     Finding finding = CellFinding("parameter-missing", table_, 0, pairs_.NameColumn());
     finding.text = GbkToUtf8(name);
     raise_(finding);
   }
 
   /// Other names may be somebody's own, unless they look like one of ours or one of ours is missing.
-  void CheckUnknownNames(const std::map<std::string, std::size_t>&) {
+  void CheckUnknownNames() {
     std::vector<std::string> known;
     for (const GeneralParameter& parameter : kGeneralParameters) known.push_back(GbkToUtf8(parameter.name));
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
@@ -130,6 +132,7 @@ class ParameterCheck {
       if (meant.empty()) continue;
       Finding finding = CellFinding("parameter-unknown", table_, row, pairs_.NameColumn());
       finding.fix = meant;
+      meant_.insert(meant);
       raise_(finding);
     }
   }
@@ -152,6 +155,7 @@ class ParameterCheck {
   const Raise& raise_;
   Pairs pairs_;
   std::vector<std::string> missing_;  ///< UTF-8
+  std::set<std::string> meant_;       ///< UTF-8; what unknown names stand for.
 };
 
 /// Whether a condition compares with its parameter.
@@ -216,6 +220,7 @@ class ProcessCheck {
     });
     const std::string similar =
         same != unread.end() ? *same : MostSimilarName(*finding.text, {unread.begin(), unread.end()});
+    if (OddCharacters(similar) > OddCharacters(*finding.text)) return;  // Told at that column's header.
     if (!similar.empty()) finding.fix = similar;
     raise_(finding);
   }

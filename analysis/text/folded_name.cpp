@@ -103,6 +103,19 @@ std::string FoldedName(std::string_view utf8) {
   return folded;
 }
 
+std::size_t OddCharacters(std::string_view utf8) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    const char32_t c = character.value;
+    const bool isWideDigit = c >= U'０' && c <= U'９';
+    const bool isWideLetter = (c >= U'Ａ' && c <= U'Ｚ') || (c >= U'ａ' && c <= U'ｚ');
+    if (IsBlank(c) || isWideDigit || isWideLetter) ++count;
+    at += std::max<std::size_t>(character.length, 1);
+  }
+  return count;
+}
+
 std::string FoldedNameWithoutUnit(std::string_view utf8) {
   std::string folded = FoldedName(utf8);
   const std::size_t open = folded.ends_with(')') ? folded.rfind('(') : std::string::npos;

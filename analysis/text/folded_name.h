@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@ namespace plateconfig {
 /// no blanks, every dash, tilde and underline as "_". Two names that fold to the same text look alike; it is
 /// no text to be shown.
 std::string FoldedName(std::string_view utf8);
+
+/// How many blanks and full-width letters and digits a text (UTF-8) has: what no name is meant to have.
+std::size_t OddCharacters(std::string_view utf8);
 
 /// The folded name without what stands in brackets at its end, which is mostly a unit: 长度范围(mm) gives
 /// 长度范围.

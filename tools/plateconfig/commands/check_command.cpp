@@ -247,7 +247,9 @@ class CheckRun {
       return false;
     }
     const std::string text{std::istreambuf_iterator<char>(file), {}};
+    const std::size_t found = report_.findings.size();
     Comparison comparison = CompareWithBaseline(std::move(report_.findings), ReadBaseline(text));
+    report_.accepted = found - comparison.fresh.size();
     report_.findings = std::move(comparison.fresh);
     for (const AcceptedFinding& finding : comparison.vanished) {
       report_.incomplete.push_back(
@@ -263,6 +265,7 @@ class CheckRun {
       const Finding& finding = report_.findings[i];
       accepted.push_back({fingerprints[i], finding.place.file + ": " + LineOf(finding, Language::kEnglish)});
     }
+    report_.accepted = report_.findings.size();
     report_.findings.clear();
     return WriteOutputFile(job_.baseline, WriteBaseline(accepted), IfPresent::kReplace, context_.reporter);
   }
@@ -318,15 +321,20 @@ void ExplainCode(const std::string& name, Context& context) {
   const CodeRow& row = *found;
   const Language language = CurrentLanguage();
   std::ostream& out = context.streams.out;
-  out << row.name << "  (" << NameOf(row.severity)
-      << (row.habit == Habit::kOff ? Say(", off by default", "，默认关闭") : "") << ")\n\n  "
-      << row.message.In(language) << "\n";
-  if (!row.advice.In(language).empty()) out << "  " << row.advice.In(language) << "\n";
-  if (!row.page.In(language).empty()) out << "\n" << row.page.In(language) << "\n";
+  const std::string habit = row.habit == Habit::kOff ? Say(", off by default", "，默认关闭") : "";
+  out << row.name << "  " << Say("({}{})", "（{}{}）", WordsOf(row.severity).In(language), habit) << "\n\n  "
+      << OutlineOf(row.message.In(language)) << "\n";
+  if (!row.advice.In(language).empty()) out << "  " << OutlineOf(row.advice.In(language)) << "\n";
+  out << "\n" << row.page.In(language) << "\n";
 }
 
 void RunCheck(const CheckJob& job, Context& context) {
   if (!job.explained.empty()) return ExplainCode(job.explained, context);
+  if (job.updateBaseline && job.baseline.empty()) {
+    return context.reporter.Error({"plateconfig"},
+                                  Say("--update-baseline writes the file that --baseline names",
+                                      "--update-baseline 写出 --baseline 所指定的文件，请同时给出"));
+  }
   CheckRun(job, context).Run();
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -71,6 +72,26 @@ std::optional<Finding> FullWidthSign(std::string_view text, const std::string& f
     counter.Take(text[at]);
   }
   return std::nullopt;
+}
+
+/// A comma with nothing but the closing brace behind it, outside of the texts.
+std::optional<Finding> CommaBehindTheLast(std::string_view text, const std::string& file) {
+  PositionCounter counter;
+  bool isInText = false;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t next = text.find_first_not_of(" \t\r\n", at + 1);
+    if (!isInText && text[at] == ',' && next != std::string_view::npos && text[next] == '}')
+      return Finding{"manifest-comma-last", PlaceIn(file, counter.At())};
+    if (text[at] == '"') isInText = !isInText;
+    counter.Take(text[at]);
+  }
+  return std::nullopt;
+}
+
+/// What a hand got wrong in a manifest that is no JSON; where that is not known, what the parser says.
+Finding MistakeIn(std::string_view text, const std::string& file, const Finding& parsers) {
+  if (const auto sign = FullWidthSign(text, file)) return *sign;
+  return CommaBehindTheLast(text, file).value_or(parsers);
 }
 
 bool EndsWithSeparator(const std::string& path) {
@@ -154,10 +175,12 @@ void Configuration::ReadManifest() {
   if (!IsValidUtf8(bytes->View())) return reporter_.Report({"manifest-encoding", {manifest.shownAs}});
   const std::string_view text = WithoutByteOrderMark(bytes->View());
   JsonNode root;
-  if (!ParseJson(text, {manifest.shownAs, 1, 1}, reporter_, root)) {
-    if (const auto sign = FullWidthSign(text, manifest.shownAs)) reporter_.Report(*sign);
-    return;
-  }
+  std::ostringstream nowhere;
+  std::vector<Finding> told;
+  Reporter parsers(nowhere);
+  parsers.CollectInto(&told);
+  if (!ParseJson(text, {manifest.shownAs, 1, 1}, parsers, root))
+    return reporter_.Report(MistakeIn(text, manifest.shownAs, told.front()));
   if (root.kind != JsonNode::Kind::kObject) {
     Finding finding{"manifest-no-object", PlaceIn(manifest.shownAs, root.position)};
     finding.words = {{"{ role: file name, … }", "{ 用途: 文件名, … }"}};
