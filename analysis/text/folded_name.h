@@ -15,4 +15,7 @@ std::string FoldedName(std::string_view utf8);
 /// 长度范围.
 std::string FoldedNameWithoutUnit(std::string_view utf8);
 
+/// The text (UTF-8) without the blanks and line breaks in front of it and behind it.
+std::string_view WithoutOuterBlanks(std::string_view utf8);
+
 }  // namespace plateconfig
