@@ -92,9 +92,17 @@ class IndexCheck {
     const bool isYes = row.flag == "Y" || row.flag == "y";
     const bool isNo = row.flag.empty() || row.flag == "N" || row.flag == "n";
     if (!isYes && !isNo) RaiseFlag(CellFinding("index-flag", table, at, flag));
+    if (row.flag.empty() && !row.folderName.empty() && StatesNo())
+      raise_(CellFinding("index-flag-empty", table, at, flag));
     if (isYes && row.folderName.empty()) raise_(CellFinding("index-folder-empty", table, at, folder));
     if (row.isActive && IsOdd(GbkToUtf8(row.folderName)))
       raise_(CellFinding("index-folder-odd", table, at, folder));
+  }
+
+  /// Whether a row that is not active says so.
+  bool StatesNo() const {
+    return std::any_of(index_.rows.begin(), index_.rows.end(),
+                       [](const IndexRow& row) { return row.flag == "N" || row.flag == "n"; });
   }
 
   void RaiseFlag(Finding finding) {

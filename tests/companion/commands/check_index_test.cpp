@@ -78,6 +78,13 @@ TEST(CheckIndex, AFolderOfTheCommandLineThatIsNotThereIsAnErrorOfTheCall) {
   EXPECT_THAT(result.err, HasSubstr("没有"));
 }
 
+TEST(CheckIndex, AnEmptyFlagIsAHintWhereAnotherRowStatesN) {
+  Root mixed("文件夹名称,有效配置\n标准,Y\n旧,\n精密模,N\n");
+  EXPECT_THAT(CodesAndCells(mixed.Check()), Contains("index-flag-empty B3"));
+  Root same("文件夹名称,有效配置\n标准,Y\n旧,\n精密模,\n");
+  EXPECT_THAT(CodesAndCells(same.Check()), Not(Contains(HasSubstr("index-flag-empty"))));
+}
+
 TEST(CheckIndex, AGoodIndexHasNoFinding) {
   Root root("文件夹名称,有效配置\n标准,Y\n精密模,N\n");
   for (const std::string& text : CodesAndCells(root.Check())) EXPECT_THAT(text, Not(HasSubstr("index-")));

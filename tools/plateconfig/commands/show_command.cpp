@@ -18,6 +18,7 @@ using Json = nlohmann::ordered_json;
 struct ShowJob {
   ConfigurationOptions configuration;
   std::vector<std::string> roles;  ///< Empty for all.
+  bool meanings = false;           ///< In text; JSON always has them.
 };
 
 std::string SourceText(Source source) {
@@ -32,19 +33,20 @@ std::string SourceText(Source source) {
   return {};
 }
 
-void WriteText(const Setting& setting, std::ostream& out) {
+void WriteText(const Setting& setting, bool withMeaning, std::ostream& out) {
   out << "  " << OneLine(setting.schema.column) << " = " << SettingText(setting.value);
   if (setting.schema.unit != Unit::kNone && !setting.value.empty())
     out << "  [" << InWords(WordsOf(setting.schema.unit)) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
+  if (withMeaning) out << "      " << InWords(setting.schema.help) << "\n";
 }
 
 void WriteText(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings,
-               std::ostream& out) {
+               bool withMeanings, std::ostream& out) {
   out << NameOf(role) << "  " << (file ? file->shownAs : Say("no file plays this role", "没有文件担任此角色"))
       << "\n";
-  for (const Setting& setting : settings) WriteText(setting, out);
+  for (const Setting& setting : settings) WriteText(setting, withMeanings, out);
   out << "\n";
 }
 
@@ -58,7 +60,8 @@ Json ToJson(Role role, const std::optional<TableFile>& file, const Setting& sett
           {"column", GbkToUtf8(setting.schema.column)},
           {"value", SettingToJson(setting.schema, setting.value)},
           {"unit", WordsOf(setting.schema.unit).english},
-          {"source", JsonName(setting.source)}};
+          {"source", JsonName(setting.source)},
+          {"help", InWords(setting.schema.help)}};
 }
 
 bool IsWanted(const ShowJob& job, std::string_view role) {
@@ -74,7 +77,7 @@ void RunShow(const ShowJob& job, Context& context) {
     if (!IsWanted(job, row.name)) continue;
     const std::optional<TableFile> file = configuration.FindOptional(role);
     const std::vector<Setting> settings = ReportedSettings(role, file, context.reporter);
-    if (!array) WriteText(role, file, settings, context.streams.out);
+    if (!array) WriteText(role, file, settings, job.meanings, context.streams.out);
     for (const Setting& setting : settings) {
       if (array) array->Add(ToJson(role, file, setting));
     }
@@ -100,6 +103,8 @@ Run ShowOptions(CLI::App& command) {
   command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
       ->check(OneOf(AllNames()));
+  command.add_flag("--meanings", job->meanings,
+                   Say("also what each setting does on the drawing", "同时说明每项设置在图纸上起什么作用"));
   AddRolesToHelp(command, AllNames());
   return [job](Context& context) { RunShow(*job, context); };
 }
