@@ -79,13 +79,13 @@ class ListCheck {
     raise_(finding);
   }
 
-  /// Among few rows nothing is usual.
+  /// Among few rows nothing is usual, and the last one is often for whatever is left, and open on purpose.
   void CheckEmptyCells(const Field& field) const {
     constexpr std::size_t kFew = 3;
     const auto isEmpty = [&](std::size_t row) { return IsEmpty(row, field); };
     const auto first = std::find_if(counting_.begin(), counting_.end(), isEmpty);
     if (counting_.size() < kFew || first == counting_.end()) return;
-    if (std::any_of(first + 1, counting_.end(), isEmpty)) return;
+    if (first + 1 == counting_.end() || std::any_of(first + 1, counting_.end(), isEmpty)) return;
     raise_(CellFinding("row-cell-empty", table_, *first, field.column));
   }
 
