@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "analysis/checks/cell_check.h"
@@ -79,6 +80,7 @@ class ParameterCheck {
     CheckUnknownNames();
     for (const GeneralParameter& parameter : kGeneralParameters) CheckMissing(parameter, rows);
     CheckBothMaterials(rows);
+    CheckSameColors(rows);
   }
 
  private:
@@ -97,8 +99,12 @@ class ParameterCheck {
     if (!IsKnown(name)) return;
     if (!rows.emplace(name, row).second)
       return raise_(CellFinding("parameter-twice", table_, row, pairs_.NameColumn()));
-    if (pairs_.Value(row).empty())
-      return raise_(CellFinding("parameter-without-value", table_, row, pairs_.NameColumn()));
+    if (pairs_.Value(row).empty()) {
+      Finding finding = CellFinding("parameter-without-value", table_, row,
+                                    pairs_.ValueColumn().value_or(pairs_.NameColumn()));
+      finding.text = GbkToUtf8(name);
+      return raise_(finding);
+    }
     CheckCell(table_, ColumnNamed(columns::kParameterValue), row, *pairs_.ValueColumn(), raise_);
   }
 
@@ -147,6 +153,27 @@ class ParameterCheck {
       Finding finding = CellFinding("color-soft-and-hard", table_, hardRow->second, *pairs_.ValueColumn());
       finding.text = std::to_string(color);
       raise_(finding);
+    }
+  }
+
+  static bool IsMaterial(const std::string& name) {
+    return name == kSoftMaterial.name || name == kHardMaterial.name;
+  }
+
+  /// One colour alone may well stand for two things; a whole list that does was copied.
+  void CheckSameColors(const std::map<std::string, std::size_t>& rows) {
+    for (auto a = rows.begin(); a != rows.end(); ++a) {
+      for (auto b = std::next(a); b != rows.end(); ++b) {
+        const std::string colors = pairs_.Value(a->second);
+        if (colors.find('_') == std::string::npos || colors != pairs_.Value(b->second)) continue;
+        if (IsMaterial(a->first) && IsMaterial(b->first)) continue;  // Told for each colour.
+        const auto [upper, lower] = a->second < b->second ? std::pair(a, b) : std::pair(b, a);
+        Finding finding = CellFinding("parameter-same-colors", table_, lower->second, *pairs_.ValueColumn());
+        finding.words = {GbkToUtf8(upper->first)};
+        finding.members = {{"row", static_cast<int>(lower->second + 1)},
+                           {"otherRow", static_cast<int>(upper->second + 1)}};
+        raise_(finding);
+      }
     }
   }
 

@@ -44,10 +44,24 @@ bool DifferBySlip(const std::u32string& a, const std::u32string& b) {
   return std::equal(left + 1, a.end(), right + 1) || (isSwap && std::equal(left + 2, a.end(), right + 2));
 }
 
+/// True for a text with a letter or a Chinese character.
+bool HasWord(const std::string& utf8) {
+  constexpr char32_t kFirstChinese = 0x3400;
+  constexpr char32_t kLastChinese = 0x9FFF;
+  const std::u32string characters = Characters(utf8);
+  return std::any_of(characters.begin(), characters.end(), [](char32_t c) {
+    return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || (c >= kFirstChinese && c <= kLastChinese);
+  });
+}
+
 /// The texts of one column and how often each stands there.
 class Texts {
  public:
-  void Add(const std::string& utf8) { ++counts_[utf8]; }
+  void Add(const std::string& utf8) {
+    ++counts_[utf8];
+    ++all_;
+    if (HasWord(utf8)) ++words_;
+  }
 
   /// The frequent text that a rare one looks like; empty when there is none.
   std::string LookAlike(const std::string& utf8) const {
@@ -62,10 +76,18 @@ class Texts {
     return {};
   }
 
+  /// True for a text without a word among others that nearly all are words.
+  bool IsOdd(const std::string& utf8) const {
+    constexpr int kManyOf = 8;
+    return !HasWord(utf8) && words_ >= kManyOf * (all_ - words_);
+  }
+
   int CountOf(const std::string& utf8) const { return counts_.at(utf8); }
 
  private:
   std::map<std::string, int> counts_;
+  int all_ = 0;
+  int words_ = 0;
 };
 
 class RowCheck {
@@ -189,8 +211,19 @@ class RowCheck {
     if (text.starts_with('"') &&
         table_.Cells().RawCell(row, column).size() == table_.Cells().Cell(row, column).size())
       return;  // A quote that is not closed is told already.
+    if (texts.IsOdd(text)) return raise_(CellFinding("process-text-odd", table_, row, column));
+    std::vector<Finding> found;
+    CheckCell(table_, ProcessColumn(), row, column,
+              [&](Finding finding) { found.push_back(std::move(finding)); });
+    const bool isWarnedOf = std::any_of(found.begin(), found.end(), [](const Finding& finding) {
+      return finding.code.Row().severity != Severity::kHint;
+    });
     const std::string alike = texts.LookAlike(text);
-    if (alike.empty()) return CheckCell(table_, ProcessColumn(), row, column, raise_);
+    // The text that it looks like says more than any other hint.
+    if (isWarnedOf || alike.empty()) {
+      std::for_each(found.begin(), found.end(), raise_);
+      return;
+    }
     Finding finding = CellFinding("text-look-alike", table_, row, column);
     finding.fix = alike;
     finding.words = {std::to_string(texts.CountOf(alike))};

@@ -19,4 +19,7 @@ std::size_t OddCharacters(std::string_view utf8);
 /// 长度范围.
 std::string FoldedNameWithoutUnit(std::string_view utf8);
 
+/// The text (UTF-8) without the blanks and line breaks in front of it and behind it.
+std::string_view WithoutOuterBlanks(std::string_view utf8);
+
 }  // namespace plateconfig

@@ -151,12 +151,17 @@ class CheckRun {
     wayThere_.push_back(finding);
   }
 
-  /// There is nothing to check then: an error of the call, not a finding.
+  /// Of a folder that the command line names there is nothing to check then: an error of the call, not a
+  /// finding. Of the active folder it is one, and the way there has told it.
   bool IsFolderMissing() {
     const auto missing = std::find_if(wayThere_.begin(), wayThere_.end(), [](const Finding& finding) {
       return finding.code == Code("config-folder-missing");
     });
     if (missing == wayThere_.end()) return false;
+    if (job_.configuration.folder.empty()) {
+      wayThere_.erase(missing);
+      return false;
+    }
     for (const Finding& finding : wayThere_) context_.reporter.Report(finding);
     return true;
   }
@@ -172,12 +177,11 @@ class CheckRun {
 
   /// Plates and hole types, behind the tables.
   void CheckInputs() {
-    std::vector<Finding> found;
-    context_.reporter.CollectInto(&found);
+    context_.reporter.CollectInto(&inputs_);
     CheckPlates();
     CheckHoleTypes();
     context_.reporter.CollectInto(nullptr);
-    Put(found, report_.findings.end());
+    Put(std::move(inputs_), report_.findings.end());
   }
 
   const GivenTable* Given(Role role) const {
@@ -208,8 +212,25 @@ class CheckRun {
     const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
       return plates.Read(in, shownAs);
     };
-    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context_.streams,
-               context_.reporter, read);
+    Visit(file, read);
+  }
+
+  /// Reads a plate or hole type file; one that gives nothing, with nothing said of it, is a finding too.
+  void Visit(const std::string& file, const ReadInput& read) {
+    bool isOpen = false;
+    const auto visit = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
+      isOpen = true;
+      const std::size_t count = read(in, shownAs, progress);
+      if (count == 0 && !IsTold(shownAs)) context_.reporter.Report({"input-empty", {shownAs}});
+      return count;
+    };
+    VisitInput({file, ""}, context_.streams, context_.reporter, visit);
+    if (!isOpen) context_.reporter.Report({"input-missing", {file}});
+  }
+
+  bool IsTold(const std::string& file) const {
+    return std::any_of(inputs_.begin(), inputs_.end(),
+                       [&](const Finding& finding) { return finding.place.file == file; });
   }
 
   void CheckHoleTypes() {
@@ -217,8 +238,7 @@ class CheckRun {
       const auto read = [this](std::istream& in, const std::string& shownAs, Progress&) {
         return ReadHoleTypes(in, shownAs, context_.reporter).size();
       };
-      VisitInput({file, Say("no hole type was read from this file", "没有从此文件读到任何孔类型")},
-                 context_.streams, context_.reporter, read);
+      Visit(file, read);
     }
   }
 
@@ -298,6 +318,7 @@ class CheckRun {
   Configuration configuration_;
   std::vector<GivenTable> tables_;
   std::vector<Finding> wayThere_;  ///< Of the index and the manifest.
+  std::vector<Finding> inputs_;    ///< Of plates and hole types.
   std::string folder_;
   CheckReport report_;
 };

@@ -201,6 +201,11 @@ void Configuration::ReadRole(const std::string& name, const JsonNode& file, cons
     finding.text = name;
     return reporter_.Report(finding);
   }
+  if (file.text.empty()) {
+    Finding finding{"manifest-file-empty", place};
+    finding.text = name;
+    return reporter_.Report(finding);
+  }
   CheckName(file.text, place);
   manifest_[*role] = file.text;
 }
