@@ -16,6 +16,7 @@
 namespace plateconfig {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::Not;
 using Codes = std::vector<std::string>;
@@ -112,6 +113,9 @@ const std::string kHoles = "孔名称,位置,直径,颜色\nK1,顶,14,36\n,通,9
 const std::string kHole =
     R"({"name": "K1", "top": [{"diameter": 14, "color": 36, "origin": [1, 2, 3]}], "through": [{"diameter": 9, "color": 36}]})";
 const std::string kTypes = "名称,结构,顶颜色,通颜色,底颜色,顶直径,通直径,底直径\nM8,1_1_0,36,36,,14,9,\n";
+/// So many that one without diameters stands out.
+const std::string kFourTypes =
+    kTypes + "M9,1_1_0,36,36,,14,9,\nM10,1_1_0,36,36,,14,9,\nM11,1_1_0,36,36,,14,9,\n";
 const std::string kType =
     R"({"name": "M8", "structure": "1_1_0", "topColor": [[36]], "throughColor": [[36]]})";
 
@@ -135,6 +139,13 @@ std::vector<Fixture> HoleFixtures() {
       type("hole-type-no-name", "M8", ""),
       type("hole-type-structure", "1_1_0", "1_1"),
       type("hole-type-refuses-all", "1_1_0,36", "1_1_0,"),
+      type("hole-type-list-unused", "1_1_0", "1_0_0"),
+      type("hole-type-color", "36,36", "360,36"),
+      type("input-column-absent", ",底直径", ""),
+      {"hole-type-no-diameters", Input::kHoleTypes, "t.csv", kFourTypes + "M12,1_1_0,36,36,,14,,\n",
+       kFourTypes + "M12,1_1_0,36,36,,14,9,\n"},
+      {"hole-type-name-twice", Input::kHoleTypes, "t.csv", kTypes + "M8,1_0_0,36,,,14,,\n",
+       kTypes + "M9,1_0_0,36,,,14,,\n"},
       {"hole-type-member-missing", Input::kHoleTypes, "t.json", With(kType, "\"structure\": \"1_1_0\", ", ""),
        kType},
   };
@@ -155,6 +166,7 @@ std::vector<Fixture> ManifestFixtures() {
       manifest("manifest-no-object", kManifest, "[]"),
       manifest("manifest-role-unknown", "bom", "bomb"),
       manifest("manifest-file-kind", "\"清单.csv\"", "5"),
+      manifest("manifest-file-empty", "清单.csv", ""),
       manifest("manifest-absolute-path", "清单", "D:/清单"),
       manifest("manifest-file-twice", "清单", "规则"),
       manifest("role-without-file", ", \"bom\": \"清单.csv\"", ""),
@@ -168,10 +180,14 @@ std::vector<Fixture> IndexFixtures() {
     return Fixture{code, Input::kIndex, "standard.csv", With(kIndex, what, instead), kIndex};
   };
   return {
-      index("index-no-rows", "文件夹名称", "文件夹"), index("index-none-active", "Y", "N"),
-      index("index-many-active", "N", "Y"),           index("index-flag", "N", "是"),
-      index("index-folder-empty", "精密模,N", ",Y"),  index("index-folder-odd", "标准", "标准 "),
+      index("index-no-rows", "文件夹名称", "文件夹"),
+      index("index-none-active", "Y", "N"),
+      index("index-many-active", "N", "Y"),
+      index("index-flag", "N", "是"),
+      index("index-folder-empty", "精密模,N", ",Y"),
+      index("index-folder-odd", "标准", "标准 "),
       index("index-folder-missing", "标准", "没有"),
+      {"index-flag-empty", Input::kIndex, "standard.csv", kIndex + "旧,\n", kIndex + "旧,N\n"},
   };
 }
 
@@ -213,17 +229,23 @@ void ReadAll(auto& reader) {
   }
 }
 
+/// The codes in a report in JSON.
+Codes CodesOfReport(const std::string& report) {
+  Codes codes;
+  for (std::size_t at = 0; (at = report.find("\"code\": \"", at)) != std::string::npos;) {
+    at += 9;
+    codes.push_back(report.substr(at, report.find('"', at) - at));
+  }
+  return codes;
+}
+
 /// The codes that a configuration with this manifest gives when it is checked.
 Codes CodesOfManifest(const std::string& manifest) {
   const test::TemporaryFolder files;
   files.WriteBytes("tables.json", manifest);
   const auto report =
       test::RunPlateconfig({"check", "--config", test::ArgumentPath(files, ""), "--format", "json"}).out;
-  Codes codes;
-  for (std::size_t at = 0; (at = report.find("\"code\": \"", at)) != std::string::npos;) {
-    at += 9;
-    codes.push_back(report.substr(at, report.find('"', at) - at));
-  }
+  Codes codes = CodesOfReport(report);
   // Nearly all roles have no file; one of them is looked at.
   std::erase(codes, report.find("\"text\": \"bom\"") == std::string::npos ? "role-without-file" : "");
   return codes;
@@ -314,10 +336,25 @@ TEST(InputCodeFixtures, AFolderOrAManifestThatIsNotThere) {
   EXPECT_THAT(codesOf("配置"), Not(Contains("manifest-unreadable")));
 }
 
+TEST(InputCodeFixtures, AFileOfTypesThatIsNotThereOrEmpty) {
+  const test::SmallConfiguration tables;
+  const test::TemporaryFolder files;
+  const auto codesOf = [&](const std::string& name) {
+    return CodesOfReport(test::RunPlateconfig({"check", "--config", tables.Path(), "--format", "json",
+                                               "--types", test::ArgumentPath(files, name)})
+                             .out);
+  };
+  files.WriteBytes("full.csv", kTypes);
+  files.WriteBytes("empty.csv", kTypes.substr(0, kTypes.find('\n') + 1));
+  EXPECT_THAT(codesOf("missing.csv"), Contains("input-missing"));
+  EXPECT_THAT(codesOf("empty.csv"), AllOf(Contains("input-empty"), Not(Contains("input-missing"))));
+  EXPECT_THAT(codesOf("full.csv"), AllOf(Not(Contains("input-empty")), Not(Contains("input-missing"))));
+}
+
 TEST(InputCodeFixtures, TogetherWithThoseOfTablesTheyAreEveryCode) {
   std::set<std::string, std::less<>> covered = test::CodesWithTableFixtures();
   covered.insert({"index-missing", "index-unreadable", "root-ends-in-config", "config-folder-missing",
-                  "manifest-unreadable"});
+                  "manifest-unreadable", "input-empty", "input-missing"});
   for (const Fixture& fixture : AllFixtures()) covered.insert(fixture.code);
   for (const CodeRow& row : kCodes) EXPECT_TRUE(covered.contains(row.name)) << row.name;
 }

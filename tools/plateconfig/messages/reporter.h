@@ -35,6 +35,7 @@ class Reporter {
 
   /// From now on findings go there, instead of onto the stream, and do not count; null ends it.
   void CollectInto(std::vector<Finding>* findings) { collected_ = findings; }
+  bool Collects() const { return collected_ != nullptr; }
 
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
