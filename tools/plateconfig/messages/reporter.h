@@ -43,7 +43,7 @@ class Reporter {
   ExitCode Result() const { return hasErrors_ ? kUnusable : hasFindings_ ? kFindings : kFine; }
 
  private:
-  void Write(const Place& place, std::string_view severity, const std::string& text);
+  void Write(const Place& place, Severity severity, const std::string& text);
 
   std::ostream& err_;
   std::vector<Finding>* collected_ = nullptr;
