@@ -150,10 +150,16 @@ class ColumnCheck {
  private:
   /// True for a column that is read or was probably meant to be.
   bool CheckHeader(std::size_t column) {
-    const std::string name = table_.Cells().Cell(0, column);
-    if (!read_.contains(name)) return CheckUnknown(column);
-    if (table_.Cells().FindColumn(name) != column) raise_(HeaderFinding("column-second", column));
+    const std::optional<std::size_t> first = FindRead(column);
+    if (!first) return CheckUnknown(column);
+    if (first != column) raise_(HeaderFinding("column-second", column));
     return true;
+  }
+
+  /// The first column of this one's name, if that is read.
+  std::optional<std::size_t> FindRead(std::size_t column) const {
+    const std::string name = table_.Cells().Cell(0, column);
+    return read_.contains(name) ? table_.Cells().FindColumn(name) : std::nullopt;
   }
 
   bool CheckUnknown(std::size_t column) {

@@ -96,6 +96,7 @@ void AppendUtf8(std::string& text, char32_t c) {
 
 std::string FoldedName(std::string_view utf8) {
   std::string folded;
+  folded.reserve(utf8.size());  // No character becomes longer.
   for (std::size_t at = 0; at < utf8.size();) {
     const Utf8Character character = DecodeUtf8At(utf8, at);
     if (!IsBlank(character.value)) AppendUtf8(folded, Folded(character.value));

@@ -38,6 +38,14 @@ std::size_t EditDistance(const std::u32string& a, const std::u32string& b) {
   return row.back();
 }
 
+/// True when the name has more than twice the characters of every known one, so that it resembles none.
+bool IsTooLong(std::string_view name, const std::vector<std::string_view>& known) {
+  constexpr std::size_t kLongestCharacter = 4;
+  return std::ranges::all_of(known, [&](std::string_view candidate) {
+    return name.size() / kLongestCharacter > 2 * candidate.size() + 1;
+  });
+}
+
 bool IsSlipOf(const std::u32string& name, const std::u32string& meant) {
   const auto holds = [](const std::u32string& text, const std::u32string& part) {
     return text.find(part) != std::u32string::npos;
@@ -49,6 +57,7 @@ bool IsSlipOf(const std::u32string& name, const std::u32string& meant) {
 }  // namespace
 
 std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known) {
+  if (IsTooLong(name, known)) return {};  // Taking megabytes apart would need a multiple of their memory.
   const std::u32string wanted = Characters(name);
   std::string best;
   std::size_t bestDistance = wanted.size() / 3 + 1;

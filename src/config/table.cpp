@@ -114,6 +114,14 @@ class CellFinder {
   Places& rowBegins_;
 };
 
+/// The text of a cell as it stands in the file, its quotes apart; nothing for one that has to be put
+/// together.
+std::optional<std::string_view> TextInPlace(std::string_view raw) {
+  if (!raw.starts_with(kQuote)) return raw;
+  if (raw.find(kQuote, 1) != raw.size() - 1) return std::nullopt;
+  return raw.substr(1, raw.size() - 2);
+}
+
 /// Appends the text. `end` is where the bytes end that it is a part of.
 void AppendText(std::vector<std::string>& texts, std::string_view text, const char* end) {
   // As long as a string may be that needs no memory of its own. Copying always as many bytes takes no call.
@@ -205,10 +213,10 @@ std::vector<std::string> Table::Column(std::size_t column) const {
   const char* const end = Bytes().data() + Bytes().size();
   for (std::size_t row = 1; row < LineCount(); ++row) {
     const std::string_view raw = RawCell(row, column);
-    if (raw.starts_with(kQuote))
-      texts.push_back(Unquoted(raw));
+    if (const std::optional<std::string_view> text = TextInPlace(raw))
+      AppendText(texts, *text, end);
     else
-      AppendText(texts, raw, end);
+      texts.push_back(Unquoted(raw));
   }
   return texts;
 }
