@@ -62,6 +62,13 @@ class RowTest {
     return fits;
   }
 
+  /// Whether the row's cell of a process is asked for; a rule that is not valid adds nothing to the text.
+  bool LooksAt(const ProcessRule& rule) const { return rule.IsValid() || everyCondition_; }
+
+  void ReportProcess(const ProcessRule& rule, const std::string& cell) const {
+    if (sink_ != nullptr) sink_->OnProcess(rule, cell);
+  }
+
   void ReportMatch(const RuleRow& row, const std::string& text) const {
     if (sink_ != nullptr) sink_->OnMatch(row, text);
   }
@@ -109,14 +116,15 @@ const RuleRow* FirstRow(const RuleTables& tables, const RowTest& test) {
   return row == tables.ruleRows.end() ? nullptr : &*row;
 }
 
-std::string AssembleText(const RuleTables& tables, const RuleRow& row,
-                         const std::vector<ProcessRule>& rules) {
+std::string AssembleText(const RuleTables& tables, const RuleRow& row, const std::vector<ProcessRule>& rules,
+                         const RowTest& test) {
   std::string text;
   if (tables.outputLineNumber) text.append("(行号："_gbk).append(IntToString(row.lineNumber)).append(")");
   for (const ProcessRule& rule : rules) {
-    if (!rule.IsValid()) continue;
+    if (!test.LooksAt(rule)) continue;
     const std::string process = tables.ruleTable.GetItemValue(rule.GetRuleName(), row.lineNumber - 1);
-    if (process.empty()) continue;
+    test.ReportProcess(rule, process);
+    if (!rule.IsValid() || process.empty()) continue;
     if (!text.empty()) text += tables.connectText;
     text += process;
   }
@@ -135,7 +143,7 @@ std::string EvaluatePlate(const RuleTables& tables, const Plate& plate, const st
   const RowTest test(tables, plate, sink);
   const RuleRow* const row = FirstRow(tables, test);
   if (row == nullptr) return {};
-  std::string text = AssembleText(tables, *row, rules);
+  std::string text = AssembleText(tables, *row, rules, test);
   test.ReportMatch(*row, text);
   return text;
 }
