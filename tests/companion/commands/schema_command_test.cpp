@@ -62,11 +62,13 @@ TEST(SchemaCommand, TheTablesPageIsUpToDate) {
       << "write it anew: plateconfig schema --format markdown --lang en --output docs/tables.md";
 }
 
-TEST(SchemaCommand, AFileIsWrittenWholeAndReplaced) {
+TEST(SchemaCommand, AFileIsWrittenWholeAndReplacedWhenForced) {
   const TemporaryFolder folder;
   folder.WriteBytes("表.md", "old");
   const std::string path = ArgumentPath(folder, "表.md");
-  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 2);
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), "old");
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--force", "--output", path}).exitCode, 0);
   EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
 }
 

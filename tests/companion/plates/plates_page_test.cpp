@@ -15,7 +15,7 @@ namespace plateconfig {
 namespace {
 
 TEST(PlatesPage, ItsExamplesGiveWhatItShows) {
-  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.md", "en"), 5);
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.md", "en"), 6);
 }
 
 TEST(PlatesPage, TheFieldsThatItListsAreAllThereAre) {

@@ -6,7 +6,6 @@
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
-#include "plateconfig/output/output_file.h"
 #include "plateconfig/tables/schema_words.h"
 #include "text/gbk.h"
 
@@ -17,7 +16,6 @@ using Json = nlohmann::ordered_json;
 
 struct SchemaJob {
   std::string format;  ///< Empty: the companion's own.
-  std::string output;  ///< UTF-8; empty is the standard output.
 };
 
 std::string AbsentText(const ColumnSchema& column) {
@@ -126,12 +124,7 @@ void RunSchema(const SchemaJob& job, Context& context) {
   const std::string format = !job.format.empty()               ? job.format
                              : context.format == Format::kJson ? std::string("json")
                                                                : std::string("text");
-  const std::string text = Written(format);
-  if (job.output.empty()) {
-    context.streams.out << text;
-  } else {
-    WriteOutputFile(job.output, text, IfPresent::kReplace, context.reporter);
-  }
+  context.streams.out << Written(format);
 }
 
 }  // namespace
@@ -141,9 +134,7 @@ Run SchemaOptions(CLI::App& command) {
   command.add_option("--format", job->format, Say("text, json or markdown", "text、json 或 markdown"))
       ->check(OneOf({"text", "json", "markdown"}))
       ->type_name("text|json|markdown");
-  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
-      ->type_name(Say("FILE", "文件"));
-  return [job](Context& context) { RunSchema(*job, context); };
+  return WithOutput(command, [job](Context& context) { RunSchema(*job, context); });
 }
 
 }  // namespace plateconfig

@@ -1,94 +1,93 @@
-#include "plateconfig/commands/plate_job.h"
-
-#include <algorithm>
-#include <optional>
-#include <set>
+#include "plateconfig/plates/plate_job.h"
 
 #include "analysis/rules/feed_rules.h"
-#include "analysis/text/shown_text.h"
-#include "analysis/text/similar_name.h"
-#include "plateconfig/commands/options.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/plates/plate_choice.h"
+#include "plateconfig/plates/plate_hints.h"
+#include "plateconfig/plates/plate_names.h"
 #include "plateconfig/tables/reported_table.h"
 
 namespace plateconfig {
 namespace {
 
-std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
-  Configuration configuration(job.configuration, context.reporter);
-  const auto rules = configuration.Find(Role::kProcessRules);
-  const auto settings = configuration.Find(Role::kProcessSettings);
-  if (!rules || !settings) return std::nullopt;
-  const GivenTable givenRules = GivenFrom(Role::kProcessRules, *rules);
-  const GivenTable givenSettings = GivenFrom(Role::kProcessSettings, *settings);
-  ReportTable(givenRules, context.reporter);
-  ReportTable(givenSettings, context.reporter);
-  return LoadRuleTables(ReaderOf(givenRules), ReaderOf(givenSettings));
+void VisitFile(const std::string& file, const Streams& streams, Reporter& reporter, const ReadInput& read) {
+  VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, streams, reporter,
+             read);
 }
 
 class PlateLoop {
  public:
-  PlateLoop(const PlateJob& job, const RuleTables& tables, Context& context, const PlateVisitor& visit)
-      : job_(job), tables_(tables), vocabulary_(tables.processRules), context_(context), visit_(visit) {}
+  PlateLoop(const PlateJob& job, const RuleTables& tables, Reporter& reporter, const PlateVisitor& visit)
+      : tables_(tables),
+        vocabulary_(tables.processRules),
+        choice_(job.names),
+        names_(reporter),
+        reporter_(reporter),
+        visit_(visit) {}
 
-  void VisitFiles() {
-    VisitPlateFiles(job_.files, vocabulary_, context_, [this](const PlateInput& plate) { Visit(plate); });
-    for (const std::string& name : job_.names) {
-      if (!met_.contains(name)) context_.reporter.Warning({"plateconfig"}, NoPlate(name));
+  std::size_t Read(std::istream& in, const std::string& file, Progress& progress) {
+    std::size_t count = 0;
+    WantsRecord wants;
+    if (!choice_.WantsAll()) {
+      wants = [&](const PlateInput& plate) {
+        ++count;
+        progress.Step();
+        return choice_.Wants(plate.name);
+      };
     }
+    const auto plates = ReadPlates(in, file, vocabulary_, reporter_, wants);
+    while (const std::optional<PlateInput> plate = plates->Next()) {
+      if (!wants) {
+        ++count;
+        progress.Step();
+      }
+      Visit(*plate, file);
+    }
+    return count;
   }
+
+  void Finish() const { choice_.ReportUnmet(reporter_); }
 
  private:
-  void Visit(const PlateInput& plate) {
-    if (!IsWanted(plate)) return;
+  using WantsRecord = decltype(RecordKind<PlateInput>::wants);
+
+  void Visit(const PlateInput& plate, const std::string& file) {
+    names_.Check(plate, file);
+    ReportHints(plate, file, tables_, reporter_);
     std::vector<ProcessRule> rules = tables_.processRules;
     FeedRules(rules, plate.features);
-    visit_(plate, tables_, rules);
+    visit_({plate, file, rules});
   }
 
-  bool IsWanted(const PlateInput& plate) {
-    if (job_.names.empty()) return true;
-    met_.insert(plate.name);
-    return std::find(job_.names.begin(), job_.names.end(), plate.name) != job_.names.end();
-  }
-
-  std::string NoPlate(const std::string& name) const {
-    const std::string similar = MostSimilarName(name, {met_.begin(), met_.end()});
-    return Say("no plate has the name \"{}\"", "没有名为“{}”的板", ShownText(name)) +
-           DidYouMean(ShownText(similar));
-  }
-
-  const PlateJob& job_;
-  std::set<std::string> met_;  ///< The names of all plates, when only some are wanted.
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
-  Context& context_;
+  PlateChoice choice_;
+  PlateNames names_;
+  Reporter& reporter_;
   const PlateVisitor& visit_;
 };
 
 }  // namespace
 
-void AddPlateOptions(CLI::App& command, PlateJob& job) {
-  AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job.configuration);
-  command
-      .add_option(
-          "--plate", job.names,
-          Say("only the plates of this name; may be given several times", "仅处理此名称的板；可重复使用"))
-      ->type_name(Say("NAME", "名称"))
-      ->allow_extra_args(false);
-  command
-      .add_option("plates", job.files,
-                  Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
-                      "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
-      ->type_name(Say("FILE", "文件"))
-      ->required();
+std::optional<LoadedRules> LoadRules(const ConfigurationOptions& options, Reporter& reporter) {
+  Configuration configuration(options, reporter);
+  const auto rules = configuration.Find(Role::kProcessRules);
+  const auto settings = configuration.Find(Role::kProcessSettings);
+  if (!rules || !settings) return std::nullopt;
+  const GivenTable givenRules = GivenFrom(Role::kProcessRules, *rules);
+  const GivenTable givenSettings = GivenFrom(Role::kProcessSettings, *settings);
+  ReportTable(givenRules, reporter);
+  ReportTable(givenSettings, reporter);
+  return LoadedRules{LoadRuleTables(ReaderOf(givenRules), ReaderOf(givenSettings)),
+                     configuration.FolderThatWasRead()};
 }
 
 void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabulary& vocabulary,
-                     Context& context, const std::function<void(const PlateInput& plate)>& visit) {
+                     const Streams& streams, Reporter& reporter,
+                     const std::function<void(const PlateInput& plate)>& visit) {
   const auto read = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
-    const auto plates = ReadPlates(in, shownAs, vocabulary, context.reporter);
+    const auto plates = ReadPlates(in, shownAs, vocabulary, reporter);
     std::size_t count = 0;
     while (const std::optional<PlateInput> plate = plates->Next()) {
       ++count;
@@ -97,16 +96,17 @@ void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabular
     }
     return count;
   };
-  for (const std::string& file : files) {
-    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context.streams,
-               context.reporter, read);
-  }
+  for (const std::string& file : files) VisitFile(file, streams, reporter, read);
 }
 
-void VisitPlates(const PlateJob& job, Context& context, const PlateVisitor& visit) {
-  const std::optional<RuleTables> tables = LoadTables(job, context);
-  if (!tables) return;
-  PlateLoop(job, *tables, context, visit).VisitFiles();
+void VisitPlates(const PlateJob& job, const RuleTables& tables, const Streams& streams, Reporter& reporter,
+                 const PlateVisitor& visit) {
+  PlateLoop loop(job, tables, reporter, visit);
+  const auto read = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
+    return loop.Read(in, shownAs, progress);
+  };
+  for (const std::string& file : job.files) VisitFile(file, streams, reporter, read);
+  loop.Finish();
 }
 
 }  // namespace plateconfig
