@@ -92,7 +92,7 @@ std::vector<RefusedRow> ExplanationSink::RefusedRows() const {
 
 std::vector<ProcessRow> ProcessListOf(const RuleTables& tables) {
   std::vector<ProcessRow> list;
-  Loader(tables.ruleTable).WalkRows(list, kProcessListKeys);
+  Loader(tables.ruleTable).WalkRows<kProcessListKeys>(list);
   return list;
 }
 

@@ -62,10 +62,11 @@ const ColumnSchema& ColumnFor(Role role, ColumnUse use) {
 std::vector<Setting> GeneralParameters(const OpenTable& table, const std::string& path) {
   const RuleTables tables = LoadRuleTables(path, "");
   const std::string& names = ColumnFor(Role::kProcessRules, ColumnUse::kParameterNames).column;
+  const Words help = ColumnFor(Role::kProcessRules, ColumnUse::kParameterValues).help;
   std::vector<Setting> settings;
   for (const GeneralParameter& parameter : kGeneralParameters) {
     const std::string name(parameter.name);
-    ColumnSchema column{name, CellForm::kIntegers, CellType::kInteger, Unit::kColor, {}, {}};
+    ColumnSchema column{name, CellForm::kIntegers, CellType::kInteger, Unit::kColor, help, {}};
     column.isList = true;
     const bool isNamed = table.Reader().GetItemIndex(names, name) != -1;
     settings.push_back(

@@ -17,8 +17,12 @@ struct ColumnWidth {
 };
 
 constexpr Key<ColumnWidth> kWidthKeys[] = {
-    {"列名"_gbk, Integer{&ColumnWidth::width, 100, EmptyCell::kIsAbsent}, Unit::kNone,
-     "width of the column of this name; every column of the table is one", RowRule::kNone,
+    {"列名"_gbk,
+     Integer{&ColumnWidth::width, 100, EmptyCell::kIsAbsent},
+     Unit::kNone,
+     {"width of the column of this name; every column of the table is one",
+      "同名的列有多宽；表中的每一列都算"},
+     RowRule::kNone,
      ColumnUse::kPlaceholder},
 };
 
@@ -27,26 +31,34 @@ struct ProcessText {
 };
 
 constexpr Key<ProcessText> kProcessTextKeys[] = {
-    {"工艺名称"_gbk, Text{&ProcessText::text}, Unit::kNone,
-     "text of the process of this name; every process of the list is a column", RowRule::kNone,
+    {"工艺名称"_gbk,
+     Text{&ProcessText::text},
+     Unit::kNone,
+     {"text of the process of this name; every process of the list is a column",
+      "这一行规则给同名工艺写的文本；工艺清单中的每道工艺各有一列"},
+     RowRule::kNone,
      ColumnUse::kPlaceholder},
 };
 
 Snapshot IndexTable() {
   static const Key<IndexRow> kKeys[] = {
-      {kIndexFolderColumn, Text{&IndexRow::folderName}, Unit::kNone,
-       "name of a configuration folder below config"},
-      {kIndexFlagColumn, Flag{&IndexRow::isActive, false, FlagLetters::kYesIfY}, Unit::kNone,
-       "whether the folder is the active one"},
+      {kIndexFolderColumn,
+       Text{&IndexRow::folderName},
+       Unit::kNone,
+       {"name of a configuration folder below config", "config 之下一个配置文件夹的名称"}},
+      {kIndexFlagColumn,
+       Flag{&IndexRow::isActive, false, FlagLetters::kYesIfY},
+       Unit::kNone,
+       {"whether the folder is the active one", "这个文件夹是否有效"}},
   };
   Snapshot snapshot;
-  snapshot.WalkRows(std::vector<IndexRow>(), kKeys);
+  snapshot.WalkRows<kKeys>(std::vector<IndexRow>());
   return snapshot;
 }
 
 Snapshot ColumnWidths() {
   Snapshot snapshot;
-  snapshot.Walk(ColumnWidth(), kWidthKeys);
+  snapshot.Walk<kWidthKeys>(ColumnWidth());
   return snapshot;
 }
 
@@ -59,10 +71,10 @@ Cells ParameterNames() {
 
 Snapshot RuleTable() {
   Snapshot snapshot;
-  snapshot.WalkRows(std::vector<ParameterRow>(), kParameterKeys);
-  snapshot.WalkRows(std::vector<ProcessRow>(), kProcessListKeys);
-  snapshot.WalkRows(std::vector<RuleRow>(), kRuleRowKeys);
-  snapshot.WalkRows(std::vector<ProcessText>(), kProcessTextKeys);
+  snapshot.WalkRows<kParameterKeys>(std::vector<ParameterRow>());
+  snapshot.WalkRows<kProcessListKeys>(std::vector<ProcessRow>());
+  snapshot.WalkRows<kRuleRowKeys>(std::vector<RuleRow>());
+  snapshot.WalkRows<kProcessTextKeys>(std::vector<ProcessText>());
   for (ColumnSchema& column : snapshot.columns) {
     if (column.use == ColumnUse::kParameterNames) column.whenAbsent = ParameterNames();
   }

@@ -28,18 +28,18 @@ inline SystemDefault FreshRecord<SystemDefault>() {
 
 class Snapshot {
  public:
-  template <typename Record, typename Keys>
-  void Walk(const Record& record, const Keys& keys) {
-    for (const auto& key : keys) {
+  template <const auto& kKeys, typename Record>
+  void Walk(const Record& record) {
+    for (const auto& key : kKeys) {
       columns.push_back(Describe(key));
       values.push_back(PrintKey(key, record));
     }
   }
 
-  template <typename Record, typename Keys>
-  void WalkRows(const std::vector<Record>& list, const Keys& keys) {
-    for (const auto& key : keys) {
-      columns.push_back(DescribeRowColumn(key, DecidingColumn(keys)));
+  template <const auto& kKeys, typename Record>
+  void WalkRows(const std::vector<Record>& list) {
+    for (const auto& key : kKeys) {
+      columns.push_back(DescribeRowColumn(key, DecidingColumn(kKeys)));
       Cells& cells = values.emplace_back();
       for (const Record& record : list) cells.push_back(PrintKey(key, record).front());
     }
@@ -74,7 +74,8 @@ class Snapshot {
   template <typename AnyKey>
   static ColumnSchema DescribeCells(const AnyKey& key) {
     const auto describe = [&](const auto& kind) {
-      ColumnSchema column{std::string(key.column), kind.Form(), kind.kType, key.unit, key.help, {}};
+      const Words help = {key.help.english, key.help.chinese};
+      ColumnSchema column{std::string(key.column), kind.Form(), kind.kType, key.unit, help, {}};
       column.isList = kind.kIsList;
       column.emptyIsAbsent = kind.EmptyIsAbsent();
       column.use = key.use;

@@ -20,7 +20,7 @@ struct ColumnSchema {
   CellForm form;
   CellType type;  ///< What one value is.
   Unit unit;
-  std::string_view help;       ///< English
+  Words help;                  ///< What it does, for those who keep the tables.
   Cells whenAbsent;            ///< Cells (GBK) that say what an absent column says; none for an empty list.
   bool isList = false;         ///< One setting whose values run down the rows.
   bool isRowColumn = false;    ///< One field of the records that run down the rows.

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <system_error>
@@ -60,6 +63,40 @@ std::optional<double> Magnitude(std::string_view text) {
   return OutOfRange(text.substr(0, static_cast<std::size_t>(end - text.data())), hexadecimal);
 }
 
+constexpr int kStreamPrecision = 6;
+
+constexpr std::uint64_t kPowersOfFive[] = {1, 5, 25, 125, 625, 3125, 15'625, 78'125, 390'625, 1'953'125};
+constexpr int kMostExactDecimals = std::size(kPowersOfFive) - 1;
+
+/// Appends a small number that is whole in units of 1/2^decimals, as sizes in tables and scores mostly are.
+/// False for any other. Such a number needs no rounding: 1/2^n is 5^n/10^n, which has n decimals.
+bool AppendExactly(std::string& text, double value, int decimals) {
+  constexpr double kLarge = 1e9;
+  if (decimals > kMostExactDecimals || std::signbit(value) || !(value < kLarge)) return false;
+  const double units = value * static_cast<double>(1 << decimals);
+  const auto whole = static_cast<std::uint64_t>(units);
+  if (static_cast<double>(whole) != units) return false;
+  std::array<char, 24> digits;  // Ten before the point, nine behind it.
+  char* const point = std::to_chars(digits.data(), digits.data() + digits.size(), whole >> decimals).ptr;
+  char* const end = decimals == 0 ? point : point + 1 + decimals;
+  if (decimals > 0) *point = '.';
+  std::uint64_t behind = (whole & ((std::uint64_t{1} << decimals) - 1)) * kPowersOfFive[decimals];
+  for (char* digit = end; digit > point + 1; behind /= 10) *--digit = static_cast<char>('0' + behind % 10);
+  text.append(digits.data(), end);
+  return true;
+}
+
+/// Appends a number whose stream formatting is its exact one: no digit is lost and no exponent is needed.
+/// False for any other.
+bool AppendShortStreamNumber(std::string& text, double value) {
+  const int decimals = value < 1e3 ? 3 : 0;  // Six digits at most.
+  if (!(value < 1e6) || !AppendExactly(text, value, decimals)) return false;
+  if (decimals == 0) return true;
+  text.resize(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return true;
+}
+
 }  // namespace
 
 int ParseInt(std::string_view text) {
@@ -81,11 +118,34 @@ double ParseDouble(std::string_view text) {
 }
 
 std::string StreamNumber(double value) {
-  constexpr int kStreamPrecision = 6;
-  std::array<char, 32> text;
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+  std::string text;
+  AppendStreamNumber(text, value);
+  return text;
+}
+
+void AppendStreamNumber(std::string& text, double value) {
+  if (AppendShortStreamNumber(text, value)) return;
+  std::array<char, 32> number;
+  const auto [end, error] = std::to_chars(number.data(), number.data() + number.size(), value,
                                           std::chars_format::general, kStreamPrecision);
-  return {text.data(), end};
+  text.append(number.data(), end);
+}
+
+void AppendFixed(std::string& text, double value, int decimals) {
+  if (AppendExactly(text, value, decimals)) return;
+  // Sign, point and every digit of the largest double.
+  const std::size_t most =
+      std::numeric_limits<double>::max_exponent10 + 3 + static_cast<std::size_t>(decimals);
+  const std::size_t before = text.size();
+  text.resize(before + most);
+  char* const begin = text.data() + before;
+  const auto result = std::to_chars(begin, begin + most, value, std::chars_format::fixed, decimals);
+  text.resize(before + static_cast<std::size_t>(result.ptr - begin));
+}
+
+void AppendInt(std::string& text, int value) {
+  std::array<char, std::numeric_limits<int>::digits10 + 2> digits;
+  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
 }
 
 }  // namespace plateconfig

@@ -20,4 +20,14 @@ double ParseDouble(std::string_view text);
 /// it.
 std::string StreamNumber(double value);
 
+/// Appends what `StreamNumber` gives.
+void AppendStreamNumber(std::string& text, double value);
+
+/// Appends the number in fixed notation with exactly `decimals` digits behind the point (0 or more), rounded
+/// as printf rounds.
+void AppendFixed(std::string& text, double value, int decimals);
+
+/// Appends the decimal text.
+void AppendInt(std::string& text, int value);
+
 }  // namespace plateconfig

@@ -1,8 +1,6 @@
 #include "config/text_helpers.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 
 #include "config/numbers.h"
 #include "text/gbk_scan.h"
@@ -38,14 +36,8 @@ std::string IntToString(int value) {
 }
 
 std::string DoubleToString(double value, int digits) {
-  const int decimals = std::max(digits, 0);
-  // Sign, point and every digit of the largest double.
-  const std::size_t most =
-      std::numeric_limits<double>::max_exponent10 + 3 + static_cast<std::size_t>(decimals);
-  std::string text(most, '\0');
-  const auto result =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
-  text.resize(static_cast<std::size_t>(result.ptr - text.data()));
+  std::string text;
+  plateconfig::AppendFixed(text, value, std::max(digits, 0));
   return text;
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "config/text_helpers.h"
+#include "config/numbers.h"
 #include "platform/diagnostic_file.h"
 #include "text/gbk.h"
 #include "text/gbk_scan.h"
@@ -45,60 +45,73 @@ std::size_t CutLength(std::string_view text) {
   return length;
 }
 
-/// The lines of one call, which reach the file when the object dies.
+/// The lines of one call, which reach the file when the object dies. A line is put together where it stays.
 class LogLines {
  public:
-  explicit LogLines(DiagnosticFile& file) : file_(file) {}
-  ~LogLines() { file_.Append(text_); }
+  explicit LogLines(DiagnosticFile& file) : file_(file) { text_.reserve(kUsualSize); }
+  /// Without the line that an exception has broken off.
+  ~LogLines() { file_.Append(std::string_view(text_).substr(0, lineBegin_)); }
   LogLines(const LogLines&) = delete;
   LogLines& operator=(const LogLines&) = delete;
 
-  void Add(std::string_view line) { text_.append(line.substr(0, CutLength(line))).append("\n"); }
+  LogLines& Add(std::string_view text) {
+    text_.append(text);
+    return *this;
+  }
+  LogLines& Add(int number) {
+    AppendInt(text_, number);
+    return *this;
+  }
+  LogLines& Add(double number) {
+    AppendFixed(text_, number, kNumberDecimals);
+    return *this;
+  }
+  void EndLine() {
+    if (text_.size() - lineBegin_ > kLongestLine)
+      text_.resize(lineBegin_ + CutLength(std::string_view(text_).substr(lineBegin_)));
+    text_.push_back('\n');
+    lineBegin_ = text_.size();
+  }
 
  private:
+  static constexpr std::size_t kUsualSize = 512;
+
   DiagnosticFile& file_;
   std::string text_;
+  std::size_t lineBegin_ = 0;
 };
 
-std::string Number(double value) {
-  return DoubleToString(value, kNumberDecimals);
-}
-
 /// "label-position:" counted from 1, a tab and the number.
-std::string NumberedLine(std::string_view label, std::size_t at, double value) {
-  return std::string(label).append("-").append(std::to_string(at + 1)).append(":\t").append(Number(value));
+void AddNumbered(LogLines& lines, std::string_view label, std::size_t at, double value) {
+  lines.Add(label).Add("-").Add(static_cast<int>(at) + 1).Add(":\t").Add(value).EndLine();
 }
 
 void AddType(const HoleTypeInfo& type, LogLines& lines) {
-  lines.Add("name:" + type.name + "   content:" + type.content);
+  lines.Add("name:").Add(type.name).Add("   content:").Add(type.content).EndLine();
   // Kept: these lines never showed a diameter, and whoever compares logs relies on the zero.
-  for (std::size_t i = 0; i < type.bottomDiameter.size(); ++i)
-    lines.Add(NumberedLine("bottomDiameter", i, 0));
+  for (std::size_t i = 0; i < type.bottomDiameter.size(); ++i) AddNumbered(lines, "bottomDiameter", i, 0);
 }
 
 void AddMeasuredDiameters(const std::vector<HoleInfo>& segments, LogLines& lines) {
-  for (std::size_t i = 0; i < segments.size(); ++i) {
-    lines.Add(NumberedLine("bDiams", i, MeasuredDiameter(segments[i])));
-  }
+  for (std::size_t i = 0; i < segments.size(); ++i)
+    AddNumbered(lines, "bDiams", i, MeasuredDiameter(segments[i]));
 }
 
-std::string ScoresLine(const Classification& result) {
-  std::string line;
+void AddScores(const Classification& result, LogLines& lines) {
   int number = 0;
-  const auto append = [&](const GroupScore& group) {
-    line.append(line.empty() ? "acc" : ",acc").append(IntToString(++number)).append(":\t");
-    line.append(Number(group.score));
+  const auto add = [&](const GroupScore& group) {
+    lines.Add(number == 0 ? "acc" : ",acc");
+    lines.Add(++number).Add(":\t").Add(group.score);
   };
-  for (const GroupScore& group : result.colors) append(group);
-  for (const GroupScore& group : result.diameters) append(group);
-  return line;
+  for (const GroupScore& group : result.colors) add(group);
+  for (const GroupScore& group : result.diameters) add(group);
+  lines.EndLine();
 }
 
 void AddInclusions(const InclusionTexts (&texts)[kHoleGroupCount],
                    const std::array<GroupScore, kHoleGroupCount>& groups, LogLines& lines) {
-  for (std::size_t i = 0; i < kHoleGroupCount; ++i) {
-    lines.Add(groups[i].allMatched ? texts[i].included : texts[i].notIncluded);
-  }
+  for (std::size_t i = 0; i < kHoleGroupCount; ++i)
+    lines.Add(groups[i].allMatched ? texts[i].included : texts[i].notIncluded).EndLine();
 }
 
 }  // namespace
@@ -109,10 +122,10 @@ void HoleLogSink::OnClassified(const CombHole& hole, const HoleTypeInfo& type, c
   LogLines lines(log);
   AddType(type, lines);
   AddMeasuredDiameters(hole.bottomHoles, lines);
-  lines.Add(ScoresLine(result));
+  AddScores(result, lines);
   AddInclusions(kColorTexts, result.colors, lines);
   AddInclusions(kDiameterTexts, result.diameters, lines);
-  lines.Add(result.Belongs() ? "属于"_gbk : "bu属于"_gbk);
+  lines.Add(result.Belongs() ? "属于"_gbk : "bu属于"_gbk).EndLine();
 }
 
 }  // namespace plateconfig

@@ -4,12 +4,14 @@
 // print and describe.
 //
 //   inline constexpr Key<LabelSettings> kLabelKeys[] = {
-//       // column        kind, field, when the column is absent      unit       what it is
-//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, Unit::kMm, "height of label text"},
+//       // column        kind, field, when the column is absent      unit       what it does, in both
+//       languages
+//       {"字高"_gbk, Number{&LabelSettings::textHeight, 3.5}, Unit::kMm, {"height of label text",
+//       "标签的字写多高"}},
 //   };
 //   static_assert(ColumnsAreUnique(kLabelKeys));
 //
-// To add a key: add its field to the class and its line to the table, and write docs/tables.md anew.
+// To add a key: add its field to the class and its line to the table, and write the pages of all tables anew.
 
 #include <algorithm>
 #include <array>
@@ -19,6 +21,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -45,6 +48,17 @@ enum class ColumnUse {
   kPlaceholder,      ///< It stands for columns whose names the user chooses.
 };
 
+/// What a column does, for those who keep the tables: UTF-8, since it is shown and never compared with a
+/// cell.
+struct Meaning {
+  /// Both languages at once, so that a key without one of them does not compile.
+  constexpr Meaning(std::string_view inEnglish, std::string_view inChinese)
+      : english(inEnglish), chinese(inChinese) {}
+
+  std::string_view english;
+  std::string_view chinese;
+};
+
 /// One column: a setting of `Record`, or one field of the records that run down the rows.
 /// `Further` are kinds that this table has beside the common ones.
 template <typename Record, typename... Further>
@@ -52,10 +66,27 @@ struct Key {
   std::string_view column;  // GBK
   Kind<Record, Further...> kind;
   Unit unit;
-  std::string_view help;
+  Meaning help;
   RowRule rowRule = RowRule::kNone;
   ColumnUse use = ColumnUse::kValues;
 };
+
+/// What reading takes of a key.
+template <typename AnyKind>
+struct ReadingKey {
+  std::string_view column;  // GBK
+  AnyKind kind;
+  RowRule rowRule;
+};
+
+/// The keys of a table without their meanings. The loader walks these, so that what the host loads carries no
+/// text that only those who speak of tables show.
+template <const auto& kKeys>
+inline constexpr auto kReadingKeys = []<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
+  using AnyKind = std::remove_cvref_t<decltype(kKeys[0].kind)>;
+  return std::array{ReadingKey<AnyKind>{kKeys[kIndex].column, kKeys[kIndex].kind, kKeys[kIndex].rowRule}...};
+}
+(std::make_index_sequence<std::extent_v<std::remove_reference_t<decltype(kKeys)>>>());
 
 /// A record of a list that knows where its row stands.
 template <typename Record>
@@ -76,13 +107,13 @@ consteval bool ColumnsAreUnique(const Keys&... keys) {
   return std::adjacent_find(columns.begin(), columns.end()) == columns.end();
 }
 
-template <typename Record, typename... Further>
-void ReadKey(const Key<Record, Further...>& key, const Cells& cells, Record& record) {
+template <typename AnyKey, typename Record>
+void ReadKey(const AnyKey& key, const Cells& cells, Record& record) {
   std::visit([&](const auto& kind) { kind.Read(record, cells); }, key.kind);
 }
 
-template <typename Record, typename... Further>
-Cells PrintKey(const Key<Record, Further...>& key, const Record& record) {
+template <typename AnyKey, typename Record>
+Cells PrintKey(const AnyKey& key, const Record& record) {
   return std::visit([&](const auto& kind) { return kind.Print(record); }, key.kind);
 }
 
@@ -92,15 +123,16 @@ class Loader {
   explicit Loader(const ReadConfigFile& table) : table_(table) {}
 
   /// Settings of one record, each the first cell of its column or its whole column.
-  template <typename Record, typename Keys>
-  void Walk(Record& record, const Keys& keys) const {
-    for (const auto& key : keys) ReadKey(key, ColumnOf(key), record);
+  template <const auto& kKeys, typename Record>
+  void Walk(Record& record) const {
+    for (const auto& key : kReadingKeys<kKeys>) ReadKey(key, ColumnOf(key), record);
   }
 
   /// A list of records, one per row that counts; appended to what the list holds. A cell that is missing is
   /// empty.
-  template <typename Record, typename Keys>
-  void WalkRows(std::vector<Record>& list, const Keys& keys) const {
+  template <const auto& kKeys, typename Record>
+  void WalkRows(std::vector<Record>& list) const {
+    constexpr const auto& keys = kReadingKeys<kKeys>;
     std::vector<Cells> columns;
     for (const auto& key : keys) columns.push_back(ColumnOf(key));
     std::size_t rows = 0;

@@ -10,14 +10,14 @@ std::atomic<bool> diagnosticFilesEnabled = true;
 }  // namespace
 
 DiagnosticFile::DiagnosticFile(Diagnostic which)
-    : file_(diagnosticFilesEnabled ? OpenPlatformDiagnosticFile(which) : nullptr) {}
+    : file_(diagnosticFilesEnabled ? OpenDiagnosticFile(which) : kNoFile) {}
 
 DiagnosticFile::~DiagnosticFile() {
-  if (file_ != nullptr) std::fclose(file_);
+  if (IsOpen()) CloseDiagnosticFile(file_);
 }
 
 void DiagnosticFile::Append(std::string_view text) {
-  if (file_ != nullptr) std::fwrite(text.data(), 1, text.size(), file_);
+  if (IsOpen()) AppendToDiagnosticFile(file_, text);
 }
 
 void EnableDiagnosticFiles(bool enabled) {

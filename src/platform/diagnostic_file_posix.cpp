@@ -1,9 +1,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "platform/diagnostic_file.h"
@@ -11,41 +13,54 @@
 namespace plateconfig {
 namespace {
 
-std::string Variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value != nullptr ? value : "";
+constexpr std::string_view kFolder = "/plateconfig";
+
+bool IsGiven(const char* variable) {
+  return variable != nullptr && *variable != '\0';
 }
 
-std::filesystem::path StateFolder() {
-  if (const std::string state = Variable("XDG_STATE_HOME"); !state.empty()) return state;
-  const std::string home = Variable("HOME");
-  return home.empty() ? std::filesystem::path() : std::filesystem::path(home) / ".local" / "state";
+/// The folder of both files; empty when there is no place for them. Plain texts, because it is looked up for
+/// each rule, plate and hole.
+std::string Folder() {
+  if (const char* state = std::getenv("XDG_STATE_HOME"); IsGiven(state)) return std::string(state) += kFolder;
+  const char* home = std::getenv("HOME");
+  if (!IsGiven(home)) return {};
+  return (std::string(home) += "/.local/state") += kFolder;
 }
 
 constexpr mode_t kOwnerOnly = 0600;
 
-int OpenForAppending(const std::filesystem::path& path) {
+int OpenForAppending(const std::string& path) {
   return open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, kOwnerOnly);
 }
 
 }  // namespace
 
-std::FILE* OpenPlatformDiagnosticFile(Diagnostic which) {
-  const std::filesystem::path state = StateFolder();
-  if (state.empty()) return nullptr;
-  const std::filesystem::path folder = state / "plateconfig";
-  const std::filesystem::path path = folder / DiagnosticFileName(which);
-  int descriptor = OpenForAppending(path);
-  if (descriptor < 0) {
-    // The folder is missing only once, while the file is opened for each rule, plate and hole.
-    std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
-    std::filesystem::create_directories(folder, ignored);
-    descriptor = OpenForAppending(path);
+SystemFile OpenDiagnosticFile(Diagnostic which) {
+  const std::string folder = Folder();
+  if (folder.empty()) return kNoFile;
+  const std::string path = folder + '/' + DiagnosticFileName(which);
+  const int descriptor = OpenForAppending(path);
+  if (descriptor >= 0) return descriptor;
+  // The folder is missing only once, while the file is opened for each rule, plate and hole.
+  std::error_code ignored;  // A folder that can not be made shows when the file can not be opened.
+  std::filesystem::create_directories(folder, ignored);
+  return OpenForAppending(path);
+}
+
+void AppendToDiagnosticFile(SystemFile file, std::string_view text) {
+  // In one piece, which the system puts behind whatever another process wrote meanwhile. It takes less only
+  // when the disk is full or a signal comes.
+  while (!text.empty()) {
+    const ssize_t written = write(static_cast<int>(file), text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return;
+    text.remove_prefix(static_cast<std::size_t>(written));
   }
-  if (descriptor < 0) return nullptr;
-  std::FILE* file = fdopen(descriptor, "a");
-  if (file == nullptr) close(descriptor);
-  return file;
+}
+
+void CloseDiagnosticFile(SystemFile file) {
+  close(static_cast<int>(file));
 }
 
 }  // namespace plateconfig

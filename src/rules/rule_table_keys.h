@@ -49,25 +49,25 @@ using ConditionKey = Key<Record, Sizes<Record>, Exactly<Record, bool>, Exactly<R
 
 // clang-format off
 inline constexpr Key<ParameterRow> kParameterKeys[] = {
-    {"通用要求"_gbk, Text{&ParameterRow::name}, Unit::kNone, "name of a general parameter", RowRule::kRequired, ColumnUse::kParameterNames},
-    {"通用参数"_gbk, JoinedInts{&ParameterRow::colors}, Unit::kColor, "colours of the parameter", RowRule::kNone, ColumnUse::kParameterValues},
+    {"通用要求"_gbk, Text{&ParameterRow::name}, Unit::kNone, {"name of a general parameter", "通用要求的名称，要与规定的完全一样"}, RowRule::kRequired, ColumnUse::kParameterNames},
+    {"通用参数"_gbk, JoinedInts{&ParameterRow::colors}, Unit::kColor, {"colours of the parameter", "哪些颜色号代表这项要求"}, RowRule::kNone, ColumnUse::kParameterValues},
 };
 
 inline constexpr ListKey<ProcessRow> kProcessListKeys[] = {
-    {"排工艺顺序"_gbk, Text{&ProcessRow::name}, Unit::kNone, "name of a process, in the order of the text", RowRule::kDecides, ColumnUse::kColumnNames},
-    {"排顺序工艺类型"_gbk, Selected{&ProcessRow::condition}, Unit::kNone, "condition under which the process applies"},
-    {"顺序工艺参数值"_gbk, Parameter{&ProcessRow::parameter}, Unit::kNone, "parameter of the condition"},
+    {"排工艺顺序"_gbk, Text{&ProcessRow::name}, Unit::kNone, {"name of a process, in the order of the text", "一道工艺的名称；文本按这里的顺序写，内容取自同名的列"}, RowRule::kDecides, ColumnUse::kColumnNames},
+    {"排顺序工艺类型"_gbk, Selected{&ProcessRow::condition}, Unit::kNone, {"condition under which the process applies", "板有什么特征，才写这道工艺"}},
+    {"顺序工艺参数值"_gbk, Parameter{&ProcessRow::parameter}, Unit::kNone, {"parameter of the condition", "与特征比较的数值：颜色号、直径或孔数"}},
 };
 
 inline constexpr ConditionKey<RuleRow> kRuleRowKeys[] = {
-    {"模板所在图层"_gbk, Integer{&RuleRow::layer}, Unit::kLayer, "layer of the plates of a rule row; a row without it is no rule row", RowRule::kDecides},
-    {"长度范围"_gbk, Sizes{&RuleRow::length}, Unit::kMm, "lengths; empty = any"},
-    {"宽度范围"_gbk, Sizes{&RuleRow::width}, Unit::kMm, "widths; empty = any"},
-    {"厚度范围"_gbk, Sizes{&RuleRow::height}, Unit::kMm, "thicknesses; empty = any"},
-    {"重量范围"_gbk, Sizes{&RuleRow::weight}, Unit::kNone, "weights; empty = any"},
-    {"有无型面"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasProfile, CellForm::kExactParameter, {kProfile.name, true}, {"无型面"_gbk, false}}, Unit::kNone, "with or without a profile"},
-    {"有无线割"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasWireCutting, CellForm::kExactParameter, {kWireCutting.name, true}, {"无线割"_gbk, false}}, Unit::kNone, "with or without wire cutting"},
-    {"材质要求"_gbk, Exactly<RuleRow, Material>{&RuleRow::material, CellForm::kExactSoftParameter, {kSoftMaterial.name, Material::kSoft}, {kHardMaterial.name, Material::kHard}}, Unit::kNone, "soft or hard material"},
+    {"模板所在图层"_gbk, Integer{&RuleRow::layer}, Unit::kLayer, {"layer of the plates of a rule row; a row without it is no rule row", "模板所在的图层，不参与比较；空着就不是规则行"}, RowRule::kDecides},
+    {"长度范围"_gbk, Sizes{&RuleRow::length}, Unit::kMm, {"lengths; empty = any", "板的长度在此范围内才符合；空着不限"}},
+    {"宽度范围"_gbk, Sizes{&RuleRow::width}, Unit::kMm, {"widths; empty = any", "板的宽度在此范围内才符合；空着不限"}},
+    {"厚度范围"_gbk, Sizes{&RuleRow::height}, Unit::kMm, {"thicknesses; empty = any", "板的厚度在此范围内才符合；空着不限"}},
+    {"重量范围"_gbk, Sizes{&RuleRow::weight}, Unit::kNone, {"weights; empty = any", "板的重量在此范围内才符合；空着不限"}},
+    {"有无型面"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasProfile, CellForm::kExactParameter, {kProfile.name, true}, {"无型面"_gbk, false}}, Unit::kNone, {"with or without a profile", "写“有型面”，板上要有型面的颜色；写别的或空着，板上不能有"}},
+    {"有无线割"_gbk, Exactly<RuleRow, bool>{&RuleRow::hasWireCutting, CellForm::kExactParameter, {kWireCutting.name, true}, {"无线割"_gbk, false}}, Unit::kNone, {"with or without wire cutting", "写“有线割”，板上要有线割的颜色；写别的或空着，板上不能有"}},
+    {"材质要求"_gbk, Exactly<RuleRow, Material>{&RuleRow::material, CellForm::kExactSoftParameter, {kSoftMaterial.name, Material::kSoft}, {kHardMaterial.name, Material::kHard}}, Unit::kNone, {"soft or hard material", "写“软料（体颜色）”，板要是软料；写别的或空着，板要是硬料"}},
 };
 // clang-format on
 

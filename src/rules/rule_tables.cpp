@@ -11,7 +11,7 @@ namespace {
 
 void LoadColors(RuleTables& tables, const Loader& loader) {
   std::vector<ParameterRow> rows;
-  loader.WalkRows(rows, kParameterKeys);
+  loader.WalkRows<kParameterKeys>(rows);
   for (const GeneralParameter& parameter : kGeneralParameters) {
     const auto row = std::find_if(rows.begin(), rows.end(),
                                   [&](const ParameterRow& each) { return each.name == parameter.name; });
@@ -21,7 +21,7 @@ void LoadColors(RuleTables& tables, const Loader& loader) {
 
 void LoadProcessList(RuleTables& tables, const Loader& loader) {
   std::vector<ProcessRow> rows;
-  loader.WalkRows(rows, kProcessListKeys);
+  loader.WalkRows<kProcessListKeys>(rows);
   for (const ProcessRow& row : rows) {
     const int number = static_cast<int>(tables.processRules.size());
     tables.processRules.emplace_back(number, row.condition->type, row.name, row.parameter);
@@ -37,7 +37,7 @@ RuleTables LoadRuleTables(const ReadConfigFile& ruleTable, const ReadConfigFile&
   const Loader loader(tables.ruleTable);
   LoadColors(tables, loader);
   LoadProcessList(tables, loader);
-  loader.WalkRows(tables.ruleRows, kRuleRowKeys);
+  loader.WalkRows<kRuleRowKeys>(tables.ruleRows);
   return tables;
 }
 

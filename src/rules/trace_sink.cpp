@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "config/numbers.h"
-#include "config/text_helpers.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -53,15 +52,19 @@ const Texts& TextsOf(const Texts (&texts)[count], Condition condition) {
 }  // namespace
 
 void TraceSink::Line(std::string_view text) {
-  text_.append(text).append("\n");
+  text_.append(text).push_back('\n');
 }
 
 void TraceSink::Line(std::string_view label, double value) {
-  text_.append(label).append(StreamNumber(value)).append("\n");
+  text_.append(label);
+  AppendStreamNumber(text_, value);
+  text_.push_back('\n');
 }
 
 void TraceSink::Line(std::string_view label, int value) {
-  text_.append(label).append(IntToString(value)).append("\n");
+  text_.append(label);
+  AppendInt(text_, value);
+  text_.push_back('\n');
 }
 
 void TraceSink::RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range) {

@@ -14,6 +14,7 @@
 
 #include "config/numbers.h"
 #include "config/text_helpers.h"
+#include "support/comma_locale.h"
 
 namespace plateconfig::test {
 namespace {
@@ -38,12 +39,18 @@ double RandomDouble(std::mt19937_64& random) {
 
 /// The number as printf writes it with the conversion f, g or e and this precision.
 std::string Printf(char conversion, int precision, double value) {
+  const ClassicNumbers classic;
   std::array<char, 2'000> text;
   const std::size_t size = text.size();
   if (conversion == 'f') std::snprintf(text.data(), size, "%.*f", precision, value);
   if (conversion == 'g') std::snprintf(text.data(), size, "%.*g", precision, value);
   if (conversion == 'e') std::snprintf(text.data(), size, "%.*e", precision, value);
   return text.data();
+}
+
+double CLibraryDouble(const std::string& text) {
+  const ClassicNumbers classic;
+  return std::strtod(text.c_str(), nullptr);
 }
 
 TEST(ParsedNumbers, AreThoseOfTheCLibraryForRandomTexts) {
@@ -54,7 +61,7 @@ TEST(ParsedNumbers, AreThoseOfTheCLibraryForRandomTexts) {
     const long nearest =
         std::clamp<long>(integer, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     ASSERT_EQ(ParseInt(text), nearest) << '"' << text << '"';
-    const double expected = std::strtod(text.c_str(), nullptr);
+    const double expected = CLibraryDouble(text);
     const double actual = ParseDouble(text);
     ASSERT_EQ(std::isnan(actual), std::isnan(expected)) << '"' << text << '"';
     if (std::isnan(expected)) continue;
@@ -72,7 +79,7 @@ TEST(ParsedNumbers, AreThoseOfTheCLibraryForLongTextsWithExponents) {
     text += std::string(random() % 500, random() % 2 == 0 ? '0' : '7');
     text += hexadecimal ? "ep" : "1e";
     text += std::to_string(static_cast<int>(random() % 4'000) - 2'000);
-    ASSERT_EQ(ParseDouble(text), std::strtod(text.c_str(), nullptr)) << text;
+    ASSERT_EQ(ParseDouble(text), CLibraryDouble(text)) << text;
   }
 }
 

@@ -3,13 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <limits>
-#include <locale>
 #include <string>
 
 #include "config/text_helpers.h"
+#include "support/comma_locale.h"
 
 namespace plateconfig::test {
 namespace {
@@ -165,35 +164,6 @@ TEST(StreamText, NamesInfinityAndNan) {
 }
 
 // ---- The host's locale ----
-
-struct DecimalComma : std::numpunct<char> {
-  char do_decimal_point() const override { return ','; }
-  char do_thousands_sep() const override { return '.'; }
-  std::string do_grouping() const override { return "\3"; }
-};
-
-/// Sets a locale with decimal comma, as a host in Germany does: always for streams, and for the C library
-/// where the system has one.
-class CommaLocale {
- public:
-  CommaLocale()
-      : cBefore_(std::setlocale(LC_ALL, nullptr)),
-        before_(std::locale::global(std::locale(std::locale::classic(), new DecimalComma))) {
-    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "German_Germany.1252", "fr_FR.UTF-8"}) {
-      if (std::setlocale(LC_ALL, name) != nullptr) break;
-    }
-  }
-  ~CommaLocale() {
-    std::locale::global(before_);
-    std::setlocale(LC_ALL, cBefore_.c_str());
-  }
-  CommaLocale(const CommaLocale&) = delete;
-  CommaLocale& operator=(const CommaLocale&) = delete;
-
- private:
-  std::string cBefore_;
-  std::locale before_;
-};
 
 TEST(Numbers, AreTheSameWhateverLocaleTheHostHasSet) {
   const CommaLocale comma;

@@ -13,12 +13,14 @@
 
 #include "holes/hole_type_info.h"
 #include "support/allocation_count.h"
+#include "support/comma_locale.h"
 
 namespace plateconfig {
 namespace {
 
 /// What CutDecimals stands for, step by step.
 double CutText(double value, int decimals) {
+  const test::ClassicNumbers classic;
   char text[400];
   std::snprintf(text, sizeof text, "%.9f", value);
   std::string kept = text;

@@ -9,12 +9,14 @@
 #include <string>
 
 #include "holes/hole_type_info.h"
+#include "support/comma_locale.h"
 #include "support/diagnostics_off.h"
 
 namespace plateconfig {
 namespace {
 
 double NaiveCut(double value) {
+  const test::ClassicNumbers classic;
   char text[400];
   std::snprintf(text, sizeof text, "%.9f", value);
   const std::string whole = text;

@@ -16,12 +16,12 @@ struct Label {
 };
 
 constexpr Key<Label> kLabelKeys[] = {
-    {"字高"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
-    {"图层"_gbk, Integer{&Label::layer, 1}, Unit::kLayer, "layer of label text"},
+    {"字高"_gbk, Number{&Label::height, 3.5}, Unit::kMm, {"height of label text", "标签的字写多高"}},
+    {"图层"_gbk, Integer{&Label::layer, 1}, Unit::kLayer, {"layer of label text", "标签写在此图层"}},
 };
 
 constexpr Key<Label> kSameColumn[] = {
-    {"图层"_gbk, Number{&Label::height, 3.5}, Unit::kMm, "height of label text"},
+    {"图层"_gbk, Number{&Label::height, 3.5}, Unit::kMm, {"height of label text", "标签的字写多高"}},
 };
 
 TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
@@ -39,8 +39,8 @@ struct Bolt {
 };
 
 constexpr Key<Bolt> kBoltKeys[] = {
-    {"名称"_gbk, Text{&Bolt::name}, Unit::kNone, "name", RowRule::kDecides},
-    {"数量"_gbk, Integer{&Bolt::count, 9}, Unit::kCount, "count"},
+    {"名称"_gbk, Text{&Bolt::name}, Unit::kNone, {"name", "名称"}, RowRule::kDecides},
+    {"数量"_gbk, Integer{&Bolt::count, 9}, Unit::kCount, {"count", "有几个"}},
 };
 
 std::vector<Bolt> LoadBolts(const std::string& table) {
@@ -48,7 +48,7 @@ std::vector<Bolt> LoadBolts(const std::string& table) {
   ReadConfigFile reader;
   reader.OpenConfigFile(folder.WriteTable("table.csv", table));
   std::vector<Bolt> bolts;
-  Loader(reader).WalkRows(bolts, kBoltKeys);
+  Loader(reader).WalkRows<kBoltKeys>(bolts);
   return bolts;
 }
 

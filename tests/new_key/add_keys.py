@@ -14,9 +14,9 @@ import tempfile
 # Section of the page -> role, column, cell, and what is to be shown of it.
 KEYS = {
     "Your first change: add a key":
-        ("system-settings", "标签字高", "4.250", "标签字高|mm|height of label text|3.5|4.25"),
+        ("system-settings", "标签字高", "4.250", "标签字高|mm|height of label text|标签的字写多高|3.5|4.25"),
     "A process setting":
-        ("process-settings", "制造流程右边距", "7x", "制造流程右边距||right margin of the process text|0|7"),
+        ("process-settings", "制造流程右边距", "7x", "制造流程右边距||right margin of the process text|工艺文本离右边多远|0|7"),
 }
 
 # What knows the layout of the two classes; everything else comes from the archives.

@@ -1,4 +1,5 @@
-// Prints the settings that a table gives as that of a role: column, unit, help, value when absent, value.
+// Prints the settings that a table gives as that of a role: column, unit, what it does in both languages,
+// value when absent, value.
 //
 //   show_settings ROLE TABLE
 
@@ -22,8 +23,9 @@ int main(int count, char** arguments) {
   if (!role) return 2;
   for (const plateconfig::Setting& setting : plateconfig::SettingsOf(*role, arguments[2])) {
     std::cout << plateconfig::GbkToUtf8(setting.schema.column) << "|"
-              << plateconfig::WordsOf(setting.schema.unit).english << "|" << setting.schema.help << "|"
-              << Joined(setting.schema.whenAbsent) << "|" << Joined(setting.value) << "\n";
+              << plateconfig::WordsOf(setting.schema.unit).english << "|" << setting.schema.help.english
+              << "|" << setting.schema.help.chinese << "|" << Joined(setting.schema.whenAbsent) << "|"
+              << Joined(setting.value) << "\n";
   }
   return 0;
 }

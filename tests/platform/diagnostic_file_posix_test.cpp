@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <sstream>
 
 #include "platform/diagnostic_file.h"
 #include "support/environment.h"
@@ -76,6 +79,41 @@ TEST_F(DiagnosticPlace, KeepsWhatAFileAlreadyHolds) {
   folder_.WriteBytes("plateconfig/log.txt", "old\n");
   EXPECT_TRUE(Append("new\n"));
   EXPECT_EQ(ReadBytes(folder_.Path() / "plateconfig/log.txt"), "old\nnew\n");
+}
+
+/// Appends the same text again and again in a process of its own, which begins when `start` is closed.
+pid_t AppendInAnotherProcess(const std::string& text, int times, const int (&start)[2]) {
+  const pid_t process = fork();
+  if (process != 0) return process;
+  close(start[1]);
+  char none;
+  while (read(start[0], &none, 1) > 0) {
+  }
+  for (int i = 0; i < times; ++i) DiagnosticFile(Diagnostic::kRules).Append(text);
+  _exit(0);
+}
+
+TEST_F(DiagnosticPlace, TakesTheTextsOfTwoProcessesEachInOnePiece) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  constexpr int kTimes = 100;
+  const std::string a = std::string(20'000, 'a') + "\n";
+  const std::string b = std::string(30'000, 'b') + "\n";
+  EXPECT_TRUE(Append(a));
+  int start[2];
+  ASSERT_EQ(pipe(start), 0);
+  const pid_t processes[] = {AppendInAnotherProcess(a, kTimes, start),
+                             AppendInAnotherProcess(b, kTimes, start)};
+  for (const int end : start) close(end);
+  for (const pid_t process : processes) {
+    int status = -1;
+    ASSERT_EQ(waitpid(process, &status, 0), process);
+    EXPECT_EQ(status, 0);
+  }
+  std::istringstream lines(ReadBytes(folder_.Path() / "plateconfig/log.txt"));
+  int count = 0;
+  for (std::string line; std::getline(lines, line); ++count)
+    ASSERT_TRUE(line + "\n" == a || line + "\n" == b);
+  EXPECT_EQ(count, 1 + 2 * kTimes);
 }
 
 TEST_F(DiagnosticPlace, ThatIsFullIsIgnored) {

@@ -3,18 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "support/diagnostic_folder.h"
+#include "support/diagnostics_off.h"
 #include "support/gbk_text.h"
 
 namespace plateconfig::test {
 namespace {
-
-/// Switches the diagnostic files off until the end of the test.
-struct DiagnosticsOff {
-  DiagnosticsOff() { EnableDiagnosticFiles(false); }
-  ~DiagnosticsOff() { EnableDiagnosticFiles(true); }
-  DiagnosticsOff(const DiagnosticsOff&) = delete;
-  DiagnosticsOff& operator=(const DiagnosticsOff&) = delete;
-};
 
 TEST(DiagnosticFiles, HaveTheirNames) {
   EXPECT_STREQ(DiagnosticFileName(Diagnostic::kRules), "log.txt");
@@ -48,6 +41,24 @@ TEST_F(DiagnosticText, IsAppendedPieceByPieceByOneObject) {
     file.Append("b\n");
   }
   EXPECT_EQ(folder_.Read(Diagnostic::kHoles), "ab\n");
+}
+
+TEST_F(DiagnosticText, KeepsEveryLineWhateverItsLength) {
+  std::string lines = "\n";
+  for (const std::size_t length : {1U, 16'381U, 16'382U, 16'383U, 16'384U, 40'000U, 3U}) {
+    lines += std::string(length, 'x') + "\n";
+  }
+  lines += "no line end";
+  Append(Diagnostic::kRules, lines);
+  EXPECT_EQ(folder_.Read(Diagnostic::kRules), lines);
+}
+
+TEST_F(DiagnosticText, IsInTheFileAsSoonAsItIsAppended) {
+  DiagnosticFile file(Diagnostic::kHoles);
+  file.Append("first\n");
+  EXPECT_EQ(folder_.Read(Diagnostic::kHoles), "first\n");
+  file.Append("second\n");
+  EXPECT_EQ(folder_.Read(Diagnostic::kHoles), "first\nsecond\n");
 }
 
 TEST_F(DiagnosticText, OfRulesAndHolesStandsInTwoFiles) {

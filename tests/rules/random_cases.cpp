@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "rules/condition_texts.h"
+#include "support/comma_locale.h"
 #include "support/gbk_text.h"
 #include "text/gbk.h"
 
@@ -162,6 +163,7 @@ double NearABound(const Cells& table, std::string_view column, Random& random) {
   const auto& line = random.Pick(table);
   const std::string cell = at < line.size() ? line[at] : "";
   const std::size_t separator = cell.find('_');
+  const ClassicNumbers classic;
   const double minimum = std::strtod(cell.c_str(), nullptr);
   const double maximum =
       separator == std::string::npos ? 999999 : std::strtod(cell.c_str() + separator + 1, nullptr);

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "support/comma_locale.h"
 #include "text/gbk.h"
 
 namespace plateconfig::test {
@@ -47,6 +48,11 @@ std::vector<std::string> Pieces(const std::string& text) {
   }
   pieces.push_back(piece);
   return pieces;
+}
+
+double Number(const std::string& text) {
+  const ClassicNumbers classic;
+  return std::strtod(text.c_str(), nullptr);
 }
 
 std::vector<int> Numbers(const std::string& text) {
@@ -144,7 +150,7 @@ class Evaluation {
   Range RangeOf(std::size_t line, std::string_view column) const {
     const auto pieces = Pieces(CellOf(table_, line, column));
     if (pieces.size() != 2) return {};
-    return {std::strtod(pieces[0].c_str(), nullptr), std::strtod(pieces[1].c_str(), nullptr)};
+    return {Number(pieces[0]), Number(pieces[1])};
   }
 
   bool HasRows() const {
@@ -255,7 +261,7 @@ void FeedDiameters(ReferenceRule& rule, const std::vector<double>& diameters) {
   rule.valid = false;
   for (const std::string& piece : Pieces(rule.value)) {
     for (const double diameter : diameters) {
-      if (std::abs(diameter - std::strtod(piece.c_str(), nullptr)) < 0.0001) rule.valid = true;
+      if (std::abs(diameter - Number(piece)) < 0.0001) rule.valid = true;
     }
   }
 }

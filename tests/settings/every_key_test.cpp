@@ -235,7 +235,7 @@ TEST_F(EveryKey, TheSchemaPrintsWhatTheClassHolds) {
 TEST_F(EveryKey, TheSchemaSaysWhatEachColumnIs) {
   for (const TableSchema& table : SettingsSchema()) {
     for (const ColumnSchema& column : table.columns) {
-      EXPECT_FALSE(column.help.empty()) << GbkToUtf8(column.column);
+      EXPECT_FALSE(column.help.english.empty()) << GbkToUtf8(column.column);
     }
   }
 }

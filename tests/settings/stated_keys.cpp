@@ -6,6 +6,7 @@ namespace plateconfig::test {
 
 std::string Shown(double value) {
   std::ostringstream text;
+  text.imbue(std::locale::classic());
   text << value;
   return text.str();
 }

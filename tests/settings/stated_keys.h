@@ -4,6 +4,7 @@
 // the library's own tables of keys: its column, how its cells are read, what an absent column gives, and the
 // public field or getter where the value arrives.
 
+#include <locale>
 #include <span>
 #include <sstream>
 #include <string>
@@ -68,6 +69,7 @@ requires requires(const NoteStyle& style) {
 }
 std::string Shown(const NoteStyle& style) {
   std::ostringstream text;
+  text.imbue(std::locale::classic());
   text << Shown(style.fontName) << '|' << style.size << '|' << style.factor1 << '|' << style.factor2 << '|'
        << style.factor3 << '|' << style.option;
   return text.str();

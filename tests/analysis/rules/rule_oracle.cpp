@@ -8,6 +8,8 @@
 #include <map>
 #include <set>
 
+#include "support/comma_locale.h"
+
 namespace plateconfig::test {
 namespace {
 
@@ -113,6 +115,7 @@ std::size_t OracleBits::Count() const {
 OracleRange RangeOf(const std::string& cell) {
   const std::size_t separator = cell.find('_');
   if (separator == std::string::npos || cell.find('_', separator + 1) != std::string::npos) return {};
+  const ClassicNumbers classic;
   return {std::strtod(cell.substr(0, separator).c_str(), nullptr),
           std::strtod(cell.substr(separator + 1).c_str(), nullptr)};
 }

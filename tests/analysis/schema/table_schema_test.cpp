@@ -37,8 +37,22 @@ TEST(TableSchema, EveryColumnHasAHelpAndSaysWhatItMakesOfCells) {
   for (const TableSchema& table : FullSchema()) {
     EXPECT_FALSE(table.columns.empty()) << NameOf(table.role);
     for (const ColumnSchema& column : table.columns) {
-      EXPECT_FALSE(column.help.empty()) << GbkToUtf8(column.column);
+      EXPECT_FALSE(column.help.english.empty()) << GbkToUtf8(column.column);
       EXPECT_TRUE(column.taken) << GbkToUtf8(column.column);
+    }
+  }
+}
+
+TEST(TableSchema, SaysInChineseTooWhatAColumnDoesAndNotItsNameAgain) {
+  for (const TableSchema& table : FullSchema()) {
+    for (const ColumnSchema& column : table.columns) {
+      const std::string name = GbkToUtf8(column.column);
+      const std::string meaning(column.help.chinese);
+      EXPECT_FALSE(meaning.empty()) << name;
+      EXPECT_NE(meaning, name);
+      EXPECT_TRUE(TryUtf8ToGbk(meaning)) << name << ": a console of code page 936 can not show " << meaning;
+      EXPECT_EQ(meaning.find_first_of(",;()"), std::string::npos)
+          << name << ": Chinese sentences have punctuation of their own";
     }
   }
 }

@@ -44,6 +44,16 @@ TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
                                   {"placeholder", false}}));
 }
 
+TEST(SchemaCommand, AMeaningIsInTheLanguageAskedForWhateverTheFormat) {
+  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out,
+              HasSubstr("  密度(g/cm): 材料的密度，用来算材料表中的重量 [g/cm³]; 数字; 缺列时 0\n"));
+  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh", "--format", "markdown"}).out,
+              HasSubstr("| `密度(g/cm)` | 材料的密度，用来算材料表中的重量 | g/cm³ | 数字 | `0` |\n"));
+  const Json columns = Json::parse(RunPlateconfig({"schema", "--lang", "zh", "--format", "json"}).out);
+  EXPECT_EQ(columns.back()["help"], "换成什么文字；空着的行不算，所以不能把文字删掉");
+  EXPECT_EQ(columns.back()["kind"], "text");
+}
+
 TEST(SchemaCommand, TheFormatInFrontOfTheVerbCountsToo) {
   EXPECT_EQ(RunPlateconfig({"--format", "json", "schema"}).out,
             RunPlateconfig({"schema", "--format", "json"}).out);
@@ -59,7 +69,13 @@ TEST(SchemaCommand, MarkdownEscapesTheSeparatorOfStyles) {
 TEST(SchemaCommand, TheTablesPageIsUpToDate) {
   EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.md"),
             RunPlateconfig({"schema", "--format", "markdown"}).out)
-      << "write it anew: plateconfig schema --format markdown --lang en --output docs/tables.md";
+      << "write it anew: plateconfig schema --format markdown --lang en > docs/tables.md";
+}
+
+TEST(SchemaCommand, TheTablesPageInChineseIsUpToDate) {
+  EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.zh.md"),
+            RunPlateconfig({"schema", "--format", "markdown", "--lang", "zh"}).out)
+      << "write it anew: plateconfig schema --format markdown --lang zh > docs/tables.zh.md";
 }
 
 TEST(SchemaCommand, AFileIsWrittenWholeAndReplacedWhenForced) {

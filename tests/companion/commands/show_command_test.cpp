@@ -62,6 +62,19 @@ TEST_F(ShowCommand, UnitsAreChineseInChineseTextAndEnglishInJson) {
   EXPECT_THAT(Show({"layout-defaults"}, {"--lang", "zh", "--format", "json"}).out, HasSubstr("\"NX layer\""));
 }
 
+TEST_F(ShowCommand, WithMeaningsItTellsWhatEachSettingDoes) {
+  Configure(R"({"bom": "a.csv", "process-rules": "b.csv"})");
+  folder_.WriteTable("a.csv", "密度(g/cm)\n7.85\n");
+  folder_.WriteTable("b.csv", "通用要求,通用参数\n有线割,103_104\n");
+  EXPECT_THAT(Show({"bom"}, {"--lang", "zh", "--meanings"}).out,
+              HasSubstr("  密度(g/cm) = 7.85  [g/cm³]\n      材料的密度，用来算材料表中的重量\n"));
+  EXPECT_THAT(Show({"process-rules"}, {"--meanings"}).out,
+              HasSubstr("  有线割 = 103, 104  [colour index]\n      colours of the parameter\n"));
+  EXPECT_THAT(Show({"bom"}).out, Not(HasSubstr("density")));
+  EXPECT_THAT(Show({"bom"}, {"--lang", "zh", "--format", "json"}).out,
+              HasSubstr("\"help\":\"材料的密度，用来算材料表中的重量\""));
+}
+
 TEST_F(ShowCommand, AnAbsentColumnIsADefault) {
   Configure(R"({"layout-defaults": "a.csv"})");
   folder_.WriteTable("a.csv", "图层间距\n4000\n");
@@ -96,7 +109,8 @@ TEST_F(ShowCommand, JsonNamesRoleFileUnitAndSource) {
                                                 {"column", "密度(g/cm)"},
                                                 {"value", 7.85},
                                                 {"unit", "g/cm³"},
-                                                {"source", "table"}}));
+                                                {"source", "table"},
+                                                {"help", "density of the material"}}));
   folder_.WriteTable("a.csv", "别的\n1\n");
   EXPECT_EQ(Setting("bom", "密度(g/cm)")["source"], "absent column");
   Configure("{}");

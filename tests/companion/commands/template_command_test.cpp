@@ -211,7 +211,7 @@ TEST(TemplateCommand, AFormThatItDoesNotWriteIsTold) {
 }
 
 TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {
-  ColumnSchema column{"a,b", CellForm::kText, CellType::kText, Unit::kNone, "", {"say \"hi\"", "plain"}};
+  ColumnSchema column{"a,b", CellForm::kText, CellType::kText, Unit::kNone, {}, {"say \"hi\"", "plain"}};
   const TableSchema table{Role::kBom, {column}};
   EXPECT_EQ(TableTemplate(table), "\"a,b\"\r\n\"say \"\"hi\"\"\"\r\nplain\r\n");
 }

@@ -16,7 +16,7 @@ namespace {
 /// What the key makes of the row's cell, written as a cell.
 template <typename AnyKey>
 std::string TakenCell(const AnyKey& key, const RuleRow& row) {
-  const Cells cells = std::visit([&](const auto& kind) { return kind.Print(row); }, key.kind);
+  const Cells cells = PrintKey(key, row);
   return cells.empty() ? std::string() : OnOneLine(GbkToUtf8(cells.front()));
 }
 

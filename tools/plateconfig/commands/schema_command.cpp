@@ -27,7 +27,7 @@ std::string AbsentText(const ColumnSchema& column) {
 void WriteText(const TableSchema& table, std::ostream& out) {
   out << NameOf(table.role) << ": " << InWords(RowOf(table.role).title) << "\n";
   for (const ColumnSchema& column : table.columns) {
-    out << "  " << GbkToUtf8(column.column) << ": " << column.help;
+    out << "  " << GbkToUtf8(column.column) << ": " << InWords(column.help);
     if (column.unit != Unit::kNone) out << " [" << InWords(WordsOf(column.unit)) << "]";
     out << "; " << InWords(WordsOf(column.form));
     if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
@@ -43,7 +43,7 @@ Json ToJson(const TableSchema& table, const ColumnSchema& column) {
           {"column", GbkToUtf8(column.column)},
           {"kind", WordsOf(column.form).english},
           {"unit", WordsOf(column.unit).english},
-          {"help", column.help},
+          {"help", InWords(column.help)},
           {"whenAbsent", absent},
           {"rows", column.isRowColumn},
           {"list", column.isList},
@@ -74,7 +74,7 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     const std::string name = "`" + GbkToUtf8(column.column) + "`";
     out << "| " << (column.use == ColumnUse::kPlaceholder ? "*" + name + "*" : name) << " | "
-        << Escaped(std::string(column.help)) << " | " << InWords(WordsOf(column.unit)) << " | "
+        << Escaped(InWords(column.help)) << " | " << InWords(WordsOf(column.unit)) << " | "
         << InWords(WordsOf(column.form)) << " | " << WhenAbsentCell(column) << " |\n";
   }
 }
@@ -82,7 +82,7 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
 void WriteMarkdownHead(std::ostream& out) {
   out << Say("# Tables", "# 配置表") << "\n\n"
       << Say("Every table and every column that the library reads, in the order of reading. Written by\n"
-             "`plateconfig schema --format markdown --lang en --output docs/tables.md` from the rows that "
+             "`plateconfig schema --format markdown --lang en > docs/tables.md` from the rows that "
              "the loaders "
              "walk.\n\n"
              "Tables are CSV in GBK; the first line names the columns. A single value stands in the first "
@@ -95,7 +95,9 @@ void WriteMarkdownHead(std::ostream& out) {
              "missing column "
              "and a\n"
              "table without data rows give. A slanted name stands for names that the user chooses.",
-             "库读取的所有表和列，按读取顺序列出。\n\n"
+             "库读取的所有表和列，按读取顺序列出。本页由命令\n"
+             "`plateconfig schema --format markdown --lang zh > docs/tables.zh.md` "
+             "写出，与读取表格用的是同一份资料。\n\n"
              "表是 GBK 编码的 "
              "CSV，第一行是列名。单个值写在第一个数据行；列表沿列向下排列；标为“多行”的各列逐行对应。\n"
              "第一个单元格为空也算有值：数字为 "

@@ -21,6 +21,7 @@ using Json = nlohmann::ordered_json;
 struct ShowJob {
   ConfigurationOptions configuration;
   std::vector<std::string> roles;  ///< Empty for all.
+  bool meanings = false;           ///< In text; JSON always has them.
 };
 
 std::string SourceText(Source source) {
@@ -35,12 +36,13 @@ std::string SourceText(Source source) {
   return {};
 }
 
-void WriteText(const Setting& setting, std::ostream& out) {
+void WriteText(const Setting& setting, bool withMeaning, std::ostream& out) {
   out << "  " << OneLine(setting.schema.column) << " = " << SettingText(setting.value);
   if (setting.schema.unit != Unit::kNone && !setting.value.empty())
     out << "  [" << InWords(WordsOf(setting.schema.unit)) << "]";
   if (setting.source != Source::kTable) out << "  (" << SourceText(setting.source) << ")";
   out << "\n";
+  if (withMeaning) out << "      " << InWords(setting.schema.help) << "\n";
 }
 
 void WriteHeading(Role role, const std::optional<TableFile>& file, std::ostream& out) {
@@ -49,9 +51,9 @@ void WriteHeading(Role role, const std::optional<TableFile>& file, std::ostream&
 }
 
 void WriteText(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings,
-               std::ostream& out) {
+               bool withMeanings, std::ostream& out) {
   WriteHeading(role, file, out);
-  for (const Setting& setting : settings) WriteText(setting, out);
+  for (const Setting& setting : settings) WriteText(setting, withMeanings, out);
   out << "\n";
 }
 
@@ -65,7 +67,8 @@ Json ToJson(Role role, const std::optional<TableFile>& file, const Setting& sett
           {"column", GbkToUtf8(setting.schema.column)},
           {"value", SettingToJson(setting.schema, setting.value)},
           {"unit", WordsOf(setting.schema.unit).english},
-          {"source", JsonName(setting.source)}};
+          {"source", JsonName(setting.source)},
+          {"help", InWords(setting.schema.help)}};
 }
 
 bool IsWanted(const ShowJob& job, std::string_view role) {
@@ -118,10 +121,11 @@ class ShowRun {
   }
 
   void WriteTable(Role role, const std::optional<TableFile>& file, std::vector<Setting> settings) {
-    if (role != Role::kProcessRules || !file) return WriteText(role, file, settings, context_.streams.out);
+    if (role != Role::kProcessRules || !file)
+      return WriteText(role, file, settings, job_.meanings, context_.streams.out);
     std::erase_if(settings, IsOfRows);
     WriteHeading(role, file, context_.streams.out);
-    for (const Setting& setting : settings) WriteText(setting, context_.streams.out);
+    for (const Setting& setting : settings) WriteText(setting, job_.meanings, context_.streams.out);
     WriteRuleRows(file->hostPath, context_.streams.out);
     context_.streams.out << "\n";
   }
@@ -175,6 +179,8 @@ Run ShowOptions(CLI::App& command) {
   command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
       ->type_name(Say("ROLE", "角色"))
       ->check(OneOf(AllNames()));
+  command.add_flag("--meanings", job->meanings,
+                   Say("also what each setting does on the drawing", "同时说明每项设置在图纸上起什么作用"));
   AddRolesToHelp(command, AllNames());
   return WithOutput(command, [job](Context& context) { RunShow(*job, context); });
 }
