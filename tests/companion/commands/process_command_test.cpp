@@ -89,7 +89,7 @@ TEST_F(ProcessCommand, SpeaksChinese) {
             "3 块板：2 块已写出，1 块没有符合的行；配置 " +
                 configuration_.Path().substr(0, configuration_.Path().size() - 1) + "\n");
   EXPECT_EQ(result.err,
-            "标准输入:5:3: error: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
+            "标准输入:5:3: 错误: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
   EXPECT_EQ(result.exitCode, 2);
 }
 
@@ -182,7 +182,7 @@ TEST_F(ProcessCommand, AMissingRuleTableIsNamedWithWhatFollows) {
       {"process", "--config", configuration_.Path(), "--process-rules", Path("fehlt.csv"), "-"}, kUnfitting);
   EXPECT_EQ(result.err, Path("fehlt.csv") +
                             ": error: this table does not exist; the library then has no rule rows and every "
-                            "process text is empty\n");
+                            "process text is empty; put the file there, or mend its name\n");
   EXPECT_EQ(result.out, NoRow());
   EXPECT_EQ(result.exitCode, 2);
 }
@@ -192,7 +192,7 @@ TEST_F(ProcessCommand, AMissingSettingsTableIsNamedWithWhatFollows) {
       {"process", "--config", configuration_.Path(), "--process-settings", Path("fehlt.csv"), "-"}, kPlates);
   EXPECT_EQ(result.err, Path("fehlt.csv") +
                             ": error: this table does not exist; the library then joins the processes with "
-                            "nothing between them\n");
+                            "nothing between them; put the file there, or mend its name\n");
   EXPECT_THAT(result.out, StartsWith("A板 (line 2): 锯床下料钻孔到数检测外形\n"));
   EXPECT_EQ(result.exitCode, 2);
 }

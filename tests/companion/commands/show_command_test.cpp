@@ -207,7 +207,7 @@ TEST_F(ShowCommand, CsvHasARowForEachValue) {
   Configure(R"({"bom": "a.csv", "triangle-symbol": "b.csv"})");
   folder_.WriteTable("a.csv", "密度(g/cm)\n7.85\n");
   folder_.WriteTable("b.csv", "三角符号-面颜色标准\n5\n6\n");
-  EXPECT_EQ(Show({"bom"}, {"--format", "csv"}).out, "\xEF\xBB\xBF角色,文件,列,序号,值,单位,来源\r\nbom," +
+  EXPECT_EQ(Show({"bom"}, {"--format", "csv"}).out, "\xEF\xBB\xBF用途,文件,列,序号,值,单位,来源\r\nbom," +
                                                         ArgumentPath(folder_, "a.csv") +
                                                         ",密度(g/cm),1,7.85,g/cm3,table\r\n");
   EXPECT_THAT(Show({"triangle-symbol"}, {"--format", "csv"}).out,

@@ -47,7 +47,7 @@ void WriteText(const Setting& setting, bool withMeaning, std::ostream& out) {
 
 void WriteHeading(Role role, const std::optional<TableFile>& file, std::ostream& out) {
   out << NameOf(role) << "  "
-      << (file ? OnOneLine(file->shownAs) : Say("no file plays this role", "没有文件担任此角色")) << "\n";
+      << (file ? OnOneLine(file->shownAs) : Say("no file plays this role", "未指定此表")) << "\n";
 }
 
 void WriteText(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings,
@@ -107,7 +107,7 @@ class ShowRun {
   }
 
  private:
-  inline static const std::vector<std::string> kColumns = {"角色", "文件", "列",  "序号",
+  inline static const std::vector<std::string> kColumns = {"用途", "文件", "列",  "序号",
                                                            "值",   "单位", "来源"};
 
   void Show(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings) {
@@ -176,8 +176,8 @@ std::vector<std::string> AllNames() {
 Run ShowOptions(CLI::App& command) {
   const auto job = std::make_shared<ShowJob>();
   AddConfigurationOptions(command, AllRoles(), job->configuration);
-  command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
-      ->type_name(Say("ROLE", "角色"))
+  command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些用途的表"))
+      ->type_name(Say("ROLE", "用途"))
       ->check(OneOf(AllNames()));
   command.add_flag("--meanings", job->meanings,
                    Say("also what each setting does on the drawing", "同时说明每项设置在图纸上起什么作用"));

@@ -13,12 +13,12 @@ constexpr std::size_t kMostOfOneKind = 20;
 
 void Reporter::Error(const Place& place, const std::string& text) {
   hasErrors_ = true;
-  Write(place, "error", text);
+  Write(place, Severity::kError, text);
 }
 
 void Reporter::Warning(const Place& place, const std::string& text) {
   if (warningsCount_) Count(Severity::kWarning);
-  Write(place, "warning", text);
+  Write(place, Severity::kWarning, text);
 }
 
 void Reporter::Report(const Finding& finding) {
@@ -27,7 +27,7 @@ void Reporter::Report(const Finding& finding) {
   hasErrors_ = hasErrors_ || severity == Severity::kError;
   if (warningsCount_) Count(severity);
   if (++told_[{std::string(finding.code.Name()), finding.place.file}] > kMostOfOneKind) return;
-  Write(finding.place, NameOf(severity), LineOf(finding, CurrentLanguage()));
+  Write(finding.place, severity, LineOf(finding, CurrentLanguage()));
 }
 
 void Reporter::TellHowManyMore() {
@@ -42,9 +42,10 @@ void Reporter::TellHowManyMore() {
   told_.clear();
 }
 
-void Reporter::Write(const Place& place, std::string_view severity, const std::string& text) {
+void Reporter::Write(const Place& place, Severity severity, const std::string& text) {
   if (prepare_) prepare_();
-  err_ << OnOneLine(ToString(place)) << ": " << severity << ": " << OnOneLine(text) << "\n";
+  err_ << OnOneLine(ToString(place)) << ": " << WordsOf(severity).In(CurrentLanguage()) << ": "
+       << OnOneLine(text) << "\n";
 }
 
 }  // namespace plateconfig

@@ -56,7 +56,7 @@ class Reporter {
 
  private:
   void Count(Severity severity) { hasFindings_ = hasFindings_ || severity <= failOn_; }
-  void Write(const Place& place, std::string_view severity, const std::string& text);
+  void Write(const Place& place, Severity severity, const std::string& text);
 
   /// A kind of messages: the code and the file.
   using Kind = std::pair<std::string, std::string>;

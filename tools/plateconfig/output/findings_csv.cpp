@@ -16,10 +16,11 @@ std::string OrEmpty(std::size_t number) {
 void WriteFindingsCsv(const CheckReport& report, std::ostream& out) {
   CsvOutput csv(out, {"代码", "级别", "文件", "行", "列", "单元格", "列名", "文本", "说明", "读作", "改为"});
   for (const Finding& finding : report.findings) {
-    csv.Row({std::string(finding.code.Name()), std::string(NameOf(finding.code.Row().severity)),
-             finding.place.file, OrEmpty(finding.place.line), OrEmpty(finding.place.column), finding.cell,
-             finding.columnName, finding.text.value_or(""), MessageOf(finding, CurrentLanguage()),
-             finding.usedAs.value_or(""), finding.fix.value_or(AdviceOf(finding, CurrentLanguage()))});
+    csv.Row({std::string(finding.code.Name()),
+             std::string(WordsOf(finding.code.Row().severity).In(CurrentLanguage())), finding.place.file,
+             OrEmpty(finding.place.line), OrEmpty(finding.place.column), finding.cell, finding.columnName,
+             finding.text.value_or(""), MessageOf(finding, CurrentLanguage()), finding.usedAs.value_or(""),
+             finding.fix.value_or(AdviceOf(finding, CurrentLanguage()))});
   }
 }
 

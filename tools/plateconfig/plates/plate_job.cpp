@@ -21,6 +21,7 @@ class PlateLoop {
   PlateLoop(const PlateJob& job, const RuleTables& tables, Reporter& reporter, const PlateVisitor& visit)
       : tables_(tables),
         vocabulary_(tables.processRules),
+        rules_(tables.processRules),
         choice_(job.names),
         names_(reporter),
         reporter_(reporter),
@@ -55,13 +56,13 @@ class PlateLoop {
   void Visit(const PlateInput& plate, const std::string& file) {
     names_.Check(plate, file);
     ReportHints(plate, file, tables_, reporter_);
-    std::vector<ProcessRule> rules = tables_.processRules;
-    FeedRules(rules, plate.features);
-    visit_({plate, file, rules});
+    FeedRules(rules_, plate.features);
+    visit_({plate, file, rules_});
   }
 
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
+  std::vector<ProcessRule> rules_;  ///< The process list, fed with the plate at hand.
   PlateChoice choice_;
   PlateNames names_;
   Reporter& reporter_;

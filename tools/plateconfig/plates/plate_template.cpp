@@ -71,7 +71,7 @@ std::vector<Sample> BaseColumns(const RuleTables& tables) {
   const RecordKind<PlateInput> kind = PlateFields(vocabulary);
   std::map<std::string, std::string> cells = BaseCells(tables);
   std::vector<Sample> samples;
-  for (const Need need : {Need::kRequired, Need::kOptional}) {
+  for (const Need need : {Need::kRequired, Need::kExpected, Need::kOptional}) {
     for (const Field<PlateInput>& field : kind.fields) {
       const std::string column(field.names.column);
       if (field.need == need && !column.empty() && vocabulary.Find(column) == nullptr)
