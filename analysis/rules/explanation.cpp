@@ -22,6 +22,19 @@ double RefusedRow::Distance() const {
   return distance;
 }
 
+std::vector<RefusedRow> NearestRows(const std::vector<RefusedRow>& rows, std::size_t count) {
+  if (count == 0 || rows.size() <= count) return rows;
+  std::vector<const RefusedRow*> nearest;
+  for (const RefusedRow& row : rows) nearest.push_back(&row);
+  std::stable_sort(nearest.begin(), nearest.end(),
+                   [](const RefusedRow* a, const RefusedRow* b) { return a->Distance() < b->Distance(); });
+  nearest.resize(count);
+  std::sort(nearest.begin(), nearest.end());  // They stand in one vector: back to its order.
+  std::vector<RefusedRow> chosen;
+  for (const RefusedRow* row : nearest) chosen.push_back(*row);
+  return chosen;
+}
+
 void ExplanationSink::OnRow(const RuleRow& row) {
   rows_.push_back({row.lineNumber, {}});
 }
@@ -50,9 +63,22 @@ void ExplanationSink::OnFaces(Condition condition, const std::vector<int>& color
   rows_.back().refusals.push_back(std::move(refusal));
 }
 
+void ExplanationSink::OnProcess(const ProcessRule& rule, const std::string& cell) {
+  const ProcessVerdict verdict = !rule.IsValid() ? ProcessVerdict::kDoesNotApply
+                                 : cell.empty()  ? ProcessVerdict::kNoText
+                                                 : ProcessVerdict::kWritten;
+  processes_.push_back({rule.GetRuleName(), rule.GetRuleType(), verdict, cell});
+}
+
 void ExplanationSink::OnMatch(const RuleRow& row, const std::string&) {
   matchedLine_ = row.lineNumber;
   rows_.pop_back();  // The matched row was not refused.
+}
+
+bool ExplanationSink::WritesText() const {
+  return std::any_of(processes_.begin(), processes_.end(), [](const ExplainedProcess& process) {
+    return process.verdict == ProcessVerdict::kWritten;
+  });
 }
 
 std::vector<RefusedRow> ExplanationSink::RefusedRows() const {
@@ -62,6 +88,12 @@ std::vector<RefusedRow> ExplanationSink::RefusedRows() const {
                      [](const RefusedRow& a, const RefusedRow& b) { return a.Distance() < b.Distance(); });
   }
   return rows;
+}
+
+std::vector<ProcessRow> ProcessListOf(const RuleTables& tables) {
+  std::vector<ProcessRow> list;
+  Loader(tables.ruleTable).WalkRows<kProcessListKeys>(list);
+  return list;
 }
 
 }  // namespace plateconfig

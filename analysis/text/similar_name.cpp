@@ -74,6 +74,33 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
   return best;
 }
 
+NearNames::NearNames(std::string_view wanted) : wanted_(Characters(FoldedName(wanted))) {}
+
+void NearNames::Offer(std::string_view candidate) {
+  constexpr std::size_t kMost = 3;
+  const std::u32string letters = Characters(FoldedName(candidate));
+  const std::size_t lengths =
+      std::max(wanted_.size(), letters.size()) - std::min(wanted_.size(), letters.size());
+  // Of two letters one may be wrong, of one letter none.
+  const std::size_t allowed = wanted_.size() < 2 ? 0 : std::max<std::size_t>(wanted_.size() / 3, 1);
+  const bool contains = wanted_.size() >= 2 && letters.find(wanted_) != std::u32string::npos;
+  std::size_t distance = lengths <= allowed ? EditDistance(wanted_, letters) : allowed + 1;
+  if (distance > allowed && !contains) return;
+  if (distance > allowed) distance = allowed + lengths;  // Behind all that differ in few characters.
+  const std::pair entry(distance, std::string(candidate));
+  const auto place = std::upper_bound(best_.begin(), best_.end(), entry,
+                                      [](const auto& a, const auto& b) { return a.first < b.first; });
+  if (std::find(best_.begin(), best_.end(), entry) != best_.end()) return;
+  best_.insert(place, entry);
+  if (best_.size() > kMost) best_.pop_back();
+}
+
+std::vector<std::string> NearNames::Best() const {
+  std::vector<std::string> names;
+  for (const auto& [distance, name] : best_) names.push_back(name);
+  return names;
+}
+
 std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known) {
   constexpr std::size_t kTwoCharacters = 6;
   const std::string folded = FoldedNameWithoutUnit(name);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace plateconfig {
@@ -9,6 +11,23 @@ namespace plateconfig {
 /// The name (UTF-8) among `known` that differs from `name` in the fewest characters, for "did you mean";
 /// empty when each differs in more than a third of its characters.
 std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known);
+
+/// Gathers, of many names that pass by, the few that one was probably meant to be, and keeps no others: those
+/// that look the same (case, width and traditional forms apart), those that differ in few characters, and
+/// those that contain it.
+class NearNames {
+ public:
+  explicit NearNames(std::string_view wanted);
+
+  void Offer(std::string_view candidate);
+
+  /// At most three, the nearest first.
+  std::vector<std::string> Best() const;
+
+ private:
+  std::u32string wanted_;  ///< Folded.
+  std::vector<std::pair<std::size_t, std::string>> best_;
+};
 
 /// The name among `known` that a header was probably meant to be: the same but for width, case, script,
 /// blanks or a unit; or the only one that it shortens or lengthens; or one that differs in few characters.

@@ -13,6 +13,17 @@ std::size_t CountLineEnds(std::string_view bytes) {
   return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
 }
 
+/// A cell as spreadsheet programs write it.
+std::string Quoted(const std::string& cell) {
+  if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
+  std::string text = "\"";
+  for (const char c : cell) {
+    if (c == '"') text += '"';
+    text += c;
+  }
+  return text + "\"";
+}
+
 }  // namespace
 
 TableText::TableText(std::string shownAs, const Table& table) : name_(std::move(shownAs)), table_(table) {
@@ -65,6 +76,14 @@ std::string TableText::CellOfByte(std::size_t offset) const {
   std::size_t column = 0;
   while (column + 1 < table_.CellCount(row) && OffsetOf(row, column + 1) <= offset) ++column;
   return CellName(column, row + 1);
+}
+
+std::string CsvLine(const std::vector<std::string>& cells) {
+  std::string line;
+  for (std::size_t i = 0; i < cells.size(); ++i) line += (i == 0 ? "" : ",") + Quoted(cells[i]);
+  // A single empty cell would be a blank line, which is no row.
+  if (line.empty()) line = "\"\"";
+  return line + "\r\n";
 }
 
 }  // namespace plateconfig

@@ -46,4 +46,7 @@ class TableText {
   std::vector<std::size_t> lines_;  ///< The line on which each row begins.
 };
 
+/// A row as spreadsheet programs write it, with CR LF; a cell is put in quotes where it must be.
+std::string CsvLine(const std::vector<std::string>& cells);
+
 }  // namespace plateconfig

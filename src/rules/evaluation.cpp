@@ -51,6 +51,13 @@ class RowTest {
   /// The first row that fits; null when there is none.
   const RuleRow* FindFirst() const { return sink_ != nullptr ? FindFirst<true>() : FindFirst<false>(); }
 
+  /// Whether the row's cell of a process is asked for; a rule that is not valid adds nothing to the text.
+  bool LooksAt(const ProcessRule& rule) const { return rule.IsValid() || everyCondition_; }
+
+  void ReportProcess(const ProcessRule& rule, const std::string& cell) const {
+    if (sink_ != nullptr) sink_->OnProcess(rule, cell);
+  }
+
   void ReportMatch(const RuleRow& row, const std::string& text) const {
     if (sink_ != nullptr) sink_->OnMatch(row, text);
   }
@@ -126,14 +133,15 @@ class RowTest {
   std::array<bool, std::size(kFaceConditions)> present_{};  // Whether a face has one of the colours.
 };
 
-std::string AssembleText(const RuleTables& tables, const RuleRow& row,
-                         const std::vector<ProcessRule>& rules) {
+std::string AssembleText(const RuleTables& tables, const RuleRow& row, const std::vector<ProcessRule>& rules,
+                         const RowTest& test) {
   std::string text;
   if (tables.outputLineNumber) text.append("(行号："_gbk).append(IntToString(row.lineNumber)).append(")");
   for (const ProcessRule& rule : rules) {
-    if (!rule.IsValid()) continue;
+    if (!test.LooksAt(rule)) continue;
     const std::string process = tables.ruleTable.GetItemValue(rule.GetRuleName(), row.lineNumber - 1);
-    if (process.empty()) continue;
+    test.ReportProcess(rule, process);
+    if (!rule.IsValid() || process.empty()) continue;
     if (!text.empty()) text += tables.connectText;
     text += process;
   }
@@ -152,7 +160,7 @@ std::string EvaluatePlate(const RuleTables& tables, const Plate& plate, const st
   const RowTest test(tables, plate, sink);
   const RuleRow* const row = test.FindFirst();
   if (row == nullptr) return {};
-  std::string text = AssembleText(tables, *row, rules);
+  std::string text = AssembleText(tables, *row, rules, test);
   test.ReportMatch(*row, text);
   return text;
 }

@@ -84,10 +84,13 @@ class EvaluationSink {
   /// Profile or wire cutting: whether the row asks for it, and whether a face of the plate has one of the
   /// colours that stand for it.
   virtual void OnFaces(Condition, const std::vector<int>& /*colors*/, bool /*wanted*/, bool /*present*/) {}
+  /// A process of the list in the row that fits, in the order of the text: the rule as it was fed, and the
+  /// row's cell (GBK). Of a rule that is not valid only when every condition is wanted.
+  virtual void OnProcess(const ProcessRule&, const std::string& /*cell*/) {}
   /// The first row whose conditions all hold, and the text that it gives.
   virtual void OnMatch(const RuleRow&, const std::string& /*text*/) {}
 
-  /// True to see every condition of a row, also behind its first one that fails.
+  /// True to see every condition of a row, also behind its first one that fails, and every process.
   virtual bool WantsEveryCondition() const { return false; }
   /// False to be told nothing once the plate is measured. Asked once per evaluation.
   virtual bool Listens() const { return true; }

@@ -73,6 +73,10 @@ std::vector<Fixture> PlateFixtures() {
       Csv("plate-no-name", "甲", ""),
       {"input-separator", Input::kPlates, "p.csv", "名称;长度;宽度;厚度;重量;体颜色\n甲;300;200;50;20;12\n",
        kPlates},
+      {"input-workbook", Input::kPlates, "p.csv", "PK\x03\x04" + kPlates, kPlates},
+      {"input-utf16", Input::kPlates, "p.csv", "\xFF\xFE" + kPlates, kPlates},
+      {"input-line-ends", Input::kPlates, "p.csv", With(kPlates, "\n甲", "\r甲"), kPlates},
+      {"input-title-line", Input::kPlates, "p.csv", "板材清单,,\n" + kPlates, kPlates},
       {"input-header-encoding", Input::kPlates, "p.csv", "\x80\xFF," + kPlates, "名称," + kPlates},
       {"input-row-encoding", Input::kPlates, "p.csv", kPlates + test::Gbk("乙,300,200,50,20,12,,,,\n"),
        kPlates + "乙,300,200,50,20,12,,,,\n"},
@@ -102,6 +106,8 @@ std::vector<Fixture> PlateCheckFixtures() {
       checked("plate-no-row", "300", "900"),
       checked("plate-no-text", "Y,Y", "Y,"),
       checked("plate-feature-missing", "下料", "备注"),
+      checked("plate-features-contradict", "Y,Y", "N,Y"),
+      checked("plate-color-unlisted", "20,12", "20,7"),
       {"plate-name-twice", Input::kPlatesToCheck, "p.csv", kPlates + "甲,300,200,50,20,12,36,8.5,Y,Y\n",
        kPlates + "乙,300,200,50,20,12,36,8.5,Y,Y\n"},
   };
@@ -220,7 +226,8 @@ RuleTables RulesUpTo500() {
   EXPECT_TRUE(table.OpenConfigFile(files.WriteTable(
       "r.csv",
       "通用要求,通用参数,排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,长度范围,材质要求,下料\n"
-      "软料（体颜色）,12,下料,自定义追加工艺,,12,100_500,软料（体颜色）,锯\n")));
+      "软料（体颜色）,12,下料,自定义追加工艺,,12,100_500,软料（体颜色）,锯\n"
+      "硬料（体颜色）,42,,,,,,,\n")));
   return LoadRuleTables(table, ReadConfigFile());
 }
 

@@ -71,6 +71,12 @@ class SmallConfiguration {
   const TemporaryFolder& Folder() const { return folder_; }
   std::string Path() const { return ArgumentPath(folder_, ""); }
 
+  /// The last line of `process` and `explain`: what stands there, and the configuration.
+  std::string LastLine(const std::string& counts) const {
+    const std::string path = Path();
+    return counts + "; configuration " + path.substr(0, path.size() - 1) + "\n";
+  }
+
   CompanionResult Process(const std::string& plates) const {
     return RunPlateconfig({"process", "--config", Path(), "-"}, plates);
   }

@@ -1,12 +1,13 @@
 #include "plateconfig/companion.h"
 
 #include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <algorithm>
+#include <memory>
 
+#include "config/text_helpers.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
+#include "plateconfig/help_format.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/usage_message.h"
@@ -34,28 +35,28 @@ Language ChosenLanguage(const std::vector<std::string>& arguments) {
   return SystemLanguage();
 }
 
-/// The parser's own words in the current language; verbs that are added later take them over.
-void TranslateLabels(CLI::App& app) {
-  const auto formatter = app.get_formatter();
-  formatter->label("Usage", Say("Usage", "用法"));
-  formatter->label("OPTIONS", Say("OPTIONS", "选项"));
-  formatter->label("Positionals", Say("Arguments", "参数"));
-  formatter->label("SUBCOMMAND", Say("VERB", "命令"));
-  formatter->label("SUBCOMMANDS", Say("VERB", "命令"));
-  formatter->label("REQUIRED", Say("(required)", "（必需）"));
-  constexpr std::size_t kOptionWidth = 34;
-  formatter->column_width(kOptionWidth);
-  app.option_defaults()->group(Say("Options", "选项"));
-}
-
 std::string Footer() {
   return Say(
-      "--format and --lang go with every verb. Exit code: 0 all fine, 1 something to look at, 2 wrong usage "
-      "or an input\n"
-      "that can not be used.\n"
-      "Example:  plateconfig explain --config samples/config/标准 samples/plates.csv",
-      "--format 和 --lang 可用于每个命令。返回值：0 正常，1 有需要检查之处，2 用法错误或输入无法使用。\n"
-      "示例：plateconfig explain --config samples/config/标准 samples/plates.csv");
+      "--format and --lang go with every verb, and plateconfig help VERB tells more of one. Exit code: 0 all "
+      "fine,\n"
+      "1 something to look at, 2 wrong usage or an input that can not be used.",
+      "--format 和 --lang 可用于每个命令；plateconfig help 命令 显示该命令的用法。\n"
+      "返回值：0 正常，1 有需要检查之处，2 用法错误或输入无法使用。");
+}
+
+/// `help VERB` is `VERB --help`; options may stand in front of it.
+std::vector<std::string> WithHelpAsOption(std::vector<std::string> arguments) {
+  const auto help = std::find(arguments.begin(), arguments.end(), "help");
+  const bool isFirst = std::all_of(arguments.begin(), help, [](const std::string& argument) {
+    return argument.starts_with('-') || argument == "en" || argument == "zh";
+  });
+  if (help == arguments.end() || !isFirst) return arguments;
+  const bool isAlone = help + 1 == arguments.end();
+  const bool isKnown = !isAlone && std::any_of(Verbs().begin(), Verbs().end(),
+                                               [&](const Verb& verb) { return verb.name == *(help + 1); });
+  if (isAlone || isKnown) arguments.emplace_back("--help");
+  arguments.erase(std::find(arguments.begin(), arguments.end(), "help"));
+  return arguments;
 }
 
 void AddHelp(CLI::App& app) {
@@ -68,33 +69,40 @@ struct CommandLine {
       : app(Say("Runs the drawing tool's rules outside the CAD system and explains every decision.",
                 "在 CAD 系统之外运行绘图工具的规则，并解释每一个决定。"),
             "plateconfig") {
-    TranslateLabels(app);
+    app.formatter(std::make_shared<HelpFormat>());
+    app.option_defaults()->group(Say("Options", "选项"));
     app.allow_windows_style_options(false);  // A leading slash is a path everywhere.
     AddHelp(app);
     app.set_version_flag("--version", PLATECONFIG_VERSION, Say("print the version and stop", "显示版本"));
     app.require_subcommand(1);
     app.fallthrough();
     app.footer(Footer());
-    app.add_option("--format", format, Say("form of the output: text or json", "输出格式：text 或 json"))
-        ->check(OneOf({"text", "json"}))
-        ->type_name("text|json");
+    app.add_option("--format", format,
+                   Say("form of the output: text, json or csv", "输出格式：text、json 或 csv"))
+        ->check(OneOf({"text", "json", "csv"}))
+        ->type_name("text|json|csv");
     app.add_option(kLanguageOption, language, Say("language of the output: en or zh", "输出语言：en 或 zh"))
         ->check(OneOf({"en", "zh"}))
         ->type_name("en|zh");
-    for (const Verb& verb : Verbs()) Add(verb);
+    for (const Verb& each : Verbs()) Add(each);
   }
 
   CLI::App app;
-  std::string format = "text";
+  std::string format;  ///< Empty for the verb's own.
   std::string language;
-  Run run;  ///< What the chosen verb does.
+  const Verb* verb = nullptr;  ///< The chosen one.
+  Run run;                     ///< What it does.
 
  private:
-  void Add(const Verb& verb) {
-    CLI::App* command = app.add_subcommand(verb.name, SayPlain(verb.english, verb.chinese));
+  void Add(const Verb& added) {
+    CLI::App* command = app.add_subcommand(added.name, SayPlain(added.english, added.chinese));
     command->group(Say("Verbs", "命令"));
     AddHelp(*command);
-    command->callback([this, added = verb.addOptions(*command)] { run = added; });
+    command->callback([this, &added, what = added.addOptions(*command)] {
+      verb = &added;
+      run = what;
+    });
+    command->footer(Say("Example:", "示例：") + "  " + added.example + "\n\n" + command->get_footer());
   }
 };
 
@@ -113,19 +121,39 @@ bool Parse(CommandLine& line, const std::vector<std::string>& arguments, const S
   return false;
 }
 
+/// Whether the verb has the form of output that is asked for.
+bool HasFormat(const Verb& verb, const std::string& format) {
+  const std::vector<std::string> formats = SplitString(std::string(verb.formats), " ");
+  return format.empty() || std::find(formats.begin(), formats.end(), format) != formats.end();
+}
+
+std::string NoSuchFormat(const Verb& verb, const std::string& format) {
+  return Say("{} does not write {}; it writes {}", "{} 不能输出 {}，只能输出 {}", verb.name, format,
+             Listed(SplitString(std::string(verb.formats), " ")));
+}
+
+void RunVerb(const CommandLine& line, const Streams& streams, Reporter& reporter) {
+  if (!HasFormat(*line.verb, line.format))
+    return reporter.Error({"plateconfig"}, NoSuchFormat(*line.verb, line.format));
+  const Format format = line.format == "json"  ? Format::kJson
+                        : line.format == "csv" ? Format::kCsv
+                                               : Format::kText;
+  Context context{streams, reporter, format, format == Format::kText ? &streams.out : nullptr};
+  line.run(context);
+}
+
 }  // namespace
 
-int RunCompanion(const std::vector<std::string>& arguments, const Streams& streams) {
+int RunCompanion(const std::vector<std::string>& given, const Streams& streams) {
   // Trying out tables must not grow the files in which the drawing tool's own runs are looked up.
   EnableDiagnosticFiles(false);
+  const std::vector<std::string> arguments = WithHelpAsOption(given);
   SetLanguage(ChosenLanguage(arguments));
   CommandLine line;
   int exitCode = kFine;
   Reporter reporter(streams.err);
-  if (Parse(line, arguments, streams, exitCode)) {
-    Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
-    line.run(context);
-  }
+  if (Parse(line, arguments, streams, exitCode)) RunVerb(line, streams, reporter);
+  reporter.TellHowManyMore();
   streams.out.flush();
   if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
   return std::max<int>(exitCode, reporter.Result());

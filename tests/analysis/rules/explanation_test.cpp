@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace plateconfig {
 namespace {
 
@@ -53,6 +55,25 @@ TEST(Explanation, KnowsTheMatchedLineAndTheRowsBeforeIt) {
               PlateOfLength(50));
   EXPECT_EQ(sink.MatchedLine(), 4);
   EXPECT_THAT(Lines(sink), ElementsAre(2, 3));
+}
+
+TEST(Explanation, TheNearestRowsStayInTheirOrder) {
+  const auto rows = Explain({RowOfLength(2, 0, 10), RowOfLength(3, 40, 45), RowOfLength(4, 60, 70),
+                             RowOfLength(5, 0, 20), RowOfLength(6, 48, 49)},
+                            PlateOfLength(47));
+  const auto lines = [&](std::size_t count) {
+    std::vector<int> numbers;
+    // In the order of the table.
+    std::vector<RefusedRow> all = rows.RefusedRows();
+    std::sort(all.begin(), all.end(),
+              [](const auto& a, const auto& b) { return a.lineNumber < b.lineNumber; });
+    for (const RefusedRow& row : NearestRows(all, count)) numbers.push_back(row.lineNumber);
+    return numbers;
+  };
+  EXPECT_THAT(lines(2), ElementsAre(3, 6));
+  EXPECT_THAT(lines(3), ElementsAre(3, 4, 6));
+  EXPECT_THAT(lines(0), ElementsAre(2, 3, 4, 5, 6));
+  EXPECT_THAT(lines(9), ElementsAre(2, 3, 4, 5, 6));
 }
 
 TEST(Explanation, ASizeComesWithItsBoundsAndItsMiss) {

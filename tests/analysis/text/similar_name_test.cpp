@@ -42,6 +42,26 @@ TEST(MostSimilarName, NothingIsSimilarToNothing) {
   EXPECT_EQ(MostSimilarName("abc", {}), "");
 }
 
+std::vector<std::string> Near(std::string_view wanted, const std::vector<std::string_view>& names) {
+  NearNames near(wanted);
+  for (const std::string_view name : names) near.Offer(name);
+  return near.Best();
+}
+
+TEST(NearNames, OfTwoLettersOneMayBeWrong) {
+  EXPECT_THAT(Near("A板", {"B板", "CD", "A板材料表"}), ::testing::ElementsAre("B板", "A板材料表"));
+  EXPECT_THAT(Near("A", {"B", "AB"}), ::testing::IsEmpty());
+}
+
+TEST(NearNames, CaseWidthAndTraditionalFormsDoNotCount) {
+  EXPECT_THAT(Near("ａ墊板", {"A垫板"}), ::testing::ElementsAre("A垫板"));
+}
+
+TEST(NearNames, TheThreeNearestAreKeptOnce) {
+  EXPECT_THAT(Near("abcdef", {"abcxyf", "abcdex", "abcdex", "abcdef1", "abcdeF", "uvwxyz"}),
+              ::testing::ElementsAre("abcdeF", "abcdex", "abcdef1"));
+}
+
 TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
   EXPECT_EQ(MostSimilarName("ab\xFF"
                             "def",

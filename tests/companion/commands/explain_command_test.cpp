@@ -1,13 +1,18 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
 #include "support/companion.h"
 
 namespace plateconfig {
 namespace {
 
+using Json = nlohmann::json;
 using test::RunPlateconfig;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 constexpr const char* kHeader = "名称,长度,宽度,厚度,重量,图层,体颜色,面颜色,有无异型槽\n";
 
@@ -19,6 +24,19 @@ class ExplainCommand : public ::testing::Test {
                           kHeader + plate + "\n");
   }
 
+  /// The same of one plate as JSON, with these further arguments.
+  Json OnlyPlate(const std::string& plate, std::vector<std::string> arguments = {}) const {
+    arguments.insert(arguments.begin(),
+                     {"explain", "--config", configuration_.Path(), "--format", "json", "-"});
+    return Json::parse(RunPlateconfig(arguments, kHeader + plate + "\n").out).at(0);
+  }
+
+  /// The text of one plate, with these further arguments.
+  std::string Text(const std::string& plate, std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {"explain", "--config", configuration_.Path(), "-"});
+    return RunPlateconfig(arguments, kHeader + plate + "\n").out;
+  }
+
   test::SmallConfiguration configuration_;
 };
 
@@ -27,10 +45,16 @@ TEST_F(ExplainCommand, ShowsTheMatchedLineAndWhyNoneBeforeItFits) {
   EXPECT_EQ(result.out,
             "镶件: 100 x 80 x 30 mm, weight 2, body colour 42, face colours 103, layer 13\n"
             "  line 4 fits: 慢走丝\n"
+            "  its processes, in the order of the text:\n"
+            "    下料  自定义追加工艺      does not apply: nobody ordered it\n"
+            "    钻孔  圆孔颜色 36_186     does not apply: the plate has none\n"
+            "    线割  有无异型槽          written: 慢走丝 (the plate has it)\n"
+            "    检测  孔数量大于参数值 3  does not apply: nobody counted the holes\n"
             "  the rows before it:\n"
             "  line    2  width 80 is 20 below the range 100 to 400 (and 2 more)\n"
             "  line    3  width 80 is 20 below the range 100 to 400 (and 3 more)\n"
-            "\n");
+            "\n" +
+                configuration_.LastLine("1 plate: 1 written"));
   EXPECT_THAT(result.err, IsEmpty());
   EXPECT_EQ(result.exitCode, 0);
 }
@@ -39,7 +63,15 @@ TEST_F(ExplainCommand, APlateOfTheFirstRowNeedsNoReasons) {
   const auto result = Explain("A板,450,400,90.5,127.2,12,12,,");
   EXPECT_EQ(result.out,
             "A板: 450 x 400 x 90.5 mm, weight 127.2, body colour 12, face colours none, layer 12\n"
-            "  line 2 fits: \n\n");
+            "  line 2 fits, but none of its processes is written\n"
+            "  its processes, in the order of the text:\n"
+            "    下料  自定义追加工艺      does not apply: nobody ordered it\n"
+            "    钻孔  圆孔颜色 36_186     does not apply: the plate has none\n"
+            "    线割  有无异型槽          does not apply: the plate does not have it\n"
+            "    检测  孔数量大于参数值 3  does not apply: nobody counted the holes\n"
+            "\n" +
+                configuration_.LastLine("1 plate: 0 written, 1 without a text"));
+  EXPECT_EQ(result.exitCode, 1);
 }
 
 TEST_F(ExplainCommand, WithoutMatchTheNearestRowComesFirst) {
@@ -50,7 +82,8 @@ TEST_F(ExplainCommand, WithoutMatchTheNearestRowComesFirst) {
             "  line    2  length 1203 is 703 above the range 100 to 500\n"
             "  line    3  length 1203 is 703 above the range 100 to 500 (and 1 more)\n"
             "  line    4  length 1203 is 3 above the range 100 to 1200 (and 2 more)\n"
-            "\n");
+            "\n" +
+                configuration_.LastLine("1 plate: 0 written, 1 without a row"));
   EXPECT_EQ(result.exitCode, 1);
 }
 
@@ -87,6 +120,11 @@ TEST_F(ExplainCommand, SpeaksChinese) {
   EXPECT_EQ(result.out,
             "镶件：100 x 80 x 30 mm，重量 2，体颜色 42，面颜色 103，图层 13\n"
             "  第 4 行符合：慢走丝\n"
+            "  各工艺，按文本中的顺序：\n"
+            "    下料  自定义追加工艺      不适用：未指定\n"
+            "    钻孔  圆孔颜色 36_186     不适用：板上为 无\n"
+            "    线割  有无异型槽          写出：慢走丝（板有此特征）\n"
+            "    检测  孔数量大于参数值 3  不适用：没有给出孔数量\n"
             "  之前各行不符合的原因：\n"
             "  第    2 行  宽度 80 小于范围 100 到 400，相差 20（另有 2 项不符）\n"
             "  第    3 行  宽度 80 小于范围 100 到 400，相差 20（另有 3 项不符）\n"
@@ -96,14 +134,17 @@ TEST_F(ExplainCommand, SpeaksChinese) {
             "  第    2 行  长度 1203 大于范围 100 到 500，相差 703\n"
             "  第    3 行  长度 1203 大于范围 100 到 500，相差 703（另有 1 项不符）\n"
             "  第    4 行  长度 1203 大于范围 100 到 1200，相差 3（另有 2 项不符）\n"
-            "\n");
+            "\n"
+            "2 块板：1 块已写出，1 块没有符合的行；配置 " +
+                configuration_.Path().substr(0, configuration_.Path().size() - 1) + "\n");
 }
 
 TEST_F(ExplainCommand, JsonListsEveryConditionThatFailed) {
   const auto result = Explain("长板,1203,300,50,140,12,12,,", "json");
   EXPECT_EQ(
       result.out,
-      "[\n{\"name\":\"长板\",\"line\":null,\"text\":\"\",\"refusedRows\":["
+      "[\n{\"name\":\"长板\",\"line\":null,\"text\":\"\",\"status\":\"no-row\",\"file\":\"standard "
+      "input\",\"fileLine\":2,\"processes\":[],\"refusedRows\":["
       "{\"line\":2,\"refusals\":["
       "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":500.0,\"value\":1203.0,\"missedBy\":703.0}]},"
       "{\"line\":3,\"refusals\":["
@@ -112,15 +153,18 @@ TEST_F(ExplainCommand, JsonListsEveryConditionThatFailed) {
       "{\"line\":4,\"refusals\":["
       "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":1200.0,\"value\":1203.0,\"missedBy\":3.0},"
       "{\"condition\":\"material\",\"accepted\":[42],\"value\":12},"
-      "{\"condition\":\"wireCutting\",\"wanted\":true,\"colors\":[103],\"value\":[]}]}]}\n]\n");
+      "{\"condition\":\"wireCutting\",\"wanted\":true,\"colors\":[103],\"value\":[]}]}],\"furtherRows\":0}\n]"
+      "\n");
   EXPECT_EQ(result.exitCode, 1);
 }
 
 TEST_F(ExplainCommand, JsonOfAMatchHoldsTheRowsBeforeIt) {
-  EXPECT_EQ(Explain("板,450,400,90,300,12,12,190,", "json").out,
-            "[\n{\"name\":\"板\",\"line\":3,\"text\":\"\",\"refusedRows\":[{\"line\":2,\"refusals\":["
-            "{\"condition\":\"weight\",\"minimum\":0.0,\"maximum\":200.0,\"value\":300.0,\"missedBy\":100.0},"
-            "{\"condition\":\"profile\",\"wanted\":false,\"colors\":[190],\"value\":[190]}]}]}\n]\n");
+  const Json plate = OnlyPlate("板,450,400,90,300,12,12,190,");
+  EXPECT_EQ(plate.at("line"), 3);
+  EXPECT_EQ(plate.at("status"), "no-text");
+  EXPECT_EQ(plate.at("refusedRows"), Json::parse(R"([{"line": 2, "refusals": [
+    {"condition": "weight", "minimum": 0.0, "maximum": 200.0, "value": 300.0, "missedBy": 100.0},
+    {"condition": "profile", "wanted": false, "colors": [190], "value": [190]}]}])"));
 }
 
 TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNone) {
@@ -136,6 +180,98 @@ TEST_F(ExplainCommand, MistakesAreReportedAndTheOtherPlatesExplained) {
             "standard input:2:3: error: B2: \"x\" is not a number; write it like 450 or 12.5 "
             "(this plate is passed over)\n");
   EXPECT_EQ(result.exitCode, 2);
+}
+
+constexpr const char* kInsert = "镶件,100,80,30,2,13,42,103,Y";
+constexpr const char* kLong = "长板,1203,300,50,140,12,12,,";
+
+TEST_F(ExplainCommand, AProcessThatAppliesWithoutATextInTheRowIsNamedWithTheRow) {
+  const auto result = Explain("A板,450,400,90.5,127.2,12,12,,Y");
+  EXPECT_THAT(
+      result.out,
+      HasSubstr("    线割  有无异型槽          applies, but row 2 has no text for it (the plate has it)\n"));
+  EXPECT_EQ(result.exitCode, 1);
+}
+
+TEST_F(ExplainCommand, JsonTellsOfEachProcessWhatTheTextDoes) {
+  const Json processes = OnlyPlate(kInsert).at("processes");
+  ASSERT_EQ(processes.size(), 4u);
+  EXPECT_EQ(processes[1], Json::parse(R"({"process": "钻孔", "condition": "圆孔颜色", "parameter": "36_186",
+    "plate": [], "verdict": "does-not-apply", "text": "细孔放电"})"));
+  EXPECT_EQ(processes[2], Json::parse(R"({"process": "线割", "condition": "有无异型槽", "parameter": "",
+    "plate": true, "verdict": "written", "text": "慢走丝"})"));
+  EXPECT_EQ(processes[3].at("plate"), nullptr);
+  EXPECT_EQ(OnlyPlate("A板,450,400,90.5,127.2,12,12,,Y").at("processes")[2].at("verdict"), "no-text");
+}
+
+TEST_F(ExplainCommand, WithAllEachRowSaysEveryConditionItFailsBy) {
+  EXPECT_THAT(
+      Text(kLong, {"--all"}),
+      HasSubstr("  line    4  length 1203 is 3 above the range 100 to 1200; material: the body colour 12 is "
+                "none of 42; wire cutting: the row wants a face colour of 103, the plate's faces have "
+                "none\n"));
+  EXPECT_THAT(Text(kLong, {"--all"}), Not(HasSubstr(" more)")));
+}
+
+TEST_F(ExplainCommand, OfManyRowsTheNearestAreShownAndTheOthersCounted) {
+  const std::string one = Text(kLong, {"--rows", "1"});
+  EXPECT_THAT(one, HasSubstr("nearest first:\n  line    2  length 1203 is 703 above the range 100 to 500\n"
+                             "  and 2 more (--rows 0 shows them all)\n"));
+  const Json json = OnlyPlate(kLong, {"--rows", "2"});
+  EXPECT_EQ(json.at("refusedRows").size(), 2u);
+  EXPECT_EQ(json.at("furtherRows"), 1);
+  EXPECT_EQ(OnlyPlate(kLong).at("refusedRows").size(), 3u);
+}
+
+TEST_F(ExplainCommand, TenRowsAreShownWhenNoneFitsAndThreeOfThoseBeforeOneThatFits) {
+  std::string rules = "通用要求,通用参数,排工艺顺序,排顺序工艺类型,模板所在图层,长度范围,下料\n";
+  for (int row = 0; row < 12; ++row)
+    rules += ",,,,12," + std::to_string(row) + "_" + std::to_string(row + 1) + ",a\n";
+  configuration_.Folder().WriteTable("规则.csv", rules);
+  const std::string none = Explain("板,50,1,1,1,1,1,,").out;
+  EXPECT_THAT(none, HasSubstr("  and 2 more (--rows 0 shows them all)\n"));
+  EXPECT_THAT(none, HasSubstr("nearest first:\n  line   13  length 50 is 38 above the range 11 to 12\n"));
+  const std::string fits = Explain("板,11.5,1,1,1,1,1,,").out;
+  EXPECT_THAT(fits, HasSubstr("  line   10  length 11.5 is 2.5 above the range 8 to 9\n"
+                              "  line   11  length 11.5 is 1.5 above the range 9 to 10\n"
+                              "  line   12  length 11.5 is 0.5 above the range 10 to 11\n"
+                              "  and 8 more (--rows 0 shows them all)\n"));
+}
+
+TEST_F(ExplainCommand, OneRowIsExplainedWhereverItStands) {
+  EXPECT_THAT(
+      Text(kInsert, {"--row", "3"}),
+      HasSubstr("  line    3  width 80 is 20 below the range 100 to 400; material: the body colour 42 is "
+                "none of 12_87; profile: the row wants a face colour of 190, the plate's faces have 103; "
+                "wire cutting: the row is for plates without it, but the face colour 103 stands for it\n"));
+  EXPECT_THAT(Text(kInsert, {"--row", "3"}), Not(HasSubstr("line    2")));
+  // Behind the row that fits.
+  EXPECT_THAT(Text("A板,450,400,90.5,127.2,12,12,,", {"--row", "4"}), HasSubstr("  line    4  material: "));
+  configuration_.Folder().WriteTable("规则.csv", "模板所在图层,长度范围\n12,1_10\n12,1_20\n");
+  EXPECT_THAT(Text("板,5,1,1,1,1,1,,", {"--row", "3"}),
+              HasSubstr("  line    3  fits too, but line 2 stands before it\n"));
+  const Json json = OnlyPlate("板,5,1,1,1,1,1,,", {"--row", "3"});
+  EXPECT_EQ(json.at("askedRow"), Json::parse(R"({"line": 3, "fits": true})"));
+  EXPECT_EQ(json.at("refusedRows").size(), 0u);
+}
+
+TEST_F(ExplainCommand, ARowThatIsNoRuleRowIsAnError) {
+  const auto result =
+      RunPlateconfig({"explain", "--config", configuration_.Path(), "--row", "5", "-"}, std::string(kHeader));
+  EXPECT_EQ(result.err, "plateconfig: error: line 5 of the rule table is no rule row\n");
+  EXPECT_EQ(result.exitCode, 2);
+}
+
+TEST_F(ExplainCommand, CsvHasARowForEachProcessAndForEachConditionThatFails) {
+  const std::string out = Text(kInsert, {"--format", "csv"});
+  EXPECT_THAT(out, HasSubstr("名称,文件,文件行号,行号,状态,对象,条件,参数,板上,结论\r\n"));
+  EXPECT_THAT(out,
+              HasSubstr("镶件,standard input,2,4,written,线割,有无异型槽,,the plate has it,written: 慢走丝 "
+                        "(the plate has it)\r\n"));
+  EXPECT_THAT(
+      out, HasSubstr("镶件,standard input,2,4,written,line 2,width,,,width 80 is 20 below the range 100 to "
+                     "400\r\n"));
+  EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 1 + 4 + 3 + 4);
 }
 
 }  // namespace

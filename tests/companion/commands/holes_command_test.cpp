@@ -76,7 +76,8 @@ TEST_F(HolesCommand, EveryMatchingTypeIsListedBestFirst) {
             "K1: structure 1_1_0, largest diameter 14 mm, at 1, 2, 3\n"
             "      5  M8\n"
             "      2  颜色\n"
-            "      0  通用\n");
+            "      0  通用\n"
+            "1 hole and 4 types: 1 with one best type\n");
   EXPECT_EQ(err_, "");
   EXPECT_EQ(exitCode_, 0);
 }
@@ -97,7 +98,7 @@ TEST_F(HolesCommand, ATieBelowTheBestScoreIsNone) {
       "乙,1_1_0,36,31,,0,0,,\n"
       "丙,1_1_0,36,31,,0,0,,\n",
       kScrewHole);
-  EXPECT_THAT(out_, Not(HasSubstr("best")));
+  EXPECT_THAT(out_, Not(HasSubstr("of 2 best")));
   EXPECT_EQ(exitCode_, 0);
 }
 
@@ -107,6 +108,28 @@ TEST_F(HolesCommand, AHoleWithoutATypeSaysSoAndCountsAsAFinding) {
   EXPECT_EQ(exitCode_, 1);
 }
 
+TEST_F(HolesCommand, TheLastLineCountsHolesAndTypes) {
+  Run("甲,1_1_0,36,31,,14,9,,\n乙,1_1_0,36,31,,14,9,,\n",
+      std::string(kScrewHole) + "K2,顶,14,9,0,36,1,2,3\n");
+  EXPECT_THAT(out_,
+              HasSubstr("\n2 holes and 2 types: 0 with one best type, 1 without a type, 1 with a tie\n"));
+}
+
+TEST_F(HolesCommand, CsvHasARowForEachTypeThatAcceptsAHole) {
+  Run("甲,1_1_0,36,31,,14,9,,\n乙,1_1_0,36,31,,14,9,,\n", std::string(kScrewHole) + "K2,顶,14,9,0,36,1,2,3\n",
+      {"--format", "csv"});
+  EXPECT_EQ(out_,
+            "\xEF\xBB\xBF孔名称,结构,最大直径,X,Y,Z,类型,得分,并列\r\n"
+            "K1,1_1_0,14,1,2,3,甲,5,Y\r\n"
+            "K1,1_1_0,14,1,2,3,乙,5,Y\r\n"
+            "K2,1_0_0,14,1,2,3,,,N\r\n");
+}
+
+TEST_F(HolesCommand, FailOnDecidesWhatExitCodeOneIsFor) {
+  Run("M10,1_1_0,36,31,,18,11,,\n", kScrewHole, {"--fail-on", "error"});
+  EXPECT_EQ(exitCode_, 0);
+}
+
 TEST_F(HolesCommand, ExplainTellsTheVerdictOnEachSegment) {
   Run("M8,1_1_0,36,0,,14,,,\n", kScrewHole, {"--explain"});
   EXPECT_EQ(out_,
@@ -114,7 +137,8 @@ TEST_F(HolesCommand, ExplainTellsTheVerdictOnEachSegment) {
             "    2.5  M8\n"
             "           top 1: colour 36 is listed, diameter 14 is listed\n"
             "           through 1: colour 31 is accepted like any, diameter 9 is accepted like any\n"
-            "\n");
+            "\n"
+            "1 hole and 1 type: 1 with one best type\n");
 }
 
 TEST_F(HolesCommand, ExplainShowsTheRefusingTypesNearestFirst) {
@@ -135,7 +159,8 @@ TEST_F(HolesCommand, ExplainShowsTheRefusingTypesNearestFirst) {
             "      0  远\n"
             "           top 1: colour 36 is none of 7, diameter 14 is none of 1\n"
             "           through 1: colour 31 is none of 7, diameter 9 is none of 1\n"
-            "\n");
+            "\n"
+            "1 hole and 4 types: 0 with one best type, 1 without a type\n");
 }
 
 TEST_F(HolesCommand, ExplainShowsWhatRefusesBehindWhatAccepts) {

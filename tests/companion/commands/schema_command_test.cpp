@@ -69,20 +69,22 @@ TEST(SchemaCommand, MarkdownEscapesTheSeparatorOfStyles) {
 TEST(SchemaCommand, TheTablesPageIsUpToDate) {
   EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.md"),
             RunPlateconfig({"schema", "--format", "markdown"}).out)
-      << "write it anew: plateconfig schema --format markdown --lang en --output docs/tables.md";
+      << "write it anew: plateconfig schema --format markdown --lang en > docs/tables.md";
 }
 
 TEST(SchemaCommand, TheTablesPageInChineseIsUpToDate) {
   EXPECT_EQ(ReadBytes(std::filesystem::path(PLATECONFIG_DOCS_DIR) / "tables.zh.md"),
             RunPlateconfig({"schema", "--format", "markdown", "--lang", "zh"}).out)
-      << "write it anew: plateconfig schema --format markdown --lang zh --output docs/tables.zh.md";
+      << "write it anew: plateconfig schema --format markdown --lang zh > docs/tables.zh.md";
 }
 
-TEST(SchemaCommand, AFileIsWrittenWholeAndReplaced) {
+TEST(SchemaCommand, AFileIsWrittenWholeAndReplacedWhenForced) {
   const TemporaryFolder folder;
   folder.WriteBytes("表.md", "old");
   const std::string path = ArgumentPath(folder, "表.md");
-  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 0);
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--output", path}).exitCode, 2);
+  EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), "old");
+  EXPECT_EQ(RunPlateconfig({"schema", "--format", "markdown", "--force", "--output", path}).exitCode, 0);
   EXPECT_EQ(ReadBytes(folder.Path() / u8"表.md"), RunPlateconfig({"schema", "--format", "markdown"}).out);
 }
 

@@ -182,6 +182,45 @@ TEST_F(ShowCommand, TheProcessListAndTheConditionsOfTheRuleRowsAreShownAsTheLibr
   EXPECT_EQ(Setting("process-rules", "宽度范围")["source"], "absent column");
 }
 
+TEST_F(ShowCommand, RuleRowsAreShownAsRows) {
+  Configure(R"({"process-rules": "a.csv"})");
+  folder_.WriteTable("a.csv",
+                     "排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,长度范围,材质要求,下料,钻孔\n"
+                     "下料,焊接,,12,100_500.0,软料（体颜色）,锯,钻\n"
+                     ",圆孔颜色,,,1_2,,,\n"
+                     "钻孔,圆孔颜色,36_186,1x,100-500,,,\n");
+  const std::string out = Show({"process-rules"}).out;
+  EXPECT_THAT(
+      out, HasSubstr("  processes, in the order of the text:\n"
+                     "     1  下料  自定义追加工艺\n"
+                     "     2  钻孔  圆孔颜色 36_186\n"
+                     "  rule rows:\n"
+                     "  line    2  模板所在图层 12, 长度范围 100_500, 宽度范围 0_999999, 厚度范围 0_999999, "
+                     "重量范围 0_999999, 有无型面 无型面, 有无线割 无线割, 材质要求 软料（体颜色）; 2 of 2 "
+                     "processes have a text\n"
+                     "  line    4  模板所在图层 1, 长度范围 0_999999, "));
+  EXPECT_THAT(out, HasSubstr("材质要求 硬料（体颜色）; 0 of 2 processes have a text\n"));
+  EXPECT_THAT(out, Not(HasSubstr("排工艺顺序 = ")));
+}
+
+TEST_F(ShowCommand, CsvHasARowForEachValue) {
+  Configure(R"({"bom": "a.csv", "triangle-symbol": "b.csv"})");
+  folder_.WriteTable("a.csv", "密度(g/cm)\n7.85\n");
+  folder_.WriteTable("b.csv", "三角符号-面颜色标准\n5\n6\n");
+  EXPECT_EQ(Show({"bom"}, {"--format", "csv"}).out, "\xEF\xBB\xBF用途,文件,列,序号,值,单位,来源\r\nbom," +
+                                                        ArgumentPath(folder_, "a.csv") +
+                                                        ",密度(g/cm),1,7.85,g/cm3,table\r\n");
+  EXPECT_THAT(Show({"triangle-symbol"}, {"--format", "csv"}).out,
+              HasSubstr(",三角符号-面颜色标准,2,6,colour index,table\r\n"));
+}
+
+TEST_F(ShowCommand, TheLastLineCountsSettingsAndTables) {
+  Configure("{}");
+  const std::string path = ArgumentPath(folder_, "");
+  EXPECT_THAT(Show({"bom"}).out, ::testing::EndsWith("\n1 settings of 1 tables; configuration " +
+                                                     path.substr(0, path.size() - 1) + "\n"));
+}
+
 TEST_F(ShowCommand, ACellOfTwoLinesIsShownOnOne) {
   Configure(R"({"texts": "a.csv"})");
   folder_.WriteTable("a.csv", "代号文字\n\"代号\n：\t\"\n");

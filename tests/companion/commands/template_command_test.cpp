@@ -43,7 +43,11 @@ TEST_P(Template, HoldsEveryColumnOfTheRoleInGbkAndCrLf) {
   ReadConfigFile table;
   ASSERT_TRUE(table.OpenConfigFile(WriteTemplate()));
   std::vector<std::string> columns;
-  for (const ColumnSchema& column : SchemaOf(*FindRole(GetParam())).columns) columns.push_back(column.column);
+  for (const ColumnSchema& column : SchemaOf(*FindRole(GetParam())).columns) {
+    // The rule table has a real process in the place of any.
+    const bool isProcess = GetParam() == "process-rules" && column.use == ColumnUse::kPlaceholder;
+    columns.push_back(isProcess ? Gbk("钻孔") : column.column);
+  }
   EXPECT_EQ(table.GetColumnNames(), columns);
   const std::string bytes = ReadBytes(folder_.Path() / "table.csv");
   EXPECT_TRUE(IsValidGbk(bytes));
@@ -127,14 +131,23 @@ TEST_F(OtherTemplate, ProcessSettingsLoadToEmptySettings) {
   EXPECT_EQ(tables.leftMargin + tables.topMargin + tables.textLayer, 0);
 }
 
-TEST_F(OtherTemplate, ProcessRulesLoadToNoRulesAndNoColours) {
+TEST_F(OtherTemplate, ProcessRulesHoldOneRealRow) {
   const RuleTables tables = LoadRuleTables(Write("rules.csv", "process-rules"), "");
-  EXPECT_THAT(tables.processRules, IsEmpty());
-  EXPECT_THAT(tables.ruleRows, IsEmpty());
-  EXPECT_THAT(tables.softMaterialColors, IsEmpty());
-  EXPECT_THAT(tables.hardMaterialColors, IsEmpty());
-  EXPECT_THAT(tables.wireCuttingColors, IsEmpty());
-  EXPECT_THAT(tables.profileColors, IsEmpty());
+  EXPECT_THAT(tables.processRules, SizeIs(1));
+  ASSERT_THAT(tables.ruleRows, SizeIs(1));
+  EXPECT_EQ(tables.ruleRows[0].length, (SizeRange{100, 500}));
+  EXPECT_EQ(tables.ruleTable.GetItemValue(tables.processRules[0].GetRuleName(), 1), Gbk("摇臂钻钻孔"));
+  EXPECT_THAT(tables.softMaterialColors, ElementsAre(12, 87));
+  EXPECT_THAT(tables.hardMaterialColors, ElementsAre(42));
+  EXPECT_THAT(tables.wireCuttingColors, ElementsAre(103));
+  EXPECT_THAT(tables.profileColors, ElementsAre(190));
+}
+
+TEST_F(OtherTemplate, ProcessRulesHaveNothingToComplainOf) {
+  Write("rules.csv", "process-rules");
+  const auto check =
+      RunPlateconfig({"check", "--process-rules", ArgumentPath(folder_, "rules.csv"), "--fail-on", "hint"});
+  EXPECT_EQ(check.exitCode, 0) << check.out << check.err;
 }
 
 TEST_F(OtherTemplate, ProcessRulesNameTheGeneralParameters) {
@@ -148,6 +161,53 @@ TEST_F(OtherTemplate, TheIndexLeavesTheFolderConfigActive) {
   Write("config/standard.csv", "index");
   const std::string root = folder_.HostPath("");
   EXPECT_EQ(ReadConfigurationIndex(root).activeFolder, root + "\\config");
+}
+
+// ---- Input files ----
+
+class InputTemplate : public ::testing::Test {
+ protected:
+  std::string Write(const std::string& name, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "template");
+    const CompanionResult run = RunPlateconfig(arguments);
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    folder_.WriteBytes(name, run.out);
+    return ArgumentPath(folder_, name);
+  }
+
+  SmallConfiguration configuration_;
+  TemporaryFolder folder_;
+};
+
+TEST_F(InputTemplate, PlatesHaveTheColumnsThatTheRulesAskFor) {
+  const auto run = RunPlateconfig({"template", "plates", "--config", configuration_.Path()});
+  EXPECT_EQ(run.out, Gbk("名称,长度,宽度,厚度,重量,体颜色,面颜色,图层,下料,圆孔颜色,有无异型槽,孔数量\r\n"
+                         "示例板,300,200,60,100,12,,12,Y,36_186,Y,3\r\n"));
+}
+
+TEST_F(InputTemplate, TheExamplePlateFitsTheFirstRowAndEveryProcessApplies) {
+  const std::string plates = Write("板.csv", {"plates", "--config", configuration_.Path()});
+  const auto run = RunPlateconfig({"explain", "--config", configuration_.Path(), plates});
+  EXPECT_THAT(run.out, HasSubstr("line 2 fits: 锯床下料→钻孔到数→检测外形\n"));
+  EXPECT_THAT(run.out, ::testing::Not(HasSubstr("does not apply")));
+  EXPECT_THAT(run.err, IsEmpty());
+}
+
+TEST_F(InputTemplate, TheExampleHoleBelongsToTheExampleType) {
+  const std::string types = Write("类型.csv", {"hole-types"});
+  const std::string holes = Write("孔.csv", {"holes"});
+  const auto run = RunPlateconfig({"holes", "--types", types, holes});
+  EXPECT_THAT(run.out, HasSubstr("      5  M8沉头螺丝孔\n"));
+  EXPECT_THAT(run.err, IsEmpty());
+  EXPECT_EQ(run.exitCode, 0);
+}
+
+TEST(TemplateCommand, AFormThatItDoesNotWriteIsTold) {
+  const auto json = RunPlateconfig({"template", "bom", "--format", "json"});
+  EXPECT_EQ(json.err, "plateconfig: error: template does not write json; it writes csv\n");
+  EXPECT_EQ(json.exitCode, 2);
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "--format", "csv"}).out,
+            RunPlateconfig({"template", "bom"}).out);
 }
 
 TEST(TableTemplate, QuotesCellsAsSpreadsheetsDo) {

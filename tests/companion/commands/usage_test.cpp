@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <CLI/App.hpp>
+#include <algorithm>
 #include <set>
 
 #include "plateconfig/commands/verbs.h"
@@ -195,13 +196,13 @@ TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
   EXPECT_EQ(Complaint({"process", "a.csv", "--proces-rules", "r.csv"}),
             "plateconfig: error: there is no option --proces-rules; did you mean \"--process-rules\"?");
   EXPECT_EQ(Complaint({"folder", "--format", "jsn"}),
-            "plateconfig: error: --format: \"jsn\" is none of text, json; did you mean \"json\"?");
+            "plateconfig: error: --format: \"jsn\" is none of text, json, csv; did you mean \"json\"?");
   EXPECT_THAT(Complaint({"template", "text"}), ::testing::EndsWith("; did you mean \"texts\"?"));
 }
 
 TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
-            "plateconfig: error: a verb is missing: one of folder, check, process, explain, diff, "
+            "plateconfig: error: a verb is missing: one of folder, init, check, process, explain, diff, "
             "holes, show, schema, template");
   EXPECT_EQ(Complaint({"process"}), "plateconfig: error: plates is required");
   EXPECT_EQ(Complaint({"holes", "a.csv"}), "plateconfig: error: --types is required");
@@ -235,7 +236,56 @@ TEST(Usage, AWrongCommandLineIsToldInChineseToo) {
   EXPECT_EQ(RunPlateconfig({"process", "--lang", "zh"}).err,
             "plateconfig: 错误: 缺少必需的 plates\n用 plateconfig process --help 查看用法\n");
   EXPECT_EQ(Complaint({"--lang", "zh", "folder", "--format", "xml"}),
-            "plateconfig: 错误: --format: “xml”不是 text, json 之一");
+            "plateconfig: 错误: --format: “xml”不是 text, json, csv 之一");
+}
+
+TEST(Usage, TheVerbHelpShowsTheHelpOfAVerb) {
+  for (const Verb& verb : Verbs())
+    EXPECT_EQ(RunPlateconfig({"help", verb.name}).out, RunPlateconfig({verb.name, "--help"}).out);
+  EXPECT_EQ(RunPlateconfig({"--lang", "zh", "help", "show"}).out,
+            RunPlateconfig({"show", "--help", "--lang", "zh"}).out);
+  EXPECT_EQ(RunPlateconfig({"help"}).out, RunPlateconfig({"--help"}).out);
+  EXPECT_EQ(Complaint({"help", "folde"}),
+            "plateconfig: error: there is no verb \"folde\"; did you mean \"folder\"?");
+}
+
+TEST(Usage, TheHelpOfEachVerbHasItsOwnExample) {
+  for (const Verb& verb : Verbs()) {
+    EXPECT_THAT(RunPlateconfig({verb.name, "--help"}).out,
+                HasSubstr(std::string("Example:  ") + verb.example));
+    EXPECT_THAT(std::string(verb.example), ::testing::StartsWith(std::string("plateconfig ") + verb.name));
+  }
+}
+
+/// The words of a text that are no names, options or examples.
+TEST(Usage, TheChineseHelpHasNoEnglishPlaceholders) {
+  for (const Verb& verb : Verbs()) {
+    const std::string help = RunPlateconfig({"--lang", "zh", verb.name, "--help"}).out;
+    for (const char* word :
+         {"FILE", "DIR", "ROLE", "REQUIRED", "required", "OPTIONS", "TEXT", "Options", "Usage", "Example"})
+      EXPECT_THAT(help, Not(HasSubstr(word))) << verb.name;
+  }
+}
+
+TEST(Usage, TheColumnsOfTheHelpAreAlignedAsAScreenShowsThem) {
+  const std::string help = RunPlateconfig({"--lang", "zh", "process", "--help"}).out;
+  // 34 columns: a Chinese character takes two.
+  EXPECT_THAT(help, HasSubstr("\n  --config 文件夹                 配置文件夹"));
+  EXPECT_THAT(help, HasSubstr("\n  --process-rules 文件            用此表"));
+}
+
+TEST(Usage, AFormThatAVerbDoesNotWriteIsTold) {
+  EXPECT_EQ(Complaint({"folder", "--format", "csv"}),
+            "plateconfig: error: folder does not write csv; it writes text, json");
+}
+
+TEST(Usage, AnEmptyNameOfAnOutputIsRefusedByEveryVerb) {
+  for (const Verb& verb : Verbs()) {
+    const Words names = VerbOptions(verb).LongNames();
+    if (std::find(names.begin(), names.end(), "--output") == names.end()) continue;
+    EXPECT_EQ(Complaint(Complete(verb) + Words{"-o", ""}),
+              "plateconfig: error: --output: the value is empty");
+  }
 }
 
 TEST(Usage, TheHelpListsTheRoles) {

@@ -154,10 +154,40 @@ TEST(CsvStream, AQuotedHeaderCellBehindAByteOrderMarkMayHoldALineBreak) {
 }
 
 TEST(CsvStream, AHeaderThatIsNeitherUtf8NorGbkIsRefused) {
-  CsvFile file("\xFF\xFEn\x0D\x54,\n1,2\n");
+  CsvFile file("\xFFn\x54\xFF,\n1,2\n");
   EXPECT_EQ(file.rows.ReadHeader(), nullptr);
   EXPECT_EQ(file.messages.Text(),
             "f.csv:1:1: error: the header is neither UTF-8 nor GBK; save the file as CSV in one of them\n");
+}
+
+/// What is said of a file that is no CSV at all.
+std::string SaidOf(const std::string& bytes) {
+  CsvFile file(bytes);
+  EXPECT_EQ(file.rows.ReadHeader(), nullptr);
+  return file.messages.Text();
+}
+
+TEST(CsvStream, AWorkbookIsNamedAsSuch) {
+  EXPECT_THAT(SaidOf("PK\x03\x04xx\n"), ::testing::StartsWith("f.csv: error: this is an Excel workbook"));
+  EXPECT_THAT(SaidOf("\xD0\xCF\x11\xE0xx"), ::testing::StartsWith("f.csv: error: this is an Excel workbook"));
+}
+
+TEST(CsvStream, Utf16IsNamedAsSuch) {
+  EXPECT_THAT(SaidOf("\xFF\xFEn\x0D\x54,\n1,2\n"),
+              ::testing::StartsWith("f.csv: error: this file is UTF-16"));
+  EXPECT_THAT(SaidOf(std::string("a\0,\0b\0\n\0", 8)),
+              ::testing::StartsWith("f.csv: error: this file is UTF-16"));
+}
+
+TEST(CsvStream, LinesThatEndWithCarriageReturnsAloneAreNamedAsSuch) {
+  EXPECT_THAT(SaidOf("a,b\r1,2\r"),
+              ::testing::StartsWith("f.csv: error: the lines of this file end with CR alone"));
+}
+
+TEST(CsvStream, ACarriageReturnInsideAQuotedHeaderIsNoLineEnd) {
+  CsvFile file("\"a\r\nb\",c\r\n1,2\r\n");
+  EXPECT_NE(file.rows.ReadHeader(), nullptr);
+  EXPECT_EQ(file.messages.Text(), "");
 }
 
 TEST(CsvStream, AHeaderThatIsNotSeparatedByCommasIsReportedOnce) {

@@ -189,8 +189,35 @@ TEST(PlateCsv, ABlankBehindAColumnsNameIsSeen) {
   CsvPlates file(std::string(kHeader) + ",圆孔颜色 \n甲,1,1,1,1,1,36\n");
   EXPECT_THAT(file.Names(), ElementsAre("甲"));
   EXPECT_EQ(file.messages.Text(),
-            "板.csv:1:20: warning: G1: the column \"圆孔颜色 \" is not known and is ignored; did you mean "
-            "\"圆孔颜色\"?\n");
+            "板.csv:1:20: warning: G1: the column \"圆孔颜色 \" (with a blank) is not known and is "
+            "ignored; did you mean \"圆孔颜色\"?\n");
+}
+
+TEST(PlateCsv, ANoBreakSpaceBehindAColumnsNameIsNamed) {
+  CsvPlates file(std::string(kHeader) + ",圆孔颜色\u00A0\n甲,1,1,1,1,1,36\n");
+  EXPECT_THAT(file.Names(), ElementsAre("甲"));
+  EXPECT_THAT(file.messages.Text(), ::testing::HasSubstr("(with a no-break space) is not known"));
+}
+
+TEST(PlateCsv, ATitleLineAboveTheHeaderIsOneMessage) {
+  CsvPlates file("板材清单,,,,,\n,,,,,\n" + std::string(kHeader) + "\n甲,1,1,1,1,1\n");
+  EXPECT_THAT(file.Names(), IsEmpty());
+  EXPECT_EQ(
+      file.messages.Text(),
+      "板.csv:1:1: error: the first line is no header; the column names stand on line 3; delete the lines "
+      "above the column names\n");
+}
+
+TEST(PlateCsv, AHeaderOfOtherNamesIsNoTitleLine) {
+  CsvPlates file("甲,乙\n1,2\n");
+  EXPECT_THAT(file.Names(), IsEmpty());
+  EXPECT_THAT(file.messages.Text(), ::testing::HasSubstr("the column 名称 is missing"));
+}
+
+TEST(PlateCsv, ARowOfBlanksIsABlankRow) {
+  CsvPlates file(std::string(kHeader) + "\n , ,\t,\u00A0,\u3000,\n甲,1,1,1,1,1\n");
+  EXPECT_THAT(file.Names(), ElementsAre("甲"));
+  EXPECT_THAT(file.messages.Text(), IsEmpty());
 }
 
 TEST(PlateCsv, AColumnWithoutNameIsIgnoredInSilence) {

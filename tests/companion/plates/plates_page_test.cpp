@@ -16,11 +16,11 @@ namespace plateconfig {
 namespace {
 
 TEST(PlatesPage, ItsExamplesGiveWhatItShows) {
-  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.md", "en"), 5);
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.md", "en"), 6);
 }
 
 TEST(PlatesPage, ItsExamplesInChineseGiveWhatItShows) {
-  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.zh.md", "zh"), 5);
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.zh.md", "zh"), 6);
 }
 
 class PlatesPageIn : public ::testing::TestWithParam<const char*> {};

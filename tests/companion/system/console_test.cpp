@@ -20,6 +20,13 @@ struct Recorder {
   std::ostream stream{&buffer};
 };
 
+TEST(Console, TheNameOfALocaleTellsWhetherItsTerminalsTakeGbk) {
+  for (const char* name : {"zh_CN.GBK", "zh_CN.gb2312", "zh_CN.GB18030", "zh_CN.eucCN", "zh_CN.GBK@x"})
+    EXPECT_TRUE(IsGbkLocale(name)) << name;
+  for (const char* name : {"zh_CN.UTF-8", "zh_CN", "", "C", "GBK", "zh_TW.Big5"})
+    EXPECT_FALSE(IsGbkLocale(name)) << name;
+}
+
 TEST(Utf8StreamBuffer, PassesTextOnWithTheFlush) {
   Recorder recorder;
   recorder.stream << "规则 " << 7 << '\n';

@@ -21,6 +21,7 @@
 #include "plateconfig/holes/hole_type_reader.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/output/findings_csv.h"
 #include "plateconfig/output/findings_json.h"
 #include "plateconfig/output/findings_sarif.h"
 #include "plateconfig/output/findings_text.h"
@@ -41,8 +42,6 @@ struct CheckJob {
   std::vector<std::string> plateFiles;
   std::vector<std::string> typeFiles;
   std::string format;
-  std::string output;
-  bool force = false;
   std::string failOn = "warning";
   std::vector<std::string> only;
   std::vector<std::string> skip;
@@ -139,7 +138,7 @@ class CheckRun {
   }
 
   void GatherIndex() {
-    const auto root = ConfigurationRoot();
+    const auto root = RootThatIsSet();
     if (!root) return;
     RaiseIndexFindings(*root, ReadConfigurationIndex(*root),
                        [this](Finding finding) { wayThere_.push_back(std::move(finding)); });
@@ -244,17 +243,8 @@ class CheckRun {
 
   void Finish() {
     if (!job_.baseline.empty() && !ApplyBaseline()) return;
-    const bool isDone = job_.output.empty()
-                            ? Print()
-                            : WriteOutputFile(job_.output, Text(), IfPresentMode(), context_.reporter);
-    if (isDone && Fails()) context_.reporter.CountFinding();
-  }
-
-  IfPresent IfPresentMode() const { return job_.force ? IfPresent::kReplace : IfPresent::kKeep; }
-
-  bool Print() {
     context_.streams.out << Text();
-    return true;
+    if (Fails()) context_.reporter.CountFinding();
   }
 
   /// False, with an error reported, when the file of accepted findings can not be read or written.
@@ -295,6 +285,10 @@ class CheckRun {
     if (isJson) return Indented(ToJson(report_, CurrentLanguage()));
     if (job_.format == "sarif") return Indented(ToSarif(report_, CurrentLanguage()));
     std::ostringstream text;
+    if (job_.format == "csv" || (job_.format.empty() && context_.format == Format::kCsv)) {
+      WriteFindingsCsv(report_, text);
+      return text.str();
+    }
     WriteFindings(report_, text);
     return text.str();
   }
@@ -392,13 +386,9 @@ void AddFile(CLI::App& command, const char* option, std::vector<std::string>& fi
 void AddOutputOptions(CLI::App& command, CheckJob& job) {
   command
       .add_option("--format", job.format,
-                  Say("form of the report: text, json or sarif", "报告格式：text、json 或 sarif"))
-      ->check(OneOf({"text", "json", "sarif"}))
-      ->type_name("text|json|sarif");
-  command.add_option("-o,--output", job.output, Say("write to this file", "写入此文件"))
-      ->check(NotEmpty())
-      ->type_name(Say("FILE", "文件"));
-  command.add_flag("--force", job.force, Say("replace a file that exists", "覆盖已有文件"));
+                  Say("form of the report: text, json, sarif or csv", "报告格式：text、json、sarif 或 csv"))
+      ->check(OneOf({"text", "json", "sarif", "csv"}))
+      ->type_name("text|json|sarif|csv");
   command
       .add_option(
           "--fail-on", job.failOn,
@@ -443,7 +433,12 @@ Run CheckVerbOptions(CLI::App& command) {
   AddFile(command, "--types", job->typeFiles, Say("hole types to look at", "要检查的孔类型"));
   AddOutputOptions(command, *job);
   AddSelectionOptions(command, *job);
-  return [job](Context& context) { RunCheck(*job, context); };
+  const Run run = WithOutput(command, [job](Context& context) { RunCheck(*job, context); });
+  return [job, run](Context& context) {
+    Context own = context;
+    if (job->format == "csv") own.format = Format::kCsv;
+    run(own);
+  };
 }
 
 }  // namespace plateconfig

@@ -4,13 +4,12 @@
 
 #include "config/table.h"
 #include "plateconfig/commands/options.h"
-#include "plateconfig/commands/plate_job.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/difference_json.h"
 #include "plateconfig/output/difference_text.h"
 #include "plateconfig/output/json_output.h"
-#include "plateconfig/output/output_file.h"
+#include "plateconfig/plates/plate_job.h"
 #include "platform/file.h"
 
 namespace plateconfig {
@@ -21,7 +20,6 @@ struct DiffJob {
   std::string newFolder;
   std::vector<std::string> plateFiles;
   std::size_t limit = RegionOptions().limit;
-  std::string output;  ///< Empty is the standard output.
 };
 
 /// One of the two folders. What can not be used is reported.
@@ -65,7 +63,7 @@ void ComparePlates(const std::vector<std::string>& files, Context& context, Diff
   const PlateVocabulary vocabulary = VocabularyOf(report.before, report.after);
   const PlateComparison comparison(report.before, report.after);
   std::size_t count = 0;
-  VisitPlateFiles(files, vocabulary, context, [&](const PlateInput& plate) {
+  VisitPlateFiles(files, vocabulary, context.streams, context.reporter, [&](const PlateInput& plate) {
     ++count;
     if (const auto texts = comparison.Difference(plate.plate, plate.features))
       report.plates.push_back({plate.name, *texts});
@@ -90,14 +88,6 @@ std::string Written(const DifferenceReport& report, Format format) {
   return out.str();
 }
 
-void Write(const std::string& text, const DiffJob& job, Context& context) {
-  if (job.output.empty()) {
-    context.streams.out << text;
-  } else {
-    WriteOutputFile(job.output, text, IfPresent::kReplace, context.reporter);
-  }
-}
-
 void RunDiff(const DiffJob& job, Context& context) {
   context.reporter.ShowWarningsOnly();
   Side oldSide(job.oldFolder, context.reporter);
@@ -113,7 +103,7 @@ void RunDiff(const DiffJob& job, Context& context) {
   ComparePlates(job.plateFiles, context, report);
   ReportUnconfirmed(report.difference.regions, context.reporter);
   if (!report.IsEmpty()) context.reporter.CountFinding();
-  Write(Written(report, context.format), job, context);
+  context.streams.out << Written(report, context.format);
 }
 
 }  // namespace
@@ -140,9 +130,7 @@ Run DiffOptions(CLI::App& command) {
                       "每组板列出的区域数，大者在前；0 表示全部；省略时为 10"))
       ->type_name("N")
       ->check(IsCount());
-  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
-      ->type_name(Say("FILE", "文件"));
-  return [job](Context& context) { RunDiff(*job, context); };
+  return WithOutput(command, [job](Context& context) { RunDiff(*job, context); });
 }
 
 }  // namespace plateconfig

@@ -1,158 +1,123 @@
+// `explain`: why each plate gets the text that it gets, or none.
+
 #include <algorithm>
 #include <memory>
 #include <optional>
 
-#include "analysis/checks/rule_values.h"
-#include "analysis/rules/explanation.h"
-#include "plateconfig/commands/plate_job.h"
+#include "plateconfig/answers/explanation_json.h"
+#include "plateconfig/answers/explanation_text.h"
+#include "plateconfig/answers/plate_csv.h"
+#include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/output/csv_output.h"
 #include "plateconfig/output/json_output.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
 
-using Json = nlohmann::ordered_json;
+struct ExplainJob {
+  PlateJob plates;
+  RefusedRowsView view;
+};
 
-std::string ShownName(Condition condition) {
-  return std::string(WordsOf(condition).In(CurrentLanguage()));
-}
-
-/// Ten digits: enough for every size, and too few for the noise of a subtraction.
-std::string Number(double value) {
-  return fmt::format("{:.10g}", value);
-}
-
-/// Colours joined as in a table's cell.
-std::string Joined(const std::vector<int>& colors) {
-  return colors.empty() ? Say("none", "无") : fmt::format("{}", fmt::join(colors, "_"));
-}
-
-/// The plate's face colours that are among the row's; both lists in ascending order or not.
-std::vector<int> Common(const std::vector<int>& faces, const std::vector<int>& colors) {
-  std::vector<int> common;
-  std::copy_if(faces.begin(), faces.end(), std::back_inserter(common),
-               [&](int face) { return std::find(colors.begin(), colors.end(), face) != colors.end(); });
-  return common;
-}
-
-std::string SizeText(const Refusal& refusal) {
-  const bool isBelow = refusal.value < refusal.range.minimum;
-  return Say("{0} {1} is {2} {3} the range {4} to {5}", "{0} {1} {3}范围 {4} 到 {5}，相差 {2}",
-             ShownName(refusal.condition), Number(refusal.value), Number(refusal.Miss()),
-             isBelow ? Say("below", "小于") : Say("above", "大于"), Number(refusal.range.minimum),
-             Number(refusal.range.maximum));
-}
-
-std::string FacesText(const Refusal& refusal, const Plate& plate) {
-  const std::string name = ShownName(refusal.condition);
-  if (refusal.isWanted) {
-    return Say("{0}: the row wants a face colour of {1}, the plate's faces have {2}",
-               "{0}：此行要求面颜色含 {1} 之一，而板的面颜色为 {2}", name, Joined(refusal.colors),
-               Joined(plate.faceColors));
+class ExplainRun {
+ public:
+  ExplainRun(const ExplainJob& job, const LoadedRules& rules, Context& context)
+      : job_(job), rules_(rules), context_(context), list_(ProcessListOf(rules.tables)) {
+    if (context.format == Format::kJson) array_.emplace(context.streams.out);
+    if (context.format == Format::kCsv) csv_.emplace(context.streams.out, ExplanationColumns());
   }
-  return Say("{0}: the row is for plates without it, but the face colour {1} stands for it",
-             "{0}：此行只用于无{0}的板，而板有{0}的面颜色 {1}", name,
-             Joined(Common(plate.faceColors, refusal.colors)));
-}
 
-std::string RefusalText(const Refusal& refusal, const Plate& plate) {
-  if (refusal.IsSize()) return SizeText(refusal);
-  if (refusal.condition != Condition::kMaterial) return FacesText(refusal, plate);
-  return Say("{0}: the body colour {1} is none of {2}", "{0}：体颜色 {1} 不在 {2} 之中",
-             ShownName(refusal.condition), plate.color, Joined(refusal.colors));
-}
-
-std::string LineLabel(int line) {
-  return Say("  line {:>4}  ", "  第 {:>4} 行  ", line);
-}
-
-void WriteRow(const RefusedRow& row, const Plate& plate, bool inFull, std::ostream& out) {
-  out << LineLabel(row.lineNumber) << RefusalText(row.refusals.front(), plate);
-  const std::size_t further = row.refusals.size() - 1;
-  if (inFull) {
-    for (std::size_t i = 1; i <= further; ++i) out << Say("; ", "；") << RefusalText(row.refusals[i], plate);
-  } else if (further > 0) {
-    out << Say(" (and {} more)", "（另有 {} 项不符）", further);
+  /// False, with an error reported, when the row that is asked for is no rule row.
+  bool FindAskedRow() {
+    if (!job_.view.row) return true;
+    const std::vector<RuleRow>& rows = rules_.tables.ruleRows;
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&](const RuleRow& each) { return each.lineNumber == *job_.view.row; });
+    if (row == rows.end()) {
+      context_.reporter.Error({"plateconfig"}, Say("line {} of the rule table is no rule row",
+                                                   "规则表的第 {} 行不是规则行", *job_.view.row));
+      return false;
+    }
+    onlyAsked_ = rules_.tables;
+    onlyAsked_->ruleRows = {*row};
+    return true;
   }
-  out << "\n";
-}
 
-void WritePlate(const PlateInput& input, std::ostream& out) {
-  const Plate& plate = input.plate;
-  out << input.name
-      << Say(": {} x {} x {} mm, weight {}, body colour {}, face colours {}, layer {}",
-             "：{} x {} x {} mm，重量 {}，体颜色 {}，面颜色 {}，图层 {}", Number(plate.length),
-             Number(plate.width), Number(plate.height), Number(plate.weight), plate.color,
-             Joined(plate.faceColors), plate.layer)
-      << "\n";
-}
-
-void WriteText(const PlateInput& input, const ExplanationSink& explanation, const std::string& text,
-               std::ostream& out) {
-  WritePlate(input, out);
-  const std::vector<RefusedRow> rows = explanation.RefusedRows();
-  const auto matched = explanation.MatchedLine();
-  if (matched) {
-    out << Say("  line {} fits: {}", "  第 {} 行符合：{}", *matched, text) << "\n";
-    if (!rows.empty()) out << Say("  the rows before it:", "  之前各行不符合的原因：") << "\n";
-  } else {
-    out << (rows.empty()
-                ? Say("  no rule row fits: the table has none", "  没有符合的规则行：表中没有规则行")
-                : Say("  no rule row fits; the nearest first:", "  没有符合的规则行；最接近的排在最前："))
-        << "\n";
+  void Explain(const VisitedPlate& plate) {
+    ExplanationSink sink;
+    const std::string text = GbkToUtf8(EvaluatePlate(rules_.tables, plate.input.plate, plate.rules, sink));
+    const ExplainedPlate explained{plate.input, plate.file, text, sink, list_, job_.view, Asked(plate)};
+    const PlateStatus status = explained.Status();
+    tally_.Count(status);
+    if (status != PlateStatus::kWritten) context_.reporter.CountFinding();
+    Write(explained);
   }
-  for (std::size_t i = 0; i < rows.size(); ++i) WriteRow(rows[i], input.plate, !matched && i == 0, out);
-  out << "\n";
-}
 
-Json ToJson(const Refusal& refusal, const Plate& plate) {
-  Json json = {{"condition", NameOf(refusal.condition)}};
-  if (refusal.IsSize()) {
-    json.update({{"minimum", refusal.range.minimum}, {"maximum", refusal.range.maximum}});
-    json.update({{"value", refusal.value}, {"missedBy", refusal.Miss()}});
-  } else if (refusal.condition == Condition::kMaterial) {
-    json.update({{"accepted", refusal.colors}, {"value", plate.color}});
-  } else {
-    json.update({{"wanted", refusal.isWanted}, {"colors", refusal.colors}, {"value", plate.faceColors}});
+  void Finish() const {
+    if (context_.summary != nullptr) *context_.summary << tally_.Line(rules_.configuration) << "\n";
   }
-  return json;
-}
 
-Json ToJson(const PlateInput& input, const ExplanationSink& explanation, const std::string& text) {
-  const auto matched = explanation.MatchedLine();
-  Json rows = Json::array();
-  for (const RefusedRow& row : explanation.RefusedRows()) {
-    Json refusals = Json::array();
-    for (const Refusal& refusal : row.refusals) refusals.push_back(ToJson(refusal, input.plate));
-    rows.push_back({{"line", row.lineNumber}, {"refusals", refusals}});
+ private:
+  void Write(const ExplainedPlate& plate) {
+    if (array_) {
+      array_->Add(ExplanationToJson(plate));
+    } else if (csv_) {
+      for (const CsvCells& cells : ExplanationCells(plate)) csv_->Row(cells);
+    } else {
+      WriteExplanation(plate, context_.streams.out);
+    }
   }
-  return {{"name", input.name},
-          {"line", matched ? Json(*matched) : nullptr},
-          {"text", text},
-          {"refusedRows", rows}};
-}
 
-void RunExplain(const PlateJob& job, Context& context) {
-  std::optional<JsonArray> array;
-  if (context.format == Format::kJson) array.emplace(context.streams.out);
-  VisitPlates(job, context,
-              [&](const PlateInput& plate, const RuleTables& tables, const std::vector<ProcessRule>& rules) {
-                ExplanationSink explanation;
-                const std::string text = GbkToUtf8(EvaluatePlate(tables, plate.plate, rules, explanation));
-                if (!explanation.MatchedLine()) context.reporter.CountFinding();
-                array ? array->Add(ToJson(plate, explanation, text))
-                      : WriteText(plate, explanation, text, context.streams.out);
-              });
+  std::optional<AskedRow> Asked(const VisitedPlate& plate) const {
+    if (!onlyAsked_) return std::nullopt;
+    ExplanationSink sink;
+    EvaluatePlate(*onlyAsked_, plate.input.plate, plate.rules, sink);
+    const std::vector<RefusedRow> refused = sink.RefusedRows();
+    return AskedRow{*job_.view.row, refused.empty() ? std::vector<Refusal>() : refused.front().refusals};
+  }
+
+  const ExplainJob& job_;
+  const LoadedRules& rules_;
+  Context& context_;
+  std::vector<ProcessRow> list_;
+  std::optional<RuleTables> onlyAsked_;  ///< With the row that is asked for as the only one.
+  std::optional<JsonArray> array_;
+  std::optional<CsvOutput> csv_;
+  PlateTally tally_;
+};
+
+void RunExplain(const ExplainJob& job, Context& context) {
+  context.reporter.FailOn(job.plates.failOn);
+  const auto rules = LoadRules(job.plates.configuration, context.reporter);
+  if (!rules) return;
+  ExplainRun run(job, *rules, context);
+  if (!run.FindAskedRow()) return;
+  VisitPlates(job.plates, rules->tables, context.streams, context.reporter,
+              [&](const VisitedPlate& plate) { run.Explain(plate); });
+  run.Finish();
 }
 
 }  // namespace
 
 Run ExplainOptions(CLI::App& command) {
-  const auto job = std::make_shared<PlateJob>();
-  AddPlateOptions(command, *job);
-  return [job](Context& context) { RunExplain(*job, context); };
+  const auto job = std::make_shared<ExplainJob>();
+  AddPlateOptions(command, job->plates);
+  command.add_flag(
+      "--all", job->view.showsEveryRefusal,
+      Say("every condition that a row fails by, not only the first", "列出每行不符合的所有条件"));
+  command.add_option("--row", job->view.row, Say("only this row of the rule table", "仅说明规则表的这一行"))
+      ->type_name("N")
+      ->check(IsCount());
+  command
+      .add_option("--rows", job->view.rows,
+                  Say("at most so many rows that do not fit; 0 for all (default: 10, of a plate that fits 3)",
+                      "最多列出的不符合的行数；0 为全部（默认 10，有符合的行时为 3）"))
+      ->type_name("N")
+      ->check(IsCount());
+  return WithOutput(command, [job](Context& context) { RunExplain(*job, context); });
 }
 
 }  // namespace plateconfig

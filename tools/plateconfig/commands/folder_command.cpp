@@ -1,10 +1,13 @@
 #include <nlohmann/json.hpp>
 
 #include "config/configuration_index.h"
+#include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/system/console.h"
+#include "plateconfig/tables/configuration.h"
 #include "plateconfig/tables/reported_index.h"
 #include "text/gbk.h"
 
@@ -12,12 +15,13 @@ namespace plateconfig {
 namespace {
 
 void WriteText(const std::string& root, const ConfigurationIndex& index, std::ostream& out) {
-  out << ShownPath(index.activeFolder) << "\n";
-  out << "  " << kRootVariable << " = " << ShownPath(root) << "\n";
-  out << "  " << Say("index", "索引表") << " " << ShownPath(index.indexPath) << "\n";
+  out << OnOneLine(ShownPath(index.activeFolder)) << "\n";
+  out << "  " << kRootVariable << " = " << OnOneLine(ShownPath(root)) << "\n";
+  out << "  " << Say("index", "索引表") << " " << OnOneLine(ShownPath(index.indexPath)) << "\n";
   for (const IndexRow& row : index.rows) {
     const std::string state = row.isActive ? Say("active", "有效") : Say("not active", "无效");
-    out << "    " << GbkToUtf8(row.folderName) << "  \"" << GbkToUtf8(row.flag) << "\"  " << state << "\n";
+    out << "    " << OnOneLine(GbkToUtf8(row.folderName)) << "  \"" << OnOneLine(GbkToUtf8(row.flag))
+        << "\"  " << state << "\n";
   }
 }
 
@@ -35,7 +39,7 @@ void WriteJson(const std::string& root, const ConfigurationIndex& index, std::os
 }
 
 void RunFolder(Context& context) {
-  const auto root = ConfigurationRoot();
+  const auto root = RootThatIsSet();
   if (!root) {
     context.reporter.Error({"plateconfig"}, Say("{} is not set; the library then has no configuration folder",
                                                 "没有设置 {}；库因此没有配置文件夹", kRootVariable));
@@ -49,8 +53,8 @@ void RunFolder(Context& context) {
 
 }  // namespace
 
-Run FolderOptions(CLI::App&) {
-  return RunFolder;
+Run FolderOptions(CLI::App& command) {
+  return WithOutput(command, RunFolder);
 }
 
 }  // namespace plateconfig

@@ -3,12 +3,14 @@
 #include <memory>
 #include <optional>
 
+#include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/holes/hole_answer.h"
 #include "plateconfig/holes/hole_output.h"
 #include "plateconfig/holes/hole_reader.h"
 #include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/output/csv_output.h"
 #include "plateconfig/output/json_output.h"
 
 namespace plateconfig {
@@ -18,6 +20,7 @@ struct HoleJob {
   std::vector<std::string> typeFiles;  ///< UTF-8; "-" is standard input.
   std::vector<std::string> files;      ///< UTF-8; "-" is standard input.
   bool explains = false;
+  Severity failOn = Severity::kWarning;
 };
 
 std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
@@ -39,6 +42,7 @@ class HoleLoop {
   HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Context& context)
       : job_(job), types_(types), context_(context) {
     if (context.format == Format::kJson) array_.emplace(context.streams.out);
+    if (context.format == Format::kCsv) csv_.emplace(context.streams.out, HoleColumns());
   }
 
   void VisitFile(const std::string& file) {
@@ -55,24 +59,53 @@ class HoleLoop {
                context_.reporter, read);
   }
 
+  void Finish() const {
+    if (context_.summary == nullptr) return;
+    std::string line =
+        Say("{0} {1} and {2} {3}: {4} with one best type", "{0} 个孔，{2} 个类型：{4} 个有唯一最佳类型",
+            count_, count_ == 1 ? "hole" : "holes", types_.size(), types_.size() == 1 ? "type" : "types",
+            count_ - withoutType_ - tied_);
+    if (withoutType_ > 0) line += Say(", {} without a type", "，{} 个没有类型", withoutType_);
+    if (tied_ > 0) line += Say(", {} with a tie", "，{} 个得分并列", tied_);
+    *context_.summary << line << "\n";
+  }
+
  private:
   void Visit(const HoleInput& hole) {
     const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
     if (answer.BestCount() != 1) context_.reporter.CountFinding();
-    array_ ? array_->Add(HoleToJson(hole, answer, job_.explains))
-           : WriteHoleText(hole, answer, job_.explains, context_.streams.out);
+    ++count_;
+    if (answer.BestCount() == 0) ++withoutType_;
+    if (answer.IsTied()) ++tied_;
+    Write(hole, answer);
+  }
+
+  void Write(const HoleInput& hole, const HoleAnswer& answer) {
+    if (array_) {
+      array_->Add(HoleToJson(hole, answer, job_.explains));
+    } else if (csv_) {
+      for (const std::vector<std::string>& cells : HoleCells(hole, answer)) csv_->Row(cells);
+    } else {
+      WriteHoleText(hole, answer, job_.explains, context_.streams.out);
+    }
   }
 
   const HoleJob& job_;
   const std::vector<HoleTypeInput>& types_;
   Context& context_;
   std::optional<JsonArray> array_;
+  std::optional<CsvOutput> csv_;
+  std::size_t count_ = 0;
+  std::size_t withoutType_ = 0;
+  std::size_t tied_ = 0;
 };
 
 void RunHoles(const HoleJob& job, Context& context) {
+  context.reporter.FailOn(job.failOn);
   const std::vector<HoleTypeInput> types = ReadTypeFiles(job, context);
   HoleLoop loop(job, types, context);
   for (const std::string& file : job.files) loop.VisitFile(file);
+  loop.Finish();
 }
 
 }  // namespace
@@ -95,7 +128,8 @@ Run HolesOptions(CLI::App& command) {
                       "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
       ->required();
-  return [job](Context& context) { RunHoles(*job, context); };
+  AddFailOn(command, job->failOn);
+  return WithOutput(command, [job](Context& context) { RunHoles(*job, context); });
 }
 
 }  // namespace plateconfig

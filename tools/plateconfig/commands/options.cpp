@@ -1,13 +1,63 @@
 #include "plateconfig/commands/options.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "analysis/text/shown_text.h"
 #include "analysis/text/similar_name.h"
 #include "analysis/text/strict_values.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/output/csv_output.h"
+#include "plateconfig/output/output_file.h"
 
 namespace plateconfig {
+namespace {
+
+struct OutputOptions {
+  std::string file;  ///< UTF-8; empty is the standard output.
+  bool force = false;
+};
+
+std::string NotInGbk(const GbkBuffer::Lost& lost) {
+  return Say(
+      "\"{}\" has no form in GBK (code page 936), so the file is not written; without -o the CSV is UTF-8",
+      "“{}”没有对应的 GBK（代码页 936）字符，因此不写出此文件；省略 -o 时 CSV 为 UTF-8", lost.character);
+}
+
+/// What `run` writes, on a stream of its own.
+void RunOn(std::ostream& out, const Run& run, Context& context) {
+  const Streams streams{context.streams.in, out, context.streams.err, context.streams.showsProgress};
+  Context inner{streams, context.reporter, context.format, &context.streams.out};
+  run(inner);
+  out.flush();
+}
+
+/// False when a character is lost, which is reported.
+bool RunInGbk(OutputFile& file, const std::string& name, const Run& run, Context& context) {
+  GbkBuffer buffer(file.Stream());
+  std::ostream out(&buffer);
+  RunOn(out, run, context);
+  if (buffer.FirstLost())
+    context.reporter.Error({name, buffer.FirstLost()->line}, NotInGbk(*buffer.FirstLost()));
+  return !buffer.FirstLost();
+}
+
+void RunInto(const OutputOptions& options, const Run& run, Context& context) {
+  const auto file = OutputFile::Open(options.file, options.force ? IfPresent::kReplace : IfPresent::kKeep,
+                                     context.reporter);
+  if (!file) return;
+  if (context.format == Format::kCsv) {
+    if (!RunInGbk(*file, options.file, run, context)) return;
+  } else {
+    RunOn(file->Stream(), run, context);
+  }
+  const bool isEmpty = file->Stream().tellp() == std::streampos(0);
+  if (isEmpty && context.reporter.Result() == kUnusable) return;
+  file->Finish(context.reporter);
+}
+
+}  // namespace
 
 CLI::Validator OneOf(std::vector<std::string> values) {
   const auto check = [values = std::move(values)](std::string& value) -> std::string {
@@ -58,6 +108,48 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
             Say("this table instead of the configuration's own", "用此表代替配置中的表"))
         ->type_name(Say("FILE", "文件"));
   }
+}
+
+void AddFailOn(CLI::App& command, Severity& severity) {
+  const auto take = [&severity](const std::string& name) {
+    severity = name == "error" ? Severity::kError : name == "hint" ? Severity::kHint : Severity::kWarning;
+  };
+  command
+      .add_option_function<std::string>(
+          "--fail-on", take,
+          Say("exit code 1 from this severity on (default: warning)", "从此级别起返回值为 1（默认 warning）"))
+      ->check(OneOf({"error", "warning", "hint"}))
+      ->type_name("error|warning|hint");
+}
+
+Run WithOutput(CLI::App& command, Run run) {
+  const auto options = std::make_shared<OutputOptions>();
+  command
+      .add_option("-o,--output", options->file,
+                  Say("write the result to this file (CSV: in GBK)", "将结果写入此文件（CSV 为 GBK 编码）"))
+      ->check(NotEmpty())
+      ->type_name(Say("FILE", "文件"));
+  command.add_flag("--force", options->force, Say("replace a file that exists", "覆盖已有文件"));
+  return [options, run = std::move(run)](Context& context) {
+    options->file.empty() ? run(context) : RunInto(*options, run, context);
+  };
+}
+
+void AddPlateOptions(CLI::App& command, PlateJob& job) {
+  AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job.configuration);
+  command
+      .add_option("--plate", job.names,
+                  Say("only the plates of these names: A板,镶件* (* is any text); may be given several times",
+                      "仅处理这些名称的板：A板,镶件*（* 为任意文字）；可重复使用"))
+      ->type_name(Say("NAMES", "名称"))
+      ->allow_extra_args(false);
+  command
+      .add_option("plates", job.files,
+                  Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
+                      "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
+      ->type_name(Say("FILE", "文件"))
+      ->required();
+  AddFailOn(command, job.failOn);
 }
 
 }  // namespace plateconfig

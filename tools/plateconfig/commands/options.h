@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "plateconfig/commands/verbs.h"
+#include "plateconfig/plates/plate_job.h"
 #include "plateconfig/tables/configuration.h"
 
 namespace plateconfig {
@@ -28,5 +30,15 @@ void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
 /// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options);
+
+/// --fail-on, which decides what exit code 1 is for.
+void AddFailOn(CLI::App& command, Severity& severity);
+
+/// Adds -o and --force: what `run` writes goes into the file, as CSV in GBK. Nothing is written when a text
+/// of it has no form in GBK, or when there is an error and no result.
+Run WithOutput(CLI::App& command, Run run);
+
+/// The options of a verb that evaluates plates.
+void AddPlateOptions(CLI::App& command, PlateJob& job);
 
 }  // namespace plateconfig

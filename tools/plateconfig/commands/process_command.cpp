@@ -1,9 +1,15 @@
+// `process`: the process text of each plate.
+
 #include <memory>
 #include <optional>
 
-#include "plateconfig/commands/plate_job.h"
+#include "plateconfig/answers/explanation_json.h"
+#include "plateconfig/answers/plate_csv.h"
+#include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
+#include "plateconfig/output/csv_output.h"
 #include "plateconfig/output/json_output.h"
 #include "rules/evaluation.h"
 #include "text/gbk.h"
@@ -11,41 +17,71 @@
 namespace plateconfig {
 namespace {
 
-/// Remembers the row that matched, and nothing else.
-class MatchSink : public EvaluationSink {
- public:
-  void OnMatch(const RuleRow& row, const std::string&) override { line = row.lineNumber; }
+std::string WithoutText() {
+  return Say("no process of this row applies (plateconfig explain tells why)",
+             "此行没有写出工艺（用 plateconfig explain 查看原因）");
+}
 
-  std::optional<int> line;
-};
-
-void WriteText(const PlateInput& plate, std::optional<int> line, const std::string& text, std::ostream& out) {
-  if (!line) {
-    out << plate.name
-        << Say(": no rule row fits (plateconfig explain tells why)",
+void WriteText(const PlateInput& plate, const OutcomeSink& outcome, const std::string& text,
+               std::ostream& out) {
+  out << OnOneLine(plate.name);
+  if (!outcome.Line()) {
+    out << Say(": no rule row fits (plateconfig explain tells why)",
                "：没有符合的规则行（用 plateconfig explain 查看原因）")
         << "\n";
     return;
   }
-  out << plate.name << Say(" (line {}): ", "（第 {} 行）：", *line)
-      << (text.empty() ? Say("no process of this row applies", "此行没有适用的工艺") : text) << "\n";
+  out << Say(" (line {}): ", "（第 {} 行）：", *outcome.Line())
+      << (outcome.Status() == PlateStatus::kWritten ? OnOneLine(text) : WithoutText()) << "\n";
 }
 
-nlohmann::ordered_json ToJson(const PlateInput& plate, std::optional<int> line, const std::string& text) {
-  return {{"name", plate.name}, {"line", line ? nlohmann::ordered_json(*line) : nullptr}, {"text", text}};
-}
+class ProcessRun {
+ public:
+  ProcessRun(const LoadedRules& rules, Context& context) : rules_(rules), context_(context) {
+    if (context.format == Format::kJson) array_.emplace(context.streams.out);
+    if (context.format == Format::kCsv) csv_.emplace(context.streams.out, OutcomeColumns());
+  }
+
+  void Evaluate(const VisitedPlate& plate) {
+    OutcomeSink outcome;
+    const std::string text = GbkToUtf8(EvaluatePlate(rules_.tables, plate.input.plate, plate.rules, outcome));
+    const PlateStatus status = outcome.Status();
+    tally_.Count(status);
+    if (status != PlateStatus::kWritten) context_.reporter.CountFinding();
+    Write(plate, outcome, text);
+  }
+
+  void Finish() const {
+    if (context_.summary != nullptr) *context_.summary << tally_.Line(rules_.configuration) << "\n";
+  }
+
+ private:
+  void Write(const VisitedPlate& plate, const OutcomeSink& outcome, const std::string& text) {
+    const PlateStatus status = outcome.Status();
+    if (array_) {
+      array_->Add(OutcomeToJson(plate.input, plate.file, outcome.Line(), text, status));
+    } else if (csv_) {
+      csv_->Row(OutcomeCells(plate.input, plate.file, outcome.Line(), text, status));
+    } else {
+      WriteText(plate.input, outcome, text, context_.streams.out);
+    }
+  }
+
+  const LoadedRules& rules_;
+  Context& context_;
+  std::optional<JsonArray> array_;
+  std::optional<CsvOutput> csv_;
+  PlateTally tally_;
+};
 
 void RunProcess(const PlateJob& job, Context& context) {
-  std::optional<JsonArray> array;
-  if (context.format == Format::kJson) array.emplace(context.streams.out);
-  VisitPlates(job, context,
-              [&](const PlateInput& plate, const RuleTables& tables, const std::vector<ProcessRule>& rules) {
-                MatchSink match;
-                const std::string text = GbkToUtf8(EvaluatePlate(tables, plate.plate, rules, match));
-                if (!match.line) context.reporter.CountFinding();
-                array ? array->Add(ToJson(plate, match.line, text))
-                      : WriteText(plate, match.line, text, context.streams.out);
-              });
+  context.reporter.FailOn(job.failOn);
+  const auto rules = LoadRules(job.configuration, context.reporter);
+  if (!rules) return;
+  ProcessRun run(*rules, context);
+  VisitPlates(job, rules->tables, context.streams, context.reporter,
+              [&](const VisitedPlate& plate) { run.Evaluate(plate); });
+  run.Finish();
 }
 
 }  // namespace
@@ -53,7 +89,7 @@ void RunProcess(const PlateJob& job, Context& context) {
 Run ProcessOptions(CLI::App& command) {
   const auto job = std::make_shared<PlateJob>();
   AddPlateOptions(command, *job);
-  return [job](Context& context) { RunProcess(*job, context); };
+  return WithOutput(command, [job](Context& context) { RunProcess(*job, context); });
 }
 
 }  // namespace plateconfig

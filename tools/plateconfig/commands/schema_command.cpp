@@ -6,7 +6,6 @@
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/json_output.h"
-#include "plateconfig/output/output_file.h"
 #include "plateconfig/tables/schema_words.h"
 #include "text/gbk.h"
 
@@ -17,7 +16,6 @@ using Json = nlohmann::ordered_json;
 
 struct SchemaJob {
   std::string format;  ///< Empty: the companion's own.
-  std::string output;  ///< UTF-8; empty is the standard output.
 };
 
 std::string AbsentText(const ColumnSchema& column) {
@@ -84,7 +82,7 @@ void WriteMarkdown(const TableSchema& table, std::ostream& out) {
 void WriteMarkdownHead(std::ostream& out) {
   out << Say("# Tables", "# 配置表") << "\n\n"
       << Say("Every table and every column that the library reads, in the order of reading. Written by\n"
-             "`plateconfig schema --format markdown --lang en --output docs/tables.md` from the rows that "
+             "`plateconfig schema --format markdown --lang en > docs/tables.md` from the rows that "
              "the loaders "
              "walk.\n\n"
              "Tables are CSV in GBK; the first line names the columns. A single value stands in the first "
@@ -98,7 +96,7 @@ void WriteMarkdownHead(std::ostream& out) {
              "and a\n"
              "table without data rows give. A slanted name stands for names that the user chooses.",
              "库读取的所有表和列，按读取顺序列出。本页由命令\n"
-             "`plateconfig schema --format markdown --lang zh --output docs/tables.zh.md` "
+             "`plateconfig schema --format markdown --lang zh > docs/tables.zh.md` "
              "写出，与读取表格用的是同一份资料。\n\n"
              "表是 GBK 编码的 "
              "CSV，第一行是列名。单个值写在第一个数据行；列表沿列向下排列；标为“多行”的各列逐行对应。\n"
@@ -128,12 +126,7 @@ void RunSchema(const SchemaJob& job, Context& context) {
   const std::string format = !job.format.empty()               ? job.format
                              : context.format == Format::kJson ? std::string("json")
                                                                : std::string("text");
-  const std::string text = Written(format);
-  if (job.output.empty()) {
-    context.streams.out << text;
-  } else {
-    WriteOutputFile(job.output, text, IfPresent::kReplace, context.reporter);
-  }
+  context.streams.out << Written(format);
 }
 
 }  // namespace
@@ -143,9 +136,7 @@ Run SchemaOptions(CLI::App& command) {
   command.add_option("--format", job->format, Say("text, json or markdown", "text、json 或 markdown"))
       ->check(OneOf({"text", "json", "markdown"}))
       ->type_name("text|json|markdown");
-  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
-      ->type_name(Say("FILE", "文件"));
-  return [job](Context& context) { RunSchema(*job, context); };
+  return WithOutput(command, [job](Context& context) { RunSchema(*job, context); });
 }
 
 }  // namespace plateconfig

@@ -1,47 +1,78 @@
+// `template`: a table of a role, or an input file of plates, holes or hole types, ready to be filled in.
+
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
+#include "plateconfig/holes/hole_template.h"
 #include "plateconfig/messages/language.h"
-#include "plateconfig/output/output_file.h"
+#include "plateconfig/plates/plate_template.h"
 #include "plateconfig/tables/table_template.h"
 
 namespace plateconfig {
 namespace {
 
 struct TemplateJob {
-  std::string role;
-  std::string output;  ///< UTF-8; empty is the standard output.
-  bool force = false;
+  std::string name;
+  ConfigurationOptions configuration;
 };
 
-void RunTemplate(const TemplateJob& job, Context& context) {
-  const std::string table = TableTemplate(SchemaOf(*FindRole(job.role)));
-  if (job.output.empty()) {
-    context.streams.out << table;
-  } else {
-    WriteOutputFile(job.output, table, job.force ? IfPresent::kReplace : IfPresent::kKeep, context.reporter);
-  }
+void WritePlates(const TemplateJob& job, Context& context) {
+  if (const auto rules = LoadRules(job.configuration, context.reporter))
+    context.streams.out << PlateTemplate(rules->tables);
 }
 
-std::vector<std::string> RoleNames() {
+void WriteHoles(const TemplateJob&, Context& context) {
+  context.streams.out << HoleTemplate();
+}
+
+void WriteHoleTypes(const TemplateJob&, Context& context) {
+  context.streams.out << HoleTypeTemplate();
+}
+
+/// What is no table of a configuration.
+struct InputTemplate {
+  const char* name;
+  void (*write)(const TemplateJob& job, Context& context);
+};
+constexpr InputTemplate kInputs[] = {
+    {"plates", WritePlates}, {"holes", WriteHoles}, {"hole-types", WriteHoleTypes}};
+
+void RunTemplate(const TemplateJob& job, Context& context) {
+  const auto input = std::find_if(std::begin(kInputs), std::end(kInputs),
+                                  [&](const InputTemplate& each) { return each.name == job.name; });
+  if (input != std::end(kInputs)) return input->write(job, context);
+  context.streams.out << TableTemplate(SchemaOf(*FindRole(job.name)));
+}
+
+std::vector<std::string> TemplateNames() {
   const std::vector<std::string_view> roles = NamesOf(Roles());
-  return {roles.begin(), roles.end()};
+  std::vector<std::string> names(roles.begin(), roles.end());
+  for (const InputTemplate& input : kInputs) names.emplace_back(input.name);
+  return names;
 }
 
 }  // namespace
 
 Run TemplateOptions(CLI::App& command) {
   const auto job = std::make_shared<TemplateJob>();
-  command.add_option("role", job->role, Say("the role of the table", "表的用途"))
+  command
+      .add_option("name", job->name,
+                  Say("a table by its role, or plates, holes or hole-types",
+                      "表的用途名，或 plates、holes、hole-types"))
       ->type_name(Say("ROLE", "用途"))
       ->required()
-      ->check(OneOf(RoleNames()));
-  AddRolesToHelp(command, RoleNames());
-  command.add_option("-o,--output", job->output, Say("write to this file", "写入此文件"))
-      ->type_name(Say("FILE", "文件"));
-  command.add_flag("--force", job->force, Say("replace a file that exists", "覆盖已有文件"));
-  return [job](Context& context) { RunTemplate(*job, context); };
+      ->check(OneOf(TemplateNames()));
+  AddRolesToHelp(command, TemplateNames());
+  AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job->configuration);
+  const Run run = WithOutput(command, [job](Context& context) { RunTemplate(*job, context); });
+  // A template is GBK already, and so are its bytes on the standard output.
+  return [run](Context& context) {
+    Context bytes{context.streams, context.reporter, Format::kText, context.summary};
+    run(bytes);
+  };
 }
 
 }  // namespace plateconfig

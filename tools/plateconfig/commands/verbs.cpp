@@ -3,29 +3,39 @@
 namespace plateconfig {
 
 // Each in a file of its own: folder_command.cpp and so on.
-AddOptions FolderOptions, CheckVerbOptions, ProcessOptions, ExplainOptions, DiffOptions, HolesOptions,
-    ShowOptions, SchemaOptions, TemplateOptions;
+AddOptions FolderOptions, InitOptions, CheckVerbOptions, ProcessOptions, ExplainOptions, DiffOptions,
+    HolesOptions, ShowOptions, SchemaOptions, TemplateOptions;
 
 std::span<const Verb> Verbs() {
+  static constexpr std::string_view kTextOrJson = "text json";
+  static constexpr std::string_view kTextJsonOrCsv = "text json csv";
   static constexpr Verb kVerbs[] = {
       {"folder", "print the active configuration folder that TQConfig leads to, and why",
-       "显示 TQConfig 所指的有效配置文件夹及其由来", FolderOptions},
+       "显示 TQConfig 所指的有效配置文件夹及其由来", FolderOptions, kTextOrJson, "plateconfig folder"},
+      {"init", "write the tables.json of a folder: which of its tables plays which role",
+       "为文件夹写出 tables.json：其中的表各有何用途", InitOptions, "text", "plateconfig init config/新配置"},
       {"check", "find every mistake in the tables of a configuration", "找出配置各表中的所有错误",
-       CheckVerbOptions},
+       CheckVerbOptions, kTextJsonOrCsv,
+       "plateconfig check --config samples/config/标准 --plates samples/plates.csv"},
       {"process", "print the manufacturing-process text of each plate", "输出每块板的制造工艺文本",
-       ProcessOptions},
+       ProcessOptions, kTextJsonOrCsv, "plateconfig process --format csv -o 工艺.csv samples/plates.csv"},
       {"explain", "tell for each plate which rule row fits, and why none before it does",
-       "说明每块板符合哪一规则行，以及之前各行为何不符合", ExplainOptions},
+       "说明每块板符合哪一规则行，以及之前各行为何不符合", ExplainOptions, kTextJsonOrCsv,
+       "plateconfig explain --config samples/config/标准 --plate A板 samples/plates.csv"},
       {"diff", "tell what changed between two configurations, and for which plates",
-       "比较两个配置：有哪些变化，影响哪些板", DiffOptions},
+       "比较两个配置：有哪些变化，影响哪些板", DiffOptions, kTextOrJson,
+       "plateconfig diff samples/config/标准 samples/config/精密模 --plates samples/plates.csv"},
       {"holes", "list for each combined hole the types that it belongs to, with their scores, best first",
-       "列出每个组合孔所属的类型及其得分，得分最高者在前", HolesOptions},
+       "列出每个组合孔所属的类型及其得分，得分最高者在前", HolesOptions, kTextJsonOrCsv,
+       "plateconfig holes --types samples/hole-types.csv samples/holes.csv"},
       {"show", "print every setting of a configuration, and where it comes from",
-       "显示配置中的每一项设置及其来源", ShowOptions},
+       "显示配置中的每一项设置及其来源", ShowOptions, kTextJsonOrCsv,
+       "plateconfig show process-rules --config samples/config/标准"},
       {"schema", "print every table and column that the library reads, with defaults",
-       "列出库读取的所有表和列及其默认值", SchemaOptions},
-      {"template", "write a table with all columns of a role and their defaults (GBK, CR LF)",
-       "写出某一用途的表，含全部列及默认值（GBK，CR LF）", TemplateOptions},
+       "列出库读取的所有表和列及其默认值", SchemaOptions, kTextOrJson, "plateconfig schema --format json"},
+      {"template", "write a table, or a file of plates or holes, with all columns (GBK, CR LF)",
+       "写出一个表，或板、孔的文件，含全部列（GBK，CR LF）", TemplateOptions, "csv",
+       "plateconfig template plates --config samples/config/标准 -o 板.csv"},
   };
   return kVerbs;
 }

@@ -9,20 +9,24 @@
 
 #include <CLI/App.hpp>
 #include <functional>
+#include <ostream>
 #include <span>
+#include <string_view>
 
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/system/streams.h"
 
 namespace plateconfig {
 
-enum class Format { kText, kJson };
+enum class Format { kText, kJson, kCsv };
 
 /// What a verb works with.
 struct Context {
   const Streams& streams;
   Reporter& reporter;
   Format format;
+  /// Where the last line goes, which counts; null for nowhere: programs read what is written.
+  std::ostream* summary = nullptr;
 };
 
 /// What a verb does once its command line is read.
@@ -36,6 +40,8 @@ struct Verb {
   const char* english;  ///< What the help says that it does.
   const char* chinese;
   AddOptions* addOptions;
+  std::string_view formats;  ///< The forms of its output, the first of them without --format.
+  const char* example;       ///< A whole command line.
 };
 
 std::span<const Verb> Verbs();

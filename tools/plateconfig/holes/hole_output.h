@@ -14,4 +14,9 @@ namespace plateconfig {
 void WriteHoleText(const HoleInput& input, const HoleAnswer& answer, bool inFull, std::ostream& out);
 nlohmann::ordered_json HoleToJson(const HoleInput& input, const HoleAnswer& answer, bool inFull);
 
+/// The columns of a CSV result, and the rows of a hole: one for each type that accepts it, one without a type
+/// when none does.
+const std::vector<std::string>& HoleColumns();
+std::vector<std::vector<std::string>> HoleCells(const HoleInput& input, const HoleAnswer& answer);
+
 }  // namespace plateconfig

@@ -35,11 +35,21 @@ class CsvRecords : public RecordReader<Record> {
       : rows_(in, file, reporter), file_(file), kind_(std::move(kind)), reporter_(reporter) {
     const CsvRow* header = rows_.ReadHeader();
     if (header == nullptr) return;
+    lastNumber_ = header->number;
+    const bool mayBeTitle = KnownCount(*header) == 0;
+    HeldFindings held(reporter_);
     for (std::size_t column = 0; column < header->cells.size(); ++column) TakeColumn(*header, column);
     NoteMissing();
     for (std::size_t column = 0; column < header->cells.size(); ++column) CheckName(*header, column);
     isUsable_ = HasRequiredColumns(*header);
-    lastNumber_ = header->number;
+    const std::size_t headerLine = mayBeTitle && !isUsable_ ? FindHeader() : 0;
+    if (headerLine == 0) {
+      held.Tell();
+      return;
+    }
+    held.Drop();
+    reporter_.Report(
+        {.code = "input-title-line", .place = {file_, 1, 1}, .words = {std::to_string(headerLine)}});
   }
 
   std::optional<Record> Next() override {
@@ -70,6 +80,26 @@ class CsvRecords : public RecordReader<Record> {
   bool EndsBehindALoss() const { return rows_.RowCount() != lastNumber_; }
 
  private:
+  std::size_t KnownCount(const CsvRow& row) const {
+    return static_cast<std::size_t>(
+        std::count_if(row.cells.begin(), row.cells.end(), [this](const CsvCell& cell) {
+          return std::any_of(kind_.fields.begin(), kind_.fields.end(), [&](const Field<Record>& field) {
+            return !cell.text.empty() && field.names.column == cell.text;
+          });
+        }));
+  }
+
+  /// The line further down that has column names, 0 for none: the first one is a title then.
+  std::size_t FindHeader() {
+    constexpr int kRowsLookedAt = 5;
+    for (int i = 0; i < kRowsLookedAt; ++i) {
+      const CsvRow* row = rows_.ReadRow();
+      if (row == nullptr) break;
+      if (KnownCount(*row) > 1) return row->cells.front().position.line;
+    }
+    return 0;
+  }
+
   void TakeColumn(const CsvRow& header, std::size_t column) {
     const CsvCell& cell = header.cells[column];
     const auto field = std::find_if(kind_.fields.begin(), kind_.fields.end(), [&](const Field<Record>& each) {
@@ -140,6 +170,14 @@ class CsvRecords : public RecordReader<Record> {
   }
 
   void Read(const CsvRow& cells, Row& row) {
+    if (!kind_.wants) return ReadCells(cells, row);
+    HeldFindings held(reporter_);
+    ReadCells(cells, row);
+    if (kind_.wants(row.record)) return held.Tell();
+    row.isGood = false;
+  }
+
+  void ReadCells(const CsvRow& cells, Row& row) {
     row.record.position = cells.cells.front().position;
     for (std::size_t column = 0; column < columns_.size(); ++column) {
       const Field<Record>* field = columns_[column];

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "analysis/text/file_form.h"
+#include "analysis/text/folded_name.h"
 #include "analysis/text/position_counter.h"
 #include "analysis/text/separator.h"
 #include "config/quotes.h"
@@ -15,7 +17,22 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 // A quote that is never closed would swallow the rest of the file.
 constexpr std::size_t kLargestQuotedRow = std::size_t{1} << 20;
 
+/// Blanks of every width count as nothing.
+bool IsBlankText(std::string_view text) {
+  return text.empty() || FoldedName(text).empty();
+}
+
 constexpr std::size_t kNone = std::string_view::npos;
+
+/// What the file is instead, by its first line; nothing when it may be CSV.
+std::optional<Code> NoTable(std::string_view line) {
+  const FileForm form = FormOf(line);
+  if (form == FileForm::kWorkbook) return Code("input-workbook");
+  if (form == FileForm::kUtf16) return Code("input-utf16");
+  const std::size_t end = line.find('\r');
+  const bool isOneLine = line.find('\n') == kNone && end != kNone && end + 1 < line.size();
+  return isOneLine ? std::optional<Code>(Code("input-line-ends")) : std::nullopt;
+}
 
 bool HasOpenQuote(std::string_view row, std::size_t cell) {
   return cell < row.size() && row[cell] == kQuote && EndOfQuotes(row, cell) == cell;
@@ -43,7 +60,7 @@ std::size_t FindOpenQuoteBehind(std::string_view row, std::size_t open, std::siz
 }  // namespace
 
 bool CsvRow::IsBlank() const {
-  return std::all_of(cells.begin(), cells.end(), [](const CsvCell& cell) { return cell.text.empty(); });
+  return std::all_of(cells.begin(), cells.end(), [](const CsvCell& cell) { return IsBlankText(cell.text); });
 }
 
 CsvStream::CsvStream(std::istream& in, const std::string& file, Reporter& reporter)
@@ -56,6 +73,10 @@ void CsvStream::Report(Finding finding, Position position) {
 
 const CsvRow* CsvStream::ReadHeader() {
   if (!TakeRow()) return nullptr;
+  if (const auto code = NoTable(bytes_)) {
+    Report({.code = *code}, {});
+    return nullptr;
+  }
   if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
   if (!TurnIntoUtf8()) {
     Report({.code = "input-header-encoding"}, {1, 1});

@@ -27,6 +27,7 @@ struct CsvRow {
   std::size_t number = 0;      ///< Row of the spreadsheet; the header is 1.
   std::vector<CsvCell> cells;  ///< At least one.
 
+  /// Nothing but blanks, of whatever kind, in all cells.
   bool IsBlank() const;
 };
 

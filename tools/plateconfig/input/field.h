@@ -97,6 +97,9 @@ struct RecordKind {
   Words nothing;            ///< What can be read without a column: "no plate".
   Words whenCellIsRefused;  ///< What becomes of the record, in brackets; may be empty.
   Code missingMember;
+  /// Of a reader that gives some records only: whether this is one of them. Mistakes of others are not told.
+  /// Empty for all.
+  std::function<bool(const Record& record)> wants = {};
 };
 
 template <typename Record>

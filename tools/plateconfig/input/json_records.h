@@ -49,14 +49,26 @@ class JsonRecords : public RecordReader<Record> {
     while (const std::optional<JsonNode> object = objects_.Next()) {
       std::optional<Record> record(std::in_place);
       record->position = object->position;
-      JsonValues values(file_, reporter_);
-      ReadObject(*object, kind_, values, *record);
-      if (values.AreGood()) return record;
+      if (Read(*object, *record)) return record;
     }
     return std::nullopt;
   }
 
  private:
+  /// False for a record that can not be used or is not wanted.
+  bool Read(const JsonNode& object, Record& record) {
+    JsonValues values(file_, reporter_);
+    if (kind_.wants) {
+      HeldFindings held(reporter_);
+      ReadObject(object, kind_, values, record);
+      if (!kind_.wants(record)) return false;
+      held.Tell();
+    } else {
+      ReadObject(object, kind_, values, record);
+    }
+    return values.AreGood();
+  }
+
   JsonStream objects_;
   std::string file_;
   RecordKind<Record> kind_;

@@ -1,5 +1,6 @@
 #include "plateconfig/messages/language.h"
 
+#include "analysis/text/shown_text.h"
 #include "plateconfig/system/console.h"
 
 namespace plateconfig {
@@ -27,6 +28,13 @@ std::string SayPlain(std::string_view english, std::string_view chinese) {
 
 std::string DidYouMean(const std::string& similar) {
   return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
+}
+
+std::string DidYouMean(const std::vector<std::string>& similar) {
+  std::string names;
+  for (const std::string& name : similar)
+    names += (names.empty() ? "" : Say(", ", "、")) + Say("\"{}\"", "“{}”", ShownText(name));
+  return names.empty() ? names : Say("; did you mean {}?", "；是否应为{}？", names);
 }
 
 }  // namespace plateconfig

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "analysis/text/words.h"
 
@@ -37,5 +38,7 @@ std::string Say(fmt::format_string<const Arguments&...> english,
 /// What a message about a wrong name ends with: the name that was probably meant; nothing when `similar` is
 /// empty.
 std::string DidYouMean(const std::string& similar);
+/// The same for several names.
+std::string DidYouMean(const std::vector<std::string>& similar);
 
 }  // namespace plateconfig

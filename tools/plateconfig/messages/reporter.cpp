@@ -2,8 +2,14 @@
 
 #include "analysis/findings/sentence.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
 
 namespace plateconfig {
+namespace {
+
+constexpr std::size_t kMostOfOneKind = 20;
+
+}  // namespace
 
 void Reporter::Error(const Place& place, const std::string& text) {
   hasErrors_ = true;
@@ -11,7 +17,7 @@ void Reporter::Error(const Place& place, const std::string& text) {
 }
 
 void Reporter::Warning(const Place& place, const std::string& text) {
-  hasFindings_ = hasFindings_ || warningsCount_;
+  if (warningsCount_) Count(Severity::kWarning);
   Write(place, Severity::kWarning, text);
 }
 
@@ -19,13 +25,27 @@ void Reporter::Report(const Finding& finding) {
   if (collected_ != nullptr) return collected_->push_back(finding);
   const Severity severity = finding.code.Row().severity;
   hasErrors_ = hasErrors_ || severity == Severity::kError;
-  hasFindings_ = hasFindings_ || (warningsCount_ && severity == Severity::kWarning);
+  if (warningsCount_) Count(severity);
+  if (++told_[{std::string(finding.code.Name()), finding.place.file}] > kMostOfOneKind) return;
   Write(finding.place, severity, LineOf(finding, CurrentLanguage()));
+}
+
+void Reporter::TellHowManyMore() {
+  for (const auto& [kind, count] : told_) {
+    if (count <= kMostOfOneKind) continue;
+    if (prepare_) prepare_();
+    err_ << OnOneLine(kind.second) << ": "
+         << Say("{} more messages of this kind are not shown: {}", "另有 {} 条同类信息未显示：{}",
+                count - kMostOfOneKind, kind.first)
+         << "\n";
+  }
+  told_.clear();
 }
 
 void Reporter::Write(const Place& place, Severity severity, const std::string& text) {
   if (prepare_) prepare_();
-  err_ << ToString(place) << ": " << WordsOf(severity).In(CurrentLanguage()) << ": " << text << "\n";
+  err_ << OnOneLine(ToString(place)) << ": " << WordsOf(severity).In(CurrentLanguage()) << ": "
+       << OnOneLine(text) << "\n";
 }
 
 }  // namespace plateconfig

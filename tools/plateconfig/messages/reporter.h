@@ -4,7 +4,9 @@
 //
 //   plates.csv:3:12: error: C3: the width "45o" is not a number; write it like 450 or 12.5
 
+#include <cstddef>
 #include <functional>
+#include <map>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -29,29 +31,68 @@ class Reporter {
   /// The same as data: it counts as its severity says. A hint is not a finding for the exit code.
   void Report(const Finding& finding);
   /// A result that the user should look at, already shown in the output.
-  void CountFinding() { hasFindings_ = true; }
+  void CountFinding() { Count(Severity::kWarning); }
   /// From now on warnings do not count: whether the input looks wrong is not what the verb answers.
   void ShowWarningsOnly() { warningsCount_ = false; }
 
-  /// From now on findings go there, instead of onto the stream, and do not count; null ends it.
-  void CollectInto(std::vector<Finding>* findings) { collected_ = findings; }
+  /// What is less than this does not count for the exit code.
+  void FailOn(Severity severity) { failOn_ = severity; }
+
+  /// From now on findings go there, instead of onto the stream, and do not count; null ends it. Gives where
+  /// they went before.
+  std::vector<Finding>* CollectInto(std::vector<Finding>* findings) {
+    return std::exchange(collected_, findings);
+  }
   bool Collects() const { return collected_ != nullptr; }
 
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
   void BeforeMessage(std::function<void()> prepare) { prepare_ = std::move(prepare); }
 
+  /// Says how many messages of each kind were left out, which happens to a kind that repeats itself in one
+  /// file. To be called at the end.
+  void TellHowManyMore();
+
   ExitCode Result() const { return hasErrors_ ? kUnusable : hasFindings_ ? kFindings : kFine; }
 
  private:
+  void Count(Severity severity) { hasFindings_ = hasFindings_ || severity <= failOn_; }
   void Write(const Place& place, Severity severity, const std::string& text);
 
+  /// A kind of messages: the code and the file.
+  using Kind = std::pair<std::string, std::string>;
+
   std::ostream& err_;
+  std::map<Kind, std::size_t> told_;  ///< How often each kind was met.
   std::vector<Finding>* collected_ = nullptr;
   std::function<void()> prepare_;
+  Severity failOn_ = Severity::kWarning;
   bool hasErrors_ = false;
   bool hasFindings_ = false;
   bool warningsCount_ = true;
+};
+
+/// Holds findings back until it is known whether they are to be told.
+class HeldFindings {
+ public:
+  explicit HeldFindings(Reporter& reporter)
+      : reporter_(reporter), before_(reporter.CollectInto(&findings_)) {}
+  ~HeldFindings() { reporter_.CollectInto(before_); }
+  HeldFindings(const HeldFindings&) = delete;
+  HeldFindings& operator=(const HeldFindings&) = delete;
+
+  /// From now on findings are reported as before.
+  void Drop() { reporter_.CollectInto(before_); }
+
+  void Tell() {
+    Drop();
+    for (const Finding& finding : findings_) reporter_.Report(finding);
+  }
+
+ private:
+  Reporter& reporter_;
+  std::vector<Finding> findings_;
+  std::vector<Finding>* before_;
 };
 
 }  // namespace plateconfig

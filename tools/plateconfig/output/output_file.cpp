@@ -1,9 +1,9 @@
 #include "plateconfig/output/output_file.h"
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/file_kind.h"
@@ -19,25 +19,6 @@ fs::path TemporaryNameFor(fs::path path) {
   return path;
 }
 
-bool WriteBytes(const fs::path& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary);
-  file << bytes;
-  file.close();
-  return !file.fail();
-}
-
-bool WriteWhole(const fs::path& target, std::string_view bytes) {
-  const fs::path temporary = TemporaryNameFor(target);
-  std::error_code error;
-  bool isDone = WriteBytes(temporary, bytes);
-  if (isDone) {
-    fs::rename(temporary, target, error);
-    isDone = !error;
-  }
-  if (!isDone) fs::remove(temporary, error);
-  return isDone;
-}
-
 /// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
 fs::path BehindLinks(const fs::path& path) {
   std::error_code error;
@@ -45,10 +26,8 @@ fs::path BehindLinks(const fs::path& path) {
   return error ? path : target;
 }
 
-}  // namespace
-
-bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent ifPresent,
-                     Reporter& reporter) {
+/// False, with an error reported, when nothing may be written there.
+bool MayBeWritten(const std::string& path, IfPresent ifPresent, Reporter& reporter) {
   const fs::path target = PathFromUtf8(path);
   std::error_code error;
   const fs::file_status status = fs::status(target, error);
@@ -56,15 +35,79 @@ bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent 
     reporter.Error({path}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
     return false;
   }
-  const bool isStream = IsPipeOrDevice(target);  // Written into: a rename would put a file in its place.
-  if (ifPresent == IfPresent::kKeep && fs::exists(status) && !isStream) {
+  if (ifPresent != IfPresent::kReplace && fs::exists(status) && !IsPipeOrDevice(target)) {
     reporter.Error({path},
-                   Say("this file exists already; --force replaces it", "此文件已存在；用 --force 覆盖"));
+                   ifPresent == IfPresent::kKeep
+                       ? Say("this file exists already; --force replaces it", "此文件已存在；用 --force 覆盖")
+                       : Say("this file exists already and stays as it is", "此文件已存在，保持不变"));
     return false;
   }
-  const bool isDone = isStream ? WriteBytes(target, bytes) : WriteWhole(BehindLinks(target), bytes);
-  if (!isDone) reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
-  return isDone;
+  return true;
+}
+
+bool CanNotBeWritten(const std::string& path, Reporter& reporter) {
+  reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
+  return false;
+}
+
+}  // namespace
+
+/// Where the bytes go until the end, and where they belong then.
+struct OutputFile::Place {
+  fs::path target;
+  fs::path temporary;  ///< Empty for a device or a pipe, which is written into at once.
+  std::ofstream stream;
+};
+
+std::unique_ptr<OutputFile> OutputFile::Open(const std::string& path, IfPresent ifPresent,
+                                             Reporter& reporter) {
+  if (!MayBeWritten(path, ifPresent, reporter)) return nullptr;
+  auto place = std::make_unique<Place>();
+  place->target = PathFromUtf8(path);
+  // A rename would put a file in the place of a device.
+  if (!IsPipeOrDevice(place->target)) {
+    place->target = BehindLinks(place->target);
+    place->temporary = TemporaryNameFor(place->target);
+  }
+  place->stream.open(place->temporary.empty() ? place->target : place->temporary, std::ios::binary);
+  if (!place->stream) {
+    CanNotBeWritten(path, reporter);
+    return nullptr;
+  }
+  return std::unique_ptr<OutputFile>(new OutputFile(path, std::move(place)));
+}
+
+OutputFile::OutputFile(std::string path, std::unique_ptr<Place> place)
+    : path_(std::move(path)), place_(std::move(place)) {}
+
+OutputFile::~OutputFile() {
+  if (place_->temporary.empty()) return;
+  place_->stream.close();
+  std::error_code error;
+  fs::remove(place_->temporary, error);
+}
+
+std::ostream& OutputFile::Stream() {
+  return place_->stream;
+}
+
+bool OutputFile::Finish(Reporter& reporter) {
+  place_->stream.close();
+  if (place_->stream.fail()) return CanNotBeWritten(path_, reporter);
+  if (place_->temporary.empty()) return true;
+  std::error_code error;
+  fs::rename(place_->temporary, place_->target, error);
+  if (error) return CanNotBeWritten(path_, reporter);
+  place_->temporary.clear();
+  return true;
+}
+
+bool WriteOutputFile(const std::string& path, std::string_view bytes, IfPresent ifPresent,
+                     Reporter& reporter) {
+  const auto file = OutputFile::Open(path, ifPresent, reporter);
+  if (!file) return false;
+  file->Stream() << bytes;
+  return file->Finish(reporter);
 }
 
 }  // namespace plateconfig

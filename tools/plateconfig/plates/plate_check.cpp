@@ -9,6 +9,7 @@
 #include "analysis/rules/feed_rules.h"
 #include "plateconfig/input/csv_stream.h"
 #include "plateconfig/input/input_form.h"
+#include "plateconfig/plates/plate_hints.h"
 #include "rules/condition_texts.h"
 #include "rules/evaluation.h"
 #include "text/gbk.h"
@@ -46,7 +47,8 @@ std::size_t PlateCheck::Read(std::istream& in, const std::string& file) {
 }
 
 void PlateCheck::Check(const PlateInput& plate, const std::string& file) {
-  CheckName(plate, file);
+  names_.Check(plate, file);
+  ReportHints(plate, file, tables_, reporter_);
   const RuleRow* const row = FindRow(tables_, plate.plate);
   std::vector<ProcessRule> rules = tables_.processRules;
   FeedRules(rules, plate.features);
@@ -58,15 +60,6 @@ void PlateCheck::Check(const PlateInput& plate, const std::string& file) {
   Finding finding = row == nullptr ? Finding{"plate-no-row", place} : Finding{"plate-no-text", place};
   finding.text = plate.name;
   if (row != nullptr) finding.words = {std::to_string(row->lineNumber)};
-  reporter_.Report(finding);
-}
-
-void PlateCheck::CheckName(const PlateInput& plate, const std::string& file) {
-  const auto [first, isNew] = lines_.emplace(plate.name, plate.position.line);
-  if (isNew) return;
-  Finding finding{"plate-name-twice", PlaceIn(file, plate.position)};
-  finding.text = plate.name;
-  finding.words = {std::to_string(first->second)};
   reporter_.Report(finding);
 }
 

@@ -4,10 +4,10 @@
 // and what the rules ask for and a file does not have.
 
 #include <istream>
-#include <map>
 #include <string>
 
 #include "plateconfig/messages/reporter.h"
+#include "plateconfig/plates/plate_names.h"
 #include "plateconfig/plates/plate_reader.h"
 #include "plateconfig/plates/plate_vocabulary.h"
 #include "rules/rule_tables.h"
@@ -18,7 +18,7 @@ class PlateCheck {
  public:
   /// All are referred to.
   PlateCheck(const RuleTables& tables, Reporter& reporter)
-      : tables_(tables), vocabulary_(tables.processRules), reporter_(reporter) {}
+      : tables_(tables), vocabulary_(tables.processRules), reporter_(reporter), names_(reporter) {}
 
   /// Reads the plates of a file and reports what is to be told; gives how many there were.
   std::size_t Read(std::istream& in, const std::string& file);
@@ -28,12 +28,11 @@ class PlateCheck {
 
  private:
   void Check(const PlateInput& plate, const std::string& file);
-  void CheckName(const PlateInput& plate, const std::string& file);
 
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
   Reporter& reporter_;
-  std::map<std::string, std::size_t> lines_;  ///< Where each name stands first.
+  PlateNames names_;
 };
 
 }  // namespace plateconfig

@@ -41,7 +41,7 @@ Field<PlateInput> FeatureField(std::string_view name, const Feature& feature) {
   switch (feature.Feeding()) {
     case FedBy::kPresence:
       return FieldOf<bool, PlateInput>(names, Need::kOptional, [meant](PlateInput& input, bool isPresent) {
-        if (isPresent) input.features.present.insert(meant->type);
+        (isPresent ? input.features.present : input.denied).insert(meant->type);
       });
     case FedBy::kByHand:
       return FieldOf<bool, PlateInput>(names, Need::kOptional, [meant](PlateInput& input, bool isOrdered) {

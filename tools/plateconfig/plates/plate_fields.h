@@ -2,6 +2,7 @@
 
 // What a plate consists of, with the names in both forms of input.
 
+#include <set>
 #include <string>
 
 #include "analysis/rules/plate_features.h"
@@ -16,6 +17,7 @@ struct PlateInput {
   Position position;
   Plate plate;
   PlateFeatures features;
+  std::set<ProcessRule::RuleType> denied;  ///< Kinds of holes and slots that it is said not to have.
 };
 
 /// The fields that every plate has, and in CSV those of the vocabulary, which is referred to, not copied.

@@ -21,8 +21,12 @@ std::vector<std::string> CommandLineArguments(int argc, char** argv);
 /// To be called once, before anything is written. From then on std::cout and std::cerr take UTF-8: on Windows
 /// a console shows it as it is meant, whatever the console's code page; a file or a pipe gets exactly the
 /// bytes written, without CR in front of LF. Standard input gives its bytes unchanged too. C streams
-/// (std::printf) are not covered. Elsewhere there is nothing to prepare.
+/// (std::printf) are not covered. Elsewhere a terminal of a GBK locale gets GBK, a question mark for what GBK
+/// lacks; files and pipes get the bytes written.
 void PrepareConsole();
+
+/// True when the name of a locale (zh_CN.GBK) says that its terminals take GBK.
+bool IsGbkLocale(std::string_view name);
 
 /// True when a person sees what is written to `stream` (stdout, stderr): it is a console, no file, pipe or
 /// null device.

@@ -1,9 +1,11 @@
 #include "plateconfig/tables/configuration.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <sstream>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "analysis/text/position_counter.h"
@@ -100,6 +102,11 @@ bool EndsWithSeparator(const std::string& path) {
 
 }  // namespace
 
+std::optional<std::string> RootThatIsSet() {
+  std::optional<std::string> root = ConfigurationRoot();
+  return root && !root->empty() ? root : std::nullopt;
+}
+
 std::optional<TableFile> Configuration::Find(Role role) {
   const std::optional<TableFile> table = NamedTable(role);
   if (table) return ReadableAgain(*table);
@@ -145,12 +152,24 @@ const std::string& Configuration::FolderName() {
   return folder_.shownAs;
 }
 
+std::string Configuration::FolderThatWasRead() const {
+  std::string name = folder_.shownAs;
+  if (name.size() > 1 && EndsWithSeparator(name)) name.pop_back();
+  return name;
+}
+
 bool Configuration::FindFolder() {
   if (!options_.folder.empty()) {
+    std::error_code error;
+    if (std::filesystem::is_regular_file(PathFromUtf8(options_.folder), error)) {
+      reporter_.Error({options_.folder}, Say("this is a file, not a folder; give the folder that it lies in",
+                                             "这是文件，不是文件夹；请给出它所在的文件夹"));
+      return false;
+    }
     folder_ = FromCommandLine(EndsWithSeparator(options_.folder) ? options_.folder : options_.folder + "/");
     return true;
   }
-  const std::optional<std::string> root = ConfigurationRoot();
+  const std::optional<std::string> root = RootThatIsSet();
   if (!root) {
     reporter_.Error({"plateconfig"}, Say("{} is not set, and no configuration folder was given with --config",
                                          "没有设置 {}，也没有用 --config 指定配置文件夹", kRootVariable));

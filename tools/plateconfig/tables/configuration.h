@@ -27,6 +27,9 @@ struct TableFile {
   std::string shownAs;   ///< UTF-8, for messages.
 };
 
+/// The configuration root that the host's variable names; one that is empty counts as unset.
+std::optional<std::string> RootThatIsSet();
+
 /// Lives as long as its tables are read.
 class Configuration {
  public:
@@ -43,6 +46,9 @@ class Configuration {
 
   /// The folder, UTF-8, with a separator at its end; empty when there is none.
   const std::string& FolderName();
+  /// The folder whose manifest was read, UTF-8, without a separator at its end; empty when none was looked
+  /// for.
+  std::string FolderThatWasRead() const;
   /// Whether the manifest could be read.
   bool IsUsable() const { return isUsable_; }
 
