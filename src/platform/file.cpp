@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/file_faults.h"
+
 namespace plateconfig {
 namespace {
 
@@ -31,6 +33,7 @@ void Grow(FileBytes& bytes, std::size_t& capacity) {
 }  // namespace
 
 std::optional<FileBytes> ReadWholeFile(const std::string& path) {
+  if (IsRefused(FileOperation::kOpen)) return std::nullopt;
   const OpenFile file(OpenHostFile(path, "rb"));
   if (!file) return std::nullopt;
   std::setvbuf(file.get(), nullptr, _IONBF, 0);  // One large read needs no second buffer.
@@ -41,6 +44,7 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
   std::size_t capacity = std::max(guess + 1, kFirstCapacity);
   FileBytes bytes{std::make_unique_for_overwrite<char[]>(capacity), 0};
   while (true) {
+    if (IsRefused(FileOperation::kRead)) return std::nullopt;
     const std::size_t room = capacity - bytes.size;
     const std::size_t count = std::fread(bytes.data.get() + bytes.size, 1, room, file.get());
     bytes.size += count;

@@ -1,12 +1,12 @@
 #include "plateconfig/output/output_file.h"
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <system_error>
 
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/system/file_streams.h"
 
 namespace plateconfig {
 namespace {
@@ -20,22 +20,17 @@ fs::path TemporaryNameFor(fs::path path) {
 }
 
 bool WriteBytes(const fs::path& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary);
+  OutputFileStream file(path);
   file << bytes;
-  file.close();
-  return !file.fail();
+  return file.Close();
 }
 
 bool WriteWhole(const fs::path& target, std::string_view bytes) {
   const fs::path temporary = TemporaryNameFor(target);
-  std::error_code error;
-  bool isDone = WriteBytes(temporary, bytes);
-  if (isDone) {
-    fs::rename(temporary, target, error);
-    isDone = !error;
-  }
-  if (!isDone) fs::remove(temporary, error);
-  return isDone;
+  if (WriteBytes(temporary, bytes) && !RenameFile(temporary, target)) return true;
+  std::error_code ignored;  // Nothing is left of it where it could not be made.
+  fs::remove(temporary, ignored);
+  return false;
 }
 
 /// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
