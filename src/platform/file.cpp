@@ -1,6 +1,7 @@
 #include "platform/file.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 #include "platform/file_faults.h"
@@ -12,6 +13,8 @@ struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+std::atomic<std::size_t> failedReads = 0;
 
 constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
 
@@ -30,14 +33,10 @@ void Grow(FileBytes& bytes, std::size_t& capacity) {
   bytes.data = std::move(larger);
 }
 
-}  // namespace
-
-std::optional<FileBytes> ReadWholeFile(const std::string& path) {
+std::optional<FileBytes> ReadOpenFile(std::FILE* file) {
   if (IsRefused(FileOperation::kOpen)) return std::nullopt;
-  const OpenFile file(OpenHostFile(path, "rb"));
-  if (!file) return std::nullopt;
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);  // One large read needs no second buffer.
-  const std::size_t guess = GuessSize(file.get());
+  std::setvbuf(file, nullptr, _IONBF, 0);  // One large read needs no second buffer.
+  const std::size_t guess = GuessSize(file);
   // Some file systems tell an enormous size for a directory; no memory must be asked for that.
   if (guess > kMostFileBytes) return std::nullopt;
   // One byte more than the size, so that the read which meets the end needs no larger buffer.
@@ -46,14 +45,35 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
   while (true) {
     if (IsRefused(FileOperation::kRead)) return std::nullopt;
     const std::size_t room = capacity - bytes.size;
-    const std::size_t count = std::fread(bytes.data.get() + bytes.size, 1, room, file.get());
+    const std::size_t count = std::fread(bytes.data.get() + bytes.size, 1, room, file);
     bytes.size += count;
     if (count < room) break;
     if (bytes.size > kMostFileBytes) return std::nullopt;
     Grow(bytes, capacity);
   }
-  if (std::ferror(file.get()) != 0 || bytes.size > kMostFileBytes) return std::nullopt;
+  if (std::ferror(file) != 0 || bytes.size > kMostFileBytes) return std::nullopt;
   return bytes;
+}
+
+}  // namespace
+
+std::optional<FileBytes> ReadWholeFile(const std::string& path) {
+  const OpenFile file(OpenHostFile(path, "rb"));
+  auto bytes = file ? ReadOpenFile(file.get()) : std::nullopt;
+  if (!bytes && (file || FileExists(path))) CountFailedRead();
+  return bytes;
+}
+
+std::size_t FailedReads() {
+  return failedReads;
+}
+
+void CountFailedRead() {
+  ++failedReads;
+}
+
+void ForgetFailedRead() {
+  --failedReads;
 }
 
 }  // namespace plateconfig

@@ -31,6 +31,13 @@ inline constexpr std::size_t kMostFileBytes = 0xFFFF'FFFE;
 /// The whole file; nothing for a missing file, a directory, a read error or more than `kMostFileBytes`.
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
 
+/// How often in this process a file that is there could not be opened or read. Those who read it stay silent;
+/// who answers for the whole run can tell that something was missed.
+std::size_t FailedReads();
+void CountFailedRead();
+/// For who tells of the last one by itself.
+void ForgetFailedRead();
+
 /// True when something of this name exists, whatever its rights.
 bool FileExists(const std::string& path);
 

@@ -4,6 +4,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
+#include <new>
 
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
@@ -11,11 +12,13 @@
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/usage_message.h"
 #include "platform/diagnostic_file.h"
+#include "platform/file.h"
 
 namespace plateconfig {
 namespace {
 
 constexpr const char* kLanguageOption = "--lang";
+constexpr const char* kProgramName = "plateconfig";
 
 /// The language has to be known before the options are described in it.
 Language ChosenLanguage(const std::vector<std::string>& arguments) {
@@ -113,9 +116,14 @@ bool Parse(CommandLine& line, const std::vector<std::string>& arguments, const S
   return false;
 }
 
-}  // namespace
+/// A table is read when it is looked at and again by the library's class, which stays silent when that fails.
+void ReportFailedRead(Reporter& reporter) {
+  reporter.Error({kProgramName},
+                 Say("a file that is there could not be read, or not a second time; run this again",
+                     "有一个存在的文件无法读取，或第二次读取失败；请再运行一次"));
+}
 
-int RunCompanion(const std::vector<std::string>& arguments, const Streams& streams) {
+int RunCommandLine(const std::vector<std::string>& arguments, const Streams& streams) {
   // Trying out tables must not grow the files in which the drawing tool's own runs are looked up.
   EnableDiagnosticFiles(false);
   SetLanguage(ChosenLanguage(arguments));
@@ -123,12 +131,29 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
   int exitCode = kFine;
   Reporter reporter(streams.err);
   if (Parse(line, arguments, streams, exitCode)) {
+    const std::size_t failedReads = FailedReads();
     Context context{streams, reporter, line.format == "json" ? Format::kJson : Format::kText};
     line.run(context);
+    if (FailedReads() != failedReads && reporter.Result() != kUnusable) ReportFailedRead(reporter);
   }
   streams.out.flush();
-  if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
+  if (!streams.out) reporter.Error({kProgramName}, Say("the output could not be written", "无法写出结果"));
   return std::max<int>(exitCode, reporter.Result());
+}
+
+}  // namespace
+
+int RunCompanion(const std::vector<std::string>& arguments, const Streams& streams) {
+  try {
+    return RunCommandLine(arguments, streams);
+  } catch (const std::bad_alloc&) {
+    // Nothing here asks for memory.
+    streams.err << kProgramName << ": error: "
+                << (CurrentLanguage() == Language::kEnglish ? "there is not enough memory" : "内存不足")
+                << "\n"
+                << std::flush;
+    return kUnusable;
+  }
 }
 
 }  // namespace plateconfig

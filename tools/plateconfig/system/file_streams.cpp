@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/file.h"
 #include "platform/file_faults.h"
 
 namespace plateconfig {
@@ -15,7 +16,10 @@ void RefuseIfAsked(FileOperation operation) {
 }  // namespace
 
 FileBuffer::FileBuffer(const std::filesystem::path& path, std::ios::openmode mode) {
-  if (!IsRefused(FileOperation::kOpen)) open(path, mode | std::ios::binary);
+  open(path, mode | std::ios::binary);
+  if (!is_open() || !IsRefused(FileOperation::kOpen)) return;
+  close();
+  if ((mode & std::ios::in) != 0) CountFailedRead();
 }
 
 FileBuffer::int_type FileBuffer::underflow() {
