@@ -64,9 +64,57 @@ void RaiseRepairable(Code code, const CheckedCell& cell, const IsGood& isGood, c
   raise(finding);
 }
 
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// True for a number with zeros in front of its digits or a point at its end: both come of a digit that is
+/// missing or stands in the wrong place.
+bool IsOddNumber(std::string_view text) {
+  if (text.starts_with('-')) text.remove_prefix(1);
+  return text.ends_with('.') || (text.size() > 1 && text[0] == '0' && IsDigit(text[1]));
+}
+
+/// The same of one of several numbers.
+bool HasOddNumber(std::string_view text, char separator) {
+  while (true) {
+    const std::size_t end = text.find(separator);
+    if (IsOddNumber(text.substr(0, end))) return true;
+    if (end == std::string_view::npos) return false;
+    text.remove_prefix(end + 1);
+  }
+}
+
+/// Whether a value of this unit is never below 0.
+bool IsNeverNegative(Unit unit) {
+  switch (unit) {
+    case Unit::kMm:
+    case Unit::kCount:
+    case Unit::kDecimals:
+    case Unit::kRows:
+    case Unit::kDensity:
+      return true;
+    case Unit::kNone:
+    case Unit::kRatio:
+    case Unit::kLayer:
+    case Unit::kColor:
+    case Unit::kDegrees:
+      break;
+  }
+  return false;
+}
+
+/// Of a number that can be read.
+void CheckLooks(const CheckedCell& cell, double number, const Raise& raise) {
+  const bool isWidth = cell.schema.use == ColumnUse::kPlaceholder;
+  if (IsOddNumber(cell.gbk)) raise(cell.Finds("number-odd"));
+  if (number < 0 && (isWidth || IsNeverNegative(cell.schema.unit))) raise(cell.Finds("number-negative"));
+  if (number == 0 && isWidth) raise(cell.Finds("width-zero"));
+}
+
 void CheckNumber(const CheckedCell& cell, const Raise& raise) {
   const auto isGood = [](const std::string& text) { return StrictNumber(text).has_value(); };
-  if (isGood(cell.gbk)) return;
+  if (const auto number = StrictNumber(cell.gbk)) return CheckLooks(cell, *number, raise);
   RaiseRepairable(IsNumberOutOfRange(cell.gbk) ? Code("cell-out-of-range") : Code("cell-not-number"), cell,
                   isGood, raise);
 }
@@ -97,6 +145,7 @@ bool IsIgnored(const CheckedCell& cell, int number, const Raise& raise) {
 void CheckInteger(const CheckedCell& cell, const Raise& raise) {
   const auto isGood = [](const std::string& text) { return StrictInteger(text).has_value(); };
   if (const auto number = StrictInteger(cell.gbk)) {
+    CheckLooks(cell, *number, raise);
     if (!IsIgnored(cell, *number, raise)) CheckMeaning(cell, *number, raise);
     return;
   }
@@ -112,12 +161,16 @@ void CheckJoinedIntegers(const CheckedCell& cell, const Raise& raise) {
   const auto isGood = [](const std::string& text) { return StrictIntegers(text).has_value(); };
   const auto numbers = StrictIntegers(cell.gbk);
   if (!numbers) return RaiseRepairable("cell-not-integers", cell, isGood, raise);
+  if (HasOddNumber(cell.gbk, '_')) raise(cell.Finds("number-odd"));
   for (const int number : *numbers) CheckMeaning(cell, number, raise);
 }
 
 void CheckJoinedNumbers(const CheckedCell& cell, const Raise& raise) {
   const auto isGood = [](const std::string& text) { return StrictNumbers(text).has_value(); };
-  if (isGood(cell.gbk)) return;
+  if (isGood(cell.gbk)) {
+    if (HasOddNumber(cell.gbk, '_')) raise(cell.Finds("number-odd"));
+    return;
+  }
   Finding finding = cell.Finds("cell-not-numbers");
   const std::string repaired = RepairedNumber(*finding.text);
   if (repaired != *finding.text && isGood(repaired)) finding.fix = repaired;
@@ -131,7 +184,9 @@ bool IsRange(const std::string& text) {
 
 void CheckRange(const CheckedCell& cell, const Raise& raise) {
   if (!IsRange(cell.gbk)) return RaiseRepairable("cell-not-range", cell, IsRange, raise);
+  if (HasOddNumber(cell.gbk, '_')) raise(cell.Finds("number-odd"));
   const auto bounds = *StrictNumbers(cell.gbk);
+  if (bounds.front() == bounds.back()) raise(cell.Finds("range-single"));
   if (bounds.front() <= bounds.back()) return;
   Finding finding = cell.Finds("range-reversed");
   const std::size_t middle = finding.text->find('_');
@@ -163,10 +218,26 @@ bool IsStyle(const std::string& text) {
                      [](const std::string& field) { return StrictNumber(field).has_value(); });
 }
 
+/// A style (UTF-8) with half-width separators and numbers.
+std::string RepairedStyle(std::string text) {
+  constexpr std::string_view kFullWidth = "｜";
+  for (std::size_t at; (at = text.find(kFullWidth)) != std::string::npos;)
+    text.replace(at, kFullWidth.size(), "|");
+  const std::vector<std::string> fields = SplitString(text, "|");
+  std::string repaired = fields.empty() ? std::string() : fields.front();
+  for (std::size_t i = 1; i < fields.size(); ++i) repaired += "|" + RepairedNumber(fields[i]);
+  return repaired;
+}
+
 void CheckStyle(const CheckedCell& cell, const Raise& raise) {
-  if (IsStyle(cell.gbk)) return;
+  if (IsStyle(cell.gbk)) {
+    if (HasOddNumber(cell.gbk, '|')) raise(cell.Finds("number-odd"));
+    return;
+  }
   Finding finding = cell.Finds("cell-not-style");
   finding.usedAs = UsedAs(cell);
+  const std::string repaired = RepairedStyle(*finding.text);
+  if (repaired != *finding.text && IsStyle(repaired)) finding.fix = repaired;
   raise(finding);
 }
 
@@ -185,6 +256,14 @@ void CheckCondition(const CheckedCell& cell, const Raise& raise) {
   raise(finding);
 }
 
+/// Which of two texts was probably meant by one that is shortened or much like it; empty for none.
+std::string MeantOf(const std::string& text, const std::string& wanted, const std::string& opposite) {
+  const std::string folded = FoldedName(text);
+  const bool isShort = !folded.empty() && wanted.starts_with(folded) != opposite.starts_with(folded);
+  if (isShort) return wanted.starts_with(folded) ? wanted : opposite;
+  return MostSimilarName(folded, {wanted, opposite});
+}
+
 /// A cell that has to be exactly one text: everything else means the opposite, in silence.
 void CheckExact(const CheckedCell& cell, const Raise& raise) {
   const ExactTexts& exact = cell.schema.exact;
@@ -193,8 +272,7 @@ void CheckExact(const CheckedCell& cell, const Raise& raise) {
   Finding finding = isMaterial ? cell.Finds("material-unknown") : cell.Finds("wish-unknown");
   finding.words = {GbkToUtf8(exact.wanted), GbkToUtf8(exact.opposite)};
   finding.usedAs = GbkToUtf8(exact.opposite);
-  const std::string meant =
-      MostSimilarName(FoldedName(*finding.text), {finding.words[0].english, finding.words[1].english});
+  const std::string meant = MeantOf(*finding.text, finding.words[0].english, finding.words[1].english);
   if (!meant.empty()) finding.fix = meant;
   raise(finding);
 }
@@ -207,18 +285,28 @@ bool IsFormulaError(std::string_view text) {
 }
 
 /// Nothing is trimmed, and a blank at an end is not seen. A connector may well have blanks on both sides.
+void CheckBlanks(const CheckedCell& cell, const Raise& raise) {
+  Finding finding = cell.Finds("text-blank");
+  const std::string_view text = *finding.text;
+  const std::string_view bare = WithoutOuterBlanks(text);
+  const bool isInFront = bare.data() != text.data();
+  const bool isBehind = bare.data() + bare.size() != text.data() + text.size();
+  if (bare.empty() || isInFront == isBehind) return;
+  finding.fix = std::string(bare);
+  raise(finding);
+}
+
 void CheckText(const CheckedCell& cell, const Raise& raise) {
-  using namespace literals;
   const std::string_view text = cell.gbk;
   if (IsFormulaError(text)) return raise(cell.Finds("text-formula-error"));
+  if (text.find_first_not_of('?') == std::string_view::npos) return raise(cell.Finds("text-lost"));
   if (text.find('?') != std::string_view::npos) raise(cell.Finds("text-question-mark"));
-  const bool isInFront = IsBlank(text.front()) || text.starts_with("\u3000"_gbk);
-  const bool isBehind = IsBlank(text.back()) || text.ends_with("\u3000"_gbk);
-  if (isInFront == isBehind) return;
-  Finding finding = cell.Finds("text-blank");
-  const std::size_t begin = text.find_first_not_of(" \t\r\n");
-  finding.fix = GbkToUtf8(text.substr(begin, text.find_last_not_of(" \t\r\n") + 1 - begin));
-  raise(finding);
+  CheckBlanks(cell, raise);
+}
+
+/// The texts of a list may well have to be numbers: their unit says so.
+void CheckListedText(const CheckedCell& cell, const Raise& raise) {
+  cell.schema.unit == Unit::kNone ? CheckText(cell, raise) : CheckNumber(cell, raise);
 }
 
 void CheckFilled(const CheckedCell& cell, const Raise& raise) {
@@ -233,8 +321,9 @@ void CheckFilled(const CheckedCell& cell, const Raise& raise) {
       return CheckInteger(cell, raise);
     case CellForm::kText:
     case CellForm::kTextOrAbsent:
-    case CellForm::kTexts:
       return CheckText(cell, raise);
+    case CellForm::kTexts:
+      return CheckListedText(cell, raise);
     case CellForm::kStyle:
       return CheckStyle(cell, raise);
     case CellForm::kFlagYesIfUpperY:
@@ -285,6 +374,7 @@ class CellCheck {
         CheckColumn(column, *at);
       }
     }
+    if (unstated_.size() == 1 && stated_ >= kManySettings) raise_(unstated_.front());
   }
 
  private:
@@ -324,8 +414,19 @@ class CellCheck {
           cell.schema.use == ColumnUse::kValues || cell.schema.use == ColumnUse::kPlaceholder;
       if (isValue) CheckFilled(cell, raise_);
     } else if (!hasManyRows) {
-      CheckEmptyFirst(cell, raise_);
+      CheckEmptySetting(cell);
     }
+    if (!hasManyRows && !cell.gbk.empty()) ++stated_;
+  }
+
+  void CheckEmptySetting(const CheckedCell& cell) {
+    bool isTold = false;
+    CheckEmptyFirst(cell, [&](Finding finding) {
+      isTold = true;
+      raise_(std::move(finding));
+    });
+    const bool isChosen = cell.schema.use == ColumnUse::kPlaceholder;
+    if (!isTold && !isChosen) unstated_.push_back(cell.Finds("setting-empty"));
   }
 
   /// A single setting stands in the first data row; what stands below is not read.
@@ -336,9 +437,13 @@ class CellCheck {
     }
   }
 
+  static constexpr std::size_t kManySettings = 4;
+
   const TableText& table_;
   const TableSchema& schema_;
   const Raise& raise_;
+  std::size_t stated_ = 0;         ///< Single settings with a value.
+  std::vector<Finding> unstated_;  ///< Those without one of which nothing else is said.
 };
 
 }  // namespace

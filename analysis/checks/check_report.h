@@ -28,6 +28,7 @@ struct CheckReport {
   std::vector<Word> incomplete;      ///< What was not looked at, and why.
   /// What the evaluation did not confirm: a mistake of the analysis. Such findings are not given.
   std::vector<Unconfirmed> unconfirmed;
+  std::size_t accepted = 0;  ///< Findings that somebody has accepted, and that are not listed therefore.
   /// In the order of the roles, then by line (those of a whole file first), column and code.
   std::vector<Finding> findings;
 };

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "analysis/text/folded_name.h"
@@ -18,6 +21,108 @@ std::string Listed(const std::vector<std::string>& names) {
   std::string text;
   for (std::size_t i = 0; i < std::min(kMost, names.size()); ++i) text += (i == 0 ? "" : ", ") + names[i];
   return names.size() > kMost ? text + " …" : text;
+}
+
+bool HasCells(const TableText& table, std::size_t column) {
+  for (std::size_t row = 1; row <= table.RowCount(); ++row) {
+    if (!table.Cells().RawCell(row, column).empty()) return true;
+  }
+  return false;
+}
+
+Finding HeaderFinding(Code code, const TableText& table, std::size_t column) {
+  Finding finding{code, table.PlaceOf(0, column)};
+  finding.cell = CellName(column, 1);
+  finding.text = table.ColumnName(column);
+  return finding;
+}
+
+/// The length of the character that begins here, which is a blank or a line break; 0 for any other.
+std::size_t BlankAt(std::string_view utf8, std::size_t at) {
+  constexpr std::string_view kBlanks[] = {" ", "\t", "\r", "\n", "\u00A0", "\u3000"};
+  const auto found = std::find_if(std::begin(kBlanks), std::end(kBlanks),
+                                  [&](std::string_view blank) { return utf8.substr(at).starts_with(blank); });
+  return found == std::end(kBlanks) ? 0 : found->size();
+}
+
+/// The name without its blanks, except the single ones between two words of letters.
+std::string WithoutBlanks(std::string_view utf8) {
+  const auto isLetter = [&](std::size_t at) { return at < utf8.size() && utf8[at] > ' '; };
+  std::string name;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const std::size_t blank = BlankAt(utf8, at);
+    const bool separatesWords = utf8[at] == ' ' && at > 0 && isLetter(at - 1) && isLetter(at + 1);
+    if (blank == 0 || separatesWords) name += utf8.substr(at, std::max<std::size_t>(blank, 1));
+    at += std::max<std::size_t>(blank, 1);
+  }
+  return name;
+}
+
+/// How many cells the row has up to its last filled one.
+std::size_t FilledCells(const TableText& table, std::size_t row) {
+  std::size_t count = table.Cells().CellCount(row);
+  while (count > 0 && table.Cells().RawCell(row, count - 1).empty()) --count;
+  return count;
+}
+
+/// Of cells that stand behind the last column; once where most rows have some, for then it is the header that
+/// is short.
+void CheckLongRows(const TableText& table, const Raise& raise) {
+  std::vector<std::size_t> rows;
+  for (std::size_t row = 1; row <= table.RowCount(); ++row) {
+    if (FilledCells(table, row) > table.ColumnCount()) rows.push_back(row);
+  }
+  const bool isHeaderShort = rows.size() * 2 > table.RowCount();
+  if (isHeaderShort) rows.resize(1);
+  for (const std::size_t row : rows) {
+    const std::size_t column = table.ColumnCount();
+    Finding finding{"row-longer", table.PlaceOf(row, column)};
+    finding.cell = CellName(column, row + 1);
+    finding.text = table.Text(row, column);
+    finding.words = {std::to_string(row + 1), std::to_string(FilledCells(table, row)),
+                     std::to_string(column)};
+    finding.members = {{"row", static_cast<int>(row + 1)}};
+    if (isHeaderShort) finding.members.emplace_back("otherRow", 1);
+    raise(finding);
+  }
+}
+
+/// Of the first blank row above filled ones. Rule tables have them to part one group from another, and no row
+/// of theirs counts by its place.
+void CheckBlankRows(const TableText& table, const Raise& raise) {
+  std::size_t blank = 0;
+  for (std::size_t row = 1; row <= table.RowCount(); ++row) {
+    const bool isBlank = FilledCells(table, row) == 0;
+    if (isBlank && blank == 0) blank = row;
+    if (!isBlank && blank != 0) return raise({"row-blank", table.PlaceOf(blank)});
+  }
+}
+
+/// Of cells below an empty header. Gives the columns that were told.
+std::set<std::size_t> CheckNameless(const TableText& table, const Raise& raise) {
+  std::set<std::size_t> told;
+  for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
+    if (!table.Cells().RawCell(0, column).empty() || !HasCells(table, column)) continue;
+    raise(HeaderFinding("column-nameless", table, column));
+    told.insert(column);
+  }
+  return told;
+}
+
+/// Of names that their keeper chooses: whatever looks for one has to find it.
+void CheckChosenNames(const TableText& table, const Raise& raise) {
+  for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
+    const std::string name = table.ColumnName(column);
+    if (name.empty()) continue;
+    if (table.Cells().FindColumn(table.Cells().Cell(0, column)) != column)
+      raise(HeaderFinding("column-second", table, column));
+    if (name.find('?') != std::string::npos) raise(HeaderFinding("text-question-mark", table, column));
+    if (std::string meant = WithoutBlanks(name); meant != name) {
+      Finding finding = HeaderFinding("column-blank", table, column);
+      finding.fix = std::move(meant);
+      raise(finding);
+    }
+  }
 }
 
 class ColumnCheck {
@@ -45,40 +150,55 @@ class ColumnCheck {
  private:
   /// True for a column that is read or was probably meant to be.
   bool CheckHeader(std::size_t column) {
-    const std::string name = table_.Cells().Cell(0, column);
-    if (!read_.contains(name)) return CheckUnknown(column);
-    if (table_.Cells().FindColumn(name) != column) raise_(HeaderFinding("column-second", column));
+    const std::optional<std::size_t> first = FindRead(column);
+    if (!first) return CheckUnknown(column);
+    if (first != column) raise_(HeaderFinding("column-second", column));
     return true;
+  }
+
+  /// The first column of this one's name, if that is read.
+  std::optional<std::size_t> FindRead(std::size_t column) const {
+    const std::string name = table_.Cells().Cell(0, column);
+    return read_.contains(name) ? table_.Cells().FindColumn(name) : std::nullopt;
   }
 
   bool CheckUnknown(std::size_t column) {
     const std::string name = table_.ColumnName(column);
     const std::string meant = ProbablyMeantName(name, absent_);
     if (!meant.empty()) {
-      Finding finding = HeaderFinding("column-misspelled", column);
-      finding.fix = meant;
-      raise_(finding);
+      meant_.insert(meant);
+      told_.insert(column);
+      // Where the name was probably written wrongly in the process list, it is told there.
+      if (!IsProcess(meant) || OddCharacters(meant) <= OddCharacters(name)) RaiseMisspelled(column, meant);
       return true;
     }
-    if (absent_.empty() || IsRemarkColumn(name) || !HasCells(column)) return false;
+    if (absent_.empty() || IsRemarkColumn(name) || !HasCells(table_, column)) return false;
     Finding finding = HeaderFinding("column-unknown", column);
     finding.words = {Listed(absent_)};
     raise_(finding);
     return false;
   }
 
-  bool HasCells(std::size_t column) const {
-    for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
-      if (!table_.Cells().RawCell(row, column).empty()) return true;
-    }
-    return false;
+  void RaiseMisspelled(std::size_t column, const std::string& meant) {
+    Finding finding = HeaderFinding("column-misspelled", column);
+    finding.fix = meant;
+    raise_(finding);
   }
 
-  /// The absence of a process's column is told where the process is listed.
+  /// True for a name that a cell of the table gives.
+  bool IsProcess(const std::string& name) const {
+    return std::none_of(schema_.columns.begin(), schema_.columns.end(),
+                        [&](const ColumnSchema& column) { return GbkToUtf8(column.column) == name; });
+  }
+
+  /// The absence of a process's column is told where the process is listed, that of a misspelled one at its
+  /// header.
   void CheckPresence(const ColumnSchema& column) {
     if (column.use == ColumnUse::kPlaceholder || table_.Cells().FindColumn(column.column)) return;
     Finding finding{"column-absent", {table_.Name(), 1, 1}};
     finding.columnName = GbkToUtf8(column.column);
+    if (meant_.contains(finding.columnName)) return;
+    finding.kin = "column-absent";
     const std::string value =
         column.whenAbsent.empty() ? std::string() : GbkToUtf8(column.whenAbsent.front());
     finding.words = {value.empty() ? Word("it reads as empty", "取空值")
@@ -94,10 +214,7 @@ class ColumnCheck {
 
   Finding HeaderFinding(Code code, std::size_t column) {
     told_.insert(column);
-    Finding finding{code, table_.PlaceOf(0, column)};
-    finding.cell = CellName(column, 1);
-    finding.text = table_.ColumnName(column);
-    return finding;
+    return plateconfig::HeaderFinding(code, table_, column);
   }
 
   const TableText& table_;
@@ -105,6 +222,7 @@ class ColumnCheck {
   const Raise& raise_;
   std::set<std::string> read_;       ///< GBK
   std::vector<std::string> absent_;  ///< UTF-8; of `read_` those that the table does not have.
+  std::set<std::string> meant_;      ///< UTF-8; absent names that misspelled ones stand for.
   std::set<std::size_t> told_;       ///< Columns with a finding at their header.
 };
 
@@ -136,7 +254,15 @@ std::set<std::size_t> CheckColumns(const TableText& table, const TableSchema& sc
   const bool isAnyColumnRead =
       std::all_of(schema.columns.begin(), schema.columns.end(),
                   [](const auto& column) { return column.use == ColumnUse::kPlaceholder; });
-  return isAnyColumnRead ? std::set<std::size_t>() : ColumnCheck(table, schema, raise).Run();
+  std::set<std::size_t> told = CheckNameless(table, raise);
+  CheckLongRows(table, raise);
+  if (schema.role != Role::kProcessRules) CheckBlankRows(table, raise);
+  if (isAnyColumnRead) {
+    CheckChosenNames(table, raise);
+  } else {
+    told.merge(ColumnCheck(table, schema, raise).Run());
+  }
+  return told;
 }
 
 }  // namespace plateconfig

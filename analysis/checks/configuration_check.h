@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "analysis/checks/check_report.h"
-#include "analysis/checks/given_table.h"
+#include "analysis/checks/table_check.h"
 #include "analysis/rules/gaps.h"
 
 namespace plateconfig {

@@ -111,7 +111,11 @@ void CheckQuotes(const TableText& table, std::size_t row, std::size_t column, co
   const std::string_view raw = table.Cells().RawCell(row, column);
   if (!raw.starts_with('"')) return;
   const std::string text = table.Cells().Cell(row, column);
-  if (text == raw) return raise(QuoteFinding("quote-open", table, row, column));
+  if (text == raw) {
+    Finding finding = QuoteFinding("quote-open", table, row, column);
+    finding.fix = GbkToUtf8(raw.substr(1));
+    return raise(finding);
+  }
   if (const std::size_t lines = SwallowedLines(raw, table.ColumnCount()); lines > 0) {
     Finding finding = QuoteFinding("quote-swallows", table, row, column);
     finding.words = {std::to_string(lines)};

@@ -23,11 +23,12 @@ class IndexCheck {
     if (!index_.exists) return RaiseWhole("index-missing", {kConfigItself});
     if (!index_.isReadable) return RaiseWhole("index-unreadable", {kConfigItself});
     if (!index_.hasRows) return RaiseNoRows();
+    CheckNames();
     CheckRows();
     const auto active = std::count_if(index_.rows.begin(), index_.rows.end(),
                                       [](const IndexRow& row) { return row.isActive; });
-    if (active == 0) RaiseWhole("index-none-active", {kConfigItself});
-    if (active > 1) RaiseWhole("index-many-active", {std::to_string(active)});
+    if (active == 0) RaiseAt("index-none-active", 1, {kConfigItself});
+    if (active > 1) RaiseAt("index-many-active", SecondActiveRow(), {std::to_string(active)});
   }
 
  private:
@@ -37,9 +38,41 @@ class IndexCheck {
     raise_(finding);
   }
 
+  /// At the flag of a data row, counted from 1.
+  void RaiseAt(Code code, std::size_t row, std::vector<Word> words) {
+    const auto flag = given_.table ? given_.table->FindColumn(kIndexFlagColumn) : std::nullopt;
+    if (!flag) return RaiseWhole(code, std::move(words));
+    Finding finding = CellFinding(code, TableText(given_.name, *given_.table), row, *flag);
+    finding.words = std::move(words);
+    raise_(finding);
+  }
+
+  std::size_t SecondActiveRow() const {
+    const auto isActive = [](const IndexRow& row) { return row.isActive; };
+    const auto first = std::find_if(index_.rows.begin(), index_.rows.end(), isActive);
+    const auto second = std::find_if(first + 1, index_.rows.end(), isActive);
+    return static_cast<std::size_t>(second - index_.rows.begin()) + 1;
+  }
+
   void RaiseNoRows() {
-    RaiseWhole("index-no-rows", {GbkToUtf8(kIndexFolderColumn), GbkToUtf8(kIndexFlagColumn), kConfigItself});
-    // That there are no rows is said already.
+    Finding finding{"index-no-rows", {given_.name}};
+    finding.words = {GbkToUtf8(kIndexFolderColumn), GbkToUtf8(kIndexFlagColumn), kConfigItself};
+    finding.columnName = MissingColumn();
+    raise_(finding);
+    CheckNames();
+  }
+
+  /// The name of the column that the table lacks; empty when it has both or neither.
+  std::string MissingColumn() const {
+    if (!given_.table) return {};
+    const bool hasFolder = given_.table->FindColumn(kIndexFolderColumn).has_value();
+    const bool hasFlag = given_.table->FindColumn(kIndexFlagColumn).has_value();
+    if (hasFolder == hasFlag) return {};
+    return GbkToUtf8(hasFolder ? kIndexFlagColumn : kIndexFolderColumn);
+  }
+
+  /// That there are no rows is said already.
+  void CheckNames() {
     CheckHeader(given_, [&](const Finding& finding) {
       if (finding.code != Code("table-no-rows") && finding.code != Code("table-empty")) raise_(finding);
     });
@@ -59,9 +92,17 @@ class IndexCheck {
     const bool isYes = row.flag == "Y" || row.flag == "y";
     const bool isNo = row.flag.empty() || row.flag == "N" || row.flag == "n";
     if (!isYes && !isNo) RaiseFlag(CellFinding("index-flag", table, at, flag));
+    if (row.flag.empty() && !row.folderName.empty() && StatesNo())
+      raise_(CellFinding("index-flag-empty", table, at, flag));
     if (isYes && row.folderName.empty()) raise_(CellFinding("index-folder-empty", table, at, folder));
     if (row.isActive && IsOdd(GbkToUtf8(row.folderName)))
       raise_(CellFinding("index-folder-odd", table, at, folder));
+  }
+
+  /// Whether a row that is not active says so.
+  bool StatesNo() const {
+    return std::any_of(index_.rows.begin(), index_.rows.end(),
+                       [](const IndexRow& row) { return row.flag == "N" || row.flag == "n"; });
   }
 
   void RaiseFlag(Finding finding) {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "analysis/checks/given_table.h"
+#include "analysis/checks/table_check.h"
 #include "analysis/findings/finding.h"
 #include "config/configuration_index.h"
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "analysis/checks/cell_check.h"
@@ -73,9 +74,13 @@ class ParameterCheck {
     if (!pairs_.HasNames()) return;
     std::map<std::string, std::size_t> rows;
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) CheckRow(row, rows);
+    for (const GeneralParameter& parameter : kGeneralParameters) {
+      if (!rows.contains(std::string(parameter.name))) missing_.push_back(GbkToUtf8(parameter.name));
+    }
+    CheckUnknownNames();
     for (const GeneralParameter& parameter : kGeneralParameters) CheckMissing(parameter, rows);
-    CheckUnknownNames(rows);
     CheckBothMaterials(rows);
+    CheckSameColors(rows);
   }
 
  private:
@@ -94,8 +99,12 @@ class ParameterCheck {
     if (!IsKnown(name)) return;
     if (!rows.emplace(name, row).second)
       return raise_(CellFinding("parameter-twice", table_, row, pairs_.NameColumn()));
-    if (pairs_.Value(row).empty())
-      return raise_(CellFinding("parameter-without-value", table_, row, pairs_.NameColumn()));
+    if (pairs_.Value(row).empty()) {
+      Finding finding = CellFinding("parameter-without-value", table_, row,
+                                    pairs_.ValueColumn().value_or(pairs_.NameColumn()));
+      finding.text = GbkToUtf8(name);
+      return raise_(finding);
+    }
     CheckCell(table_, ColumnNamed(columns::kParameterValue), row, *pairs_.ValueColumn(), raise_);
   }
 
@@ -110,16 +119,15 @@ class ParameterCheck {
 
   void CheckMissing(const GeneralParameter& parameter, const std::map<std::string, std::size_t>& rows) {
     const std::string name(parameter.name);
-    if (rows.contains(name)) return;
-    missing_.push_back(GbkToUtf8(name));
-    if (!IsAskedFor(parameter)) return;
+    const bool isTold = meant_.contains(GbkToUtf8(name));  // At the name that was written instead.
+    if (rows.contains(name) || isTold || !IsAskedFor(parameter)) return;
     Finding finding = CellFinding("parameter-missing", table_, 0, pairs_.NameColumn());
     finding.text = GbkToUtf8(name);
     raise_(finding);
   }
 
   /// Other names may be somebody's own, unless they look like one of ours or one of ours is missing.
-  void CheckUnknownNames(const std::map<std::string, std::size_t>&) {
+  void CheckUnknownNames() {
     std::vector<std::string> known;
     for (const GeneralParameter& parameter : kGeneralParameters) known.push_back(GbkToUtf8(parameter.name));
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
@@ -130,6 +138,7 @@ class ParameterCheck {
       if (meant.empty()) continue;
       Finding finding = CellFinding("parameter-unknown", table_, row, pairs_.NameColumn());
       finding.fix = meant;
+      meant_.insert(meant);
       raise_(finding);
     }
   }
@@ -147,11 +156,33 @@ class ParameterCheck {
     }
   }
 
+  static bool IsMaterial(const std::string& name) {
+    return name == kSoftMaterial.name || name == kHardMaterial.name;
+  }
+
+  /// One colour alone may well stand for two things; a whole list that does was copied.
+  void CheckSameColors(const std::map<std::string, std::size_t>& rows) {
+    for (auto a = rows.begin(); a != rows.end(); ++a) {
+      for (auto b = std::next(a); b != rows.end(); ++b) {
+        const std::string colors = pairs_.Value(a->second);
+        if (colors.find('_') == std::string::npos || colors != pairs_.Value(b->second)) continue;
+        if (IsMaterial(a->first) && IsMaterial(b->first)) continue;  // Told for each colour.
+        const auto [upper, lower] = a->second < b->second ? std::pair(a, b) : std::pair(b, a);
+        Finding finding = CellFinding("parameter-same-colors", table_, lower->second, *pairs_.ValueColumn());
+        finding.words = {GbkToUtf8(upper->first)};
+        finding.members = {{"row", static_cast<int>(lower->second + 1)},
+                           {"otherRow", static_cast<int>(upper->second + 1)}};
+        raise_(finding);
+      }
+    }
+  }
+
   const TableText& table_;
   const RuleTables& tables_;
   const Raise& raise_;
   Pairs pairs_;
   std::vector<std::string> missing_;  ///< UTF-8
+  std::set<std::string> meant_;       ///< UTF-8; what unknown names stand for.
 };
 
 /// Whether a condition compares with its parameter.
@@ -216,6 +247,7 @@ class ProcessCheck {
     });
     const std::string similar =
         same != unread.end() ? *same : MostSimilarName(*finding.text, {unread.begin(), unread.end()});
+    if (OddCharacters(similar) > OddCharacters(*finding.text)) return;  // Told at that column's header.
     if (!similar.empty()) finding.fix = similar;
     raise_(finding);
   }

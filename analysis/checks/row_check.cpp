@@ -44,10 +44,24 @@ bool DifferBySlip(const std::u32string& a, const std::u32string& b) {
   return std::equal(left + 1, a.end(), right + 1) || (isSwap && std::equal(left + 2, a.end(), right + 2));
 }
 
+/// True for a text with a letter or a Chinese character.
+bool HasWord(const std::string& utf8) {
+  constexpr char32_t kFirstChinese = 0x3400;
+  constexpr char32_t kLastChinese = 0x9FFF;
+  const std::u32string characters = Characters(utf8);
+  return std::any_of(characters.begin(), characters.end(), [](char32_t c) {
+    return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || (c >= kFirstChinese && c <= kLastChinese);
+  });
+}
+
 /// The texts of one column and how often each stands there.
 class Texts {
  public:
-  void Add(const std::string& utf8) { ++counts_[utf8]; }
+  void Add(const std::string& utf8) {
+    ++counts_[utf8];
+    ++all_;
+    if (HasWord(utf8)) ++words_;
+  }
 
   /// The frequent text that a rare one looks like; empty when there is none.
   std::string LookAlike(const std::string& utf8) const {
@@ -62,10 +76,18 @@ class Texts {
     return {};
   }
 
+  /// True for a text without a word among others that nearly all are words.
+  bool IsOdd(const std::string& utf8) const {
+    constexpr int kManyOf = 8;
+    return !HasWord(utf8) && words_ >= kManyOf * (all_ - words_);
+  }
+
   int CountOf(const std::string& utf8) const { return counts_.at(utf8); }
 
  private:
   std::map<std::string, int> counts_;
+  int all_ = 0;
+  int words_ = 0;
 };
 
 class RowCheck {
@@ -83,7 +105,7 @@ class RowCheck {
     if (!layer_) return;
     FindColumns();
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) CheckLayer(row);
-    for (const ColumnSchema& column : SchemaOf(Role::kProcessRules).columns) CheckEmptyCells(column);
+    CheckEmptyCells();
     for (const std::size_t column : processes_) {
       CheckTexts(column);
       CheckEmptyTexts(column);
@@ -121,9 +143,21 @@ class RowCheck {
   }
 
   /// An empty cell means something; where nearly every other row says it in words it was probably forgotten.
-  void CheckEmptyCells(const ColumnSchema& schema) {
+  /// A row that leaves several of them empty means it: such rows catch what the others leave.
+  void CheckEmptyCells() {
+    std::map<std::size_t, std::vector<const ColumnSchema*>> emptyByRow;
+    for (const ColumnSchema& column : SchemaOf(Role::kProcessRules).columns) {
+      for (const std::size_t row : RareEmptyCells(column)) emptyByRow[row].push_back(&column);
+    }
+    for (const auto& [row, empty] : emptyByRow) {
+      if (empty.size() == 1) RaiseEmpty(*empty.front(), row);
+    }
+  }
+
+  /// The rule rows whose cell is empty where nearly all have one.
+  std::vector<std::size_t> RareEmptyCells(const ColumnSchema& schema) const {
     const auto column = table_.Cells().FindColumn(schema.column);
-    if (!column || schema.decidedBy != columns::kLayer || schema.column == columns::kLayer) return;
+    if (!column || schema.decidedBy != columns::kLayer || schema.column == columns::kLayer) return {};
     std::vector<std::size_t> empty;
     std::size_t rows = 0;
     for (std::size_t row = 1; row <= table_.RowCount(); ++row) {
@@ -132,8 +166,8 @@ class RowCheck {
       if (IsEmpty(row, *column)) empty.push_back(row);
     }
     constexpr std::size_t kFewOf = 8;
-    if (rows < 4 || empty.size() * kFewOf > rows) return;
-    for (const std::size_t row : empty) RaiseEmpty(schema, row, *column);
+    const bool isRare = rows >= 4 && empty.size() * kFewOf <= rows;
+    return isRare ? empty : std::vector<std::size_t>();
   }
 
   /// A row without the text of a process that nearly every other row has.
@@ -150,14 +184,14 @@ class RowCheck {
     for (const std::size_t row : empty) raise_(CellFinding("process-text-empty", table_, row, column));
   }
 
-  void RaiseEmpty(const ColumnSchema& schema, std::size_t row, std::size_t column) {
+  void RaiseEmpty(const ColumnSchema& schema, std::size_t row) {
     const bool isRange = schema.form == CellForm::kRange;
     const bool isMaterial = schema.form == CellForm::kExactSoftParameter;
     Finding finding = CellFinding(isRange      ? Code("range-empty")
                                   : isMaterial ? Code("material-empty")
                                                : Code("wish-empty"),
-                                  table_, row, column);
-    finding.words = {GbkToUtf8(schema.exact.opposite)};
+                                  table_, row, *table_.Cells().FindColumn(schema.column));
+    finding.words = {GbkToUtf8(schema.exact.wanted), GbkToUtf8(schema.exact.opposite)};
     raise_(finding);
   }
 
@@ -174,8 +208,22 @@ class RowCheck {
   void CheckText(const Texts& texts, std::size_t row, std::size_t column) {
     const std::string text = table_.Text(row, column);
     if (FoldedName(text).empty()) return raise_(CellFinding("text-blank", table_, row, column));
+    if (text.starts_with('"') &&
+        table_.Cells().RawCell(row, column).size() == table_.Cells().Cell(row, column).size())
+      return;  // A quote that is not closed is told already.
+    if (texts.IsOdd(text)) return raise_(CellFinding("process-text-odd", table_, row, column));
+    std::vector<Finding> found;
+    CheckCell(table_, ProcessColumn(), row, column,
+              [&](Finding finding) { found.push_back(std::move(finding)); });
+    const bool isWarnedOf = std::any_of(found.begin(), found.end(), [](const Finding& finding) {
+      return finding.code.Row().severity != Severity::kHint;
+    });
     const std::string alike = texts.LookAlike(text);
-    if (alike.empty()) return CheckCell(table_, ProcessColumn(), row, column, raise_);
+    // The text that it looks like says more than any other hint.
+    if (isWarnedOf || alike.empty()) {
+      std::for_each(found.begin(), found.end(), raise_);
+      return;
+    }
     Finding finding = CellFinding("text-look-alike", table_, row, column);
     finding.fix = alike;
     finding.words = {std::to_string(texts.CountOf(alike))};

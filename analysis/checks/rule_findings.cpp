@@ -23,6 +23,13 @@ std::string Listed(const std::vector<int>& rows) {
   return text;
 }
 
+/// Colours as a cell of the table has them.
+std::string ColorsText(const std::vector<int>& colors) {
+  std::string text;
+  for (const int color : colors) text += (text.empty() ? "" : "_") + std::to_string(color);
+  return text;
+}
+
 List Values(const std::vector<int>& numbers) {
   return List(numbers.begin(), numbers.end());
 }
@@ -144,21 +151,34 @@ class RuleFindings {
                        {"group", GroupValue(gap.group)},
                        {"witness", WitnessValue(gap.witness)},
                        {"newRow", NewRowValue(gap.newRow)}};
-    Word plates("", "");
-    for (std::size_t size = 0; size < kSizeCount; ++size) {
-      const std::string range = CoveringRangeCell(gap.box[size]);
-      const Word name = WordsOf(kSizeConditions[size].condition);
-      plates.english += (size == 0 ? "" : ", ") + name.english + " " + range;
-      plates.chinese += (size == 0 ? "" : "，") + name.chinese + " " + range;
-    }
-    const Word group = GroupText(gap.group);
-    finding.words = {Word(plates.english + ", " + group.english, plates.chinese + "，" + group.chinese)};
-    finding.identity = finding.words.front().english;
+    finding.words = {SizesText(gap), GroupText(gap.group), ExampleText(gap.witness)};
+    finding.kin = finding.words[1].english;
+    finding.identity = finding.kin;
+    for (const Interval& side : gap.box) finding.identity += "," + CoveringRangeCell(side);
     raise_(finding);
   }
 
+  /// The sizes in which the gap does not reach from one end of what was searched to the other.
+  static Word SizesText(const Gap& gap) {
+    Word text("", "");
+    for (std::size_t size = 0; size < kSizeCount; ++size) {
+      if (gap.box[size] == gap.searched[size]) continue;
+      const std::string range = CoveringRangeCell(gap.box[size]);
+      const Word name = WordsOf(kSizeConditions[size].condition);
+      text.english += (text.english.empty() ? "" : ", ") + name.english + " " + range;
+      text.chinese += (text.chinese.empty() ? "" : "，") + name.chinese + " " + range;
+    }
+    return text.english.empty() ? Word("any size", "任何尺寸") : text;
+  }
+
+  static Word ExampleText(const Plate& plate) {
+    const std::string sizes = SizesOf(plate);
+    const std::string weight = NumberText(plate.weight);
+    return {sizes + " mm, weight " + weight, sizes + " mm、重量 " + weight};
+  }
+
   static Word GroupText(const GroupName& group) {
-    const std::string colors = Listed(group.colors);
+    const std::string colors = ColorsText(group.colors);
     Word text = group.colors.empty() ? Word("any other body colour", "其他体颜色")
                                      : Word("body colour " + colors, "体颜色 " + colors);
     text.english += group.answers.profile ? ", with profile" : ", without profile";

@@ -6,6 +6,7 @@
 #include "analysis/checks/cell_check.h"
 #include "analysis/checks/column_check.h"
 #include "analysis/checks/file_check.h"
+#include "analysis/checks/list_check.h"
 #include "analysis/checks/process_check.h"
 #include "analysis/checks/row_check.h"
 #include "analysis/schema/table_schema.h"
@@ -63,8 +64,9 @@ RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis
   if (!CheckFile(given, text, raise)) return {};
   const std::set<std::size_t> toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
   CheckCells(text, SchemaOf(given.role), raise);
-  return given.role == Role::kProcessRules ? CheckRules(given, text, analysis, toldHeaders, raise)
-                                           : RuleAnalysisEnd();
+  if (given.role == Role::kProcessRules) return CheckRules(given, text, analysis, toldHeaders, raise);
+  CheckLists(text, SchemaOf(given.role), raise);
+  return {};
 }
 
 void CheckHeader(const GivenTable& given, const Raise& raise) {

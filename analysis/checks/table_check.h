@@ -2,11 +2,29 @@
 
 // Everything that is wrong with one table of a configuration, looked at as the library reads it.
 
-#include "analysis/checks/given_table.h"
+#include <memory>
+#include <string>
+
 #include "analysis/checks/rule_findings.h"
 #include "analysis/findings/finding.h"
+#include "analysis/schema/role.h"
+#include "config/read_config_file.h"
+#include "config/table.h"
 
 namespace plateconfig {
+
+/// A table of a configuration as it was given: what a check looks at. Whoever reads files makes these.
+struct GivenTable {
+  Role role;
+  std::string name;                    ///< The file as the configuration names it, UTF-8.
+  bool exists = true;                  ///< False for a file that is not there.
+  std::shared_ptr<const Table> table;  ///< Null for a file that is missing, or can not be read.
+};
+
+/// The table as the library's classes read it; an empty reader for one that can not be read.
+inline ReadConfigFile ReaderOf(const GivenTable& given) {
+  return given.table ? ReaderOf(given.table) : ReadConfigFile();
+}
 
 /// Raises it, in no particular order. What `analysis` does not want is looked at all the same where it costs
 /// nothing.

@@ -26,8 +26,7 @@ struct CodeRow {
   Severity severity;
   Words message;  ///< What is wrong.
   Words advice;   ///< What to write instead; may be empty.
-  Words page;     ///< What it means for the drawing and how to mend it, for who asks for more; empty where
-                  ///< the message says it all.
+  Words page;     ///< What it means for the drawing and how to mend it, for who asks for more.
   Habit habit = Habit::kOn;
 };
 

@@ -48,6 +48,7 @@ struct Finding {
   std::optional<std::string> fix = {};  ///< What to write instead, as it would stand in the cell, UTF-8.
   std::vector<Word> words = {};         ///< Further pieces of the sentence.
   Object members = {};                  ///< Further members for programs.
+  std::string kin = {};  ///< Shared by those of a code that differ little: people are shown a few of a kin.
   std::string identity = {};  ///< What tells it from others of its code beside column and text; never shown.
 };
 

@@ -64,6 +64,13 @@ std::string Fill(std::string_view text, const Finding& finding, Language languag
   return filled;
 }
 
+/// True for a sentence to which nothing is missing, by what no sentence ends with.
+bool IsWhole(std::string_view sentence) {
+  constexpr std::string_view kOpenEnds[] = {" ", "“", "：", "；", "写", "读取"};
+  return !sentence.empty() && std::none_of(std::begin(kOpenEnds), std::end(kOpenEnds),
+                                           [&](std::string_view end) { return sentence.ends_with(end); });
+}
+
 /// True when the message itself says it.
 bool Says(const Finding& finding, std::string_view place) {
   return finding.code.Row().message.english.find(place) != std::string_view::npos;
@@ -94,6 +101,17 @@ std::string AdviceOf(const Finding& finding, Language language) {
   return Fill(finding.code.Row().advice.In(language), finding, language);
 }
 
+std::string OutlineOf(std::string_view text) {
+  std::string outline;
+  for (std::size_t open; (open = text.find('{')) != std::string_view::npos;) {
+    outline += text.substr(0, open);
+    text.remove_prefix(text.find('}', open) + 1);
+    // What is put on behind a whole sentence, as the case may be, is no part of it.
+    if (!text.empty() || !IsWhole(outline)) outline += "…";
+  }
+  return outline.append(text);
+}
+
 std::string LineOf(const Finding& finding, Language language) {
   constexpr Words kSeparator = {"; ", "；"};
   std::string line = finding.cell.empty() ? std::string() : finding.cell + ": ";
@@ -111,6 +129,18 @@ std::string_view NameOf(Severity severity) {
       return "warning";
     case Severity::kHint:
       return "hint";
+  }
+  return {};
+}
+
+Words WordsOf(Severity severity) {
+  switch (severity) {
+    case Severity::kError:
+      return {"error", "错误"};
+    case Severity::kWarning:
+      return {"warning", "警告"};
+    case Severity::kHint:
+      return {"hint", "提示"};
   }
   return {};
 }

@@ -24,11 +24,17 @@ std::string MessageOf(const Finding& finding, Language language);
 /// What to write instead, one sentence; empty when nothing can be said.
 std::string AdviceOf(const Finding& finding, Language language);
 
+/// A text of codes.h for who reads about a code without having a finding: rows … and … write the same.
+std::string OutlineOf(std::string_view text);
+
 /// All of it on one line, in front of it the cell: C3: "45o" is not a number; write it like 450 or 12.5; it
 /// is read as 45
 std::string LineOf(const Finding& finding, Language language);
 
-/// The same as the text of a severity.
+/// A severity as programs know it.
 std::string_view NameOf(Severity severity);
+
+/// A severity for people.
+Words WordsOf(Severity severity);
 
 }  // namespace plateconfig

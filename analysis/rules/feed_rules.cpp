@@ -5,9 +5,10 @@
 namespace plateconfig {
 namespace {
 
-std::vector<int> ColorsFor(ProcessRule::RuleType type, const PlateFeatures& features) {
+const std::vector<int>& ColorsFor(ProcessRule::RuleType type, const PlateFeatures& features) {
+  static const std::vector<int> kNone;
   const auto colors = features.colors.find(type);
-  return colors == features.colors.end() ? std::vector<int>() : colors->second;
+  return colors == features.colors.end() ? kNone : colors->second;
 }
 
 void FeedRule(ProcessRule& rule, const PlateFeatures& features) {
@@ -19,7 +20,8 @@ void FeedRule(ProcessRule& rule, const PlateFeatures& features) {
     case FedBy::kDiameters:
       return rule.SetValue(features.diameters);
     case FedBy::kCount:
-      // A count that nobody took is not a count of 0: the rule stays as it is, not valid.
+      // A count that nobody took is not a count of 0: the rule is not valid.
+      rule.SetValue(false);
       if (features.holeCount) rule.SetHoleCount(*features.holeCount);
       return;
     case FedBy::kByHand:

@@ -7,7 +7,8 @@
 
 namespace plateconfig {
 
-/// Feeds every rule what is known of the plate, each kind through the call that suits it. This is the example
+/// Feeds every rule what is known of the plate, each kind through the call that suits it; what a rule was fed
+/// before is forgotten, so that one list serves plate after plate. This is the example
 /// of how a host drives the library:
 ///
 ///   ProcessRuleLibrary library(ruleTablePath, settingsPath);

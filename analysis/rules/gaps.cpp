@@ -106,7 +106,7 @@ class GapSearch {
   }
 
   void NoteGap(const PlateGroup& group, const Box& hull, const Box& box) {
-    Gap gap{NameOf(space_, group), WithEndsOf(hull, box), RoundPlate(space_, group, box), {}};
+    Gap gap{NameOf(space_, group), WithEndsOf(hull, box), RoundPlate(space_, group, box), {}, hull};
     if (MatchedRow(*model_.tables, gap.witness)) {
       found_.unconfirmed.push_back({0, gap.witness});
       return;

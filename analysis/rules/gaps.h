@@ -39,6 +39,7 @@ struct Gap {
   Box box;
   Plate witness;
   NewRow newRow;
+  Box searched;  ///< Where gaps of the group were looked for.
 };
 
 /// What is not listed of a group.

@@ -3,6 +3,7 @@
 // A walker that takes down what the keys of a role are and what an object holds for each.
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <string>
 #include <utility>
@@ -38,8 +39,10 @@ class Snapshot {
 
   template <const auto& kKeys, typename Record>
   void WalkRows(const std::vector<Record>& list) {
+    ++records_;
     for (const auto& key : kKeys) {
       columns.push_back(DescribeRowColumn(key, DecidingColumn(kKeys)));
+      columns.back().record = records_;
       Cells& cells = values.emplace_back();
       for (const Record& record : list) cells.push_back(PrintKey(key, record).front());
     }
@@ -62,6 +65,10 @@ class Snapshot {
     ColumnSchema column = DescribeCells(key);
     column.isRowColumn = true;
     column.decidedBy = decidedBy;
+    column.rowRule = key.rowRule;
+    column.accepts = [&key](const std::string& cell) {
+      return std::visit([&](const auto& kind) { return kind.Accepts(cell); }, key.kind);
+    };
     column.taken = [&key](const Cells& cells) {
       Cells taken;
       for (const std::string& cell : cells)
@@ -103,6 +110,8 @@ class Snapshot {
     ReadKey(key, cells, record);
     return PrintKey(key, record);
   }
+
+  std::size_t records_ = 0;
 };
 
 /// What the library's classes hold once they have read the table at the host path `path` as that of a role,

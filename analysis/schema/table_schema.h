@@ -5,6 +5,7 @@
 //
 //   for (const ColumnSchema& column : SchemaOf(Role::kTexts).columns) ...
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ struct ColumnSchema {
   bool isList = false;         ///< One setting whose values run down the rows.
   bool isRowColumn = false;    ///< One field of the records that run down the rows.
   bool emptyIsAbsent = false;  ///< An empty first cell counts as no column.
+  /// Row columns with the same number are fields of one record; 0 for any other column.
+  std::size_t record = 0;
+  RowRule rowRule = RowRule::kNone;  ///< What the column has to say on the rows of its record.
   ColumnUse use = ColumnUse::kValues;
   /// GBK; the column that decides whether a row counts for this one: rows whose cell there is empty do not.
   /// It may be the column itself. Empty when the library looks at every row.
@@ -33,6 +37,8 @@ struct ColumnSchema {
   /// What the library makes of cells (GBK) of this column, as cells that say the same: of a row column one
   /// for each, empty where a cell leaves the field as it starts; of any other column its value.
   std::function<Cells(const Cells&)> taken = {};
+  /// Of a row column whose rule is about its cells: whether a row may hold this one (GBK).
+  std::function<bool(const std::string&)> accepts = {};
 };
 
 struct TableSchema {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "text/utf8_decode.h"
@@ -95,6 +96,7 @@ void AppendUtf8(std::string& text, char32_t c) {
 
 std::string FoldedName(std::string_view utf8) {
   std::string folded;
+  folded.reserve(utf8.size());  // No character becomes longer.
   for (std::size_t at = 0; at < utf8.size();) {
     const Utf8Character character = DecodeUtf8At(utf8, at);
     if (!IsBlank(character.value)) AppendUtf8(folded, Folded(character.value));
@@ -103,11 +105,38 @@ std::string FoldedName(std::string_view utf8) {
   return folded;
 }
 
+std::size_t OddCharacters(std::string_view utf8) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    const char32_t c = character.value;
+    const bool isWideDigit = c >= U'０' && c <= U'９';
+    const bool isWideLetter = (c >= U'Ａ' && c <= U'Ｚ') || (c >= U'ａ' && c <= U'ｚ');
+    if (IsBlank(c) || isWideDigit || isWideLetter) ++count;
+    at += std::max<std::size_t>(character.length, 1);
+  }
+  return count;
+}
+
 std::string FoldedNameWithoutUnit(std::string_view utf8) {
   std::string folded = FoldedName(utf8);
   const std::size_t open = folded.ends_with(')') ? folded.rfind('(') : std::string::npos;
   if (open != std::string::npos && open > 0) folded.erase(open);
   return folded;
+}
+
+std::string_view WithoutOuterBlanks(std::string_view utf8) {
+  constexpr std::string_view kBlanks[] = {" ", "\t", "\r", "\n", "\u3000"};
+  const auto cut = [&](std::string_view blank) {
+    const bool isInFront = utf8.starts_with(blank);
+    const bool isBehind = !isInFront && utf8.ends_with(blank);
+    if (isInFront) utf8.remove_prefix(blank.size());
+    if (isBehind) utf8.remove_suffix(blank.size());
+    return isInFront || isBehind;
+  };
+  while (std::any_of(std::begin(kBlanks), std::end(kBlanks), cut)) {
+  }
+  return utf8;
 }
 
 }  // namespace plateconfig

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,8 +12,14 @@ namespace plateconfig {
 /// no text to be shown.
 std::string FoldedName(std::string_view utf8);
 
+/// How many blanks and full-width letters and digits a text (UTF-8) has: what no name is meant to have.
+std::size_t OddCharacters(std::string_view utf8);
+
 /// The folded name without what stands in brackets at its end, which is mostly a unit: 长度范围(mm) gives
 /// 长度范围.
 std::string FoldedNameWithoutUnit(std::string_view utf8);
+
+/// The text (UTF-8) without the blanks and line breaks in front of it and behind it.
+std::string_view WithoutOuterBlanks(std::string_view utf8);
 
 }  // namespace plateconfig

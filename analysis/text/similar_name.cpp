@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <numeric>
 
 #include "analysis/text/folded_name.h"
@@ -37,9 +38,26 @@ std::size_t EditDistance(const std::u32string& a, const std::u32string& b) {
   return row.back();
 }
 
+/// True when the name has more than twice the characters of every known one, so that it resembles none.
+bool IsTooLong(std::string_view name, const std::vector<std::string_view>& known) {
+  constexpr std::size_t kLongestCharacter = 4;
+  return std::ranges::all_of(known, [&](std::string_view candidate) {
+    return name.size() / kLongestCharacter > 2 * candidate.size() + 1;
+  });
+}
+
+bool IsSlipOf(const std::u32string& name, const std::u32string& meant) {
+  const auto holds = [](const std::u32string& text, const std::u32string& part) {
+    return text.find(part) != std::u32string::npos;
+  };
+  return holds(name, meant) || holds(meant, name) || EditDistance(name, meant) == 1 ||
+         (name.size() == meant.size() && std::is_permutation(name.begin(), name.end(), meant.begin()));
+}
+
 }  // namespace
 
 std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known) {
+  if (IsTooLong(name, known)) return {};  // Taking megabytes apart would need a multiple of their memory.
   const std::u32string wanted = Characters(name);
   std::string best;
   std::size_t bestDistance = wanted.size() / 3 + 1;
@@ -69,6 +87,15 @@ std::string ProbablyMeantName(const std::string& name, const std::vector<std::st
   }
   if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
   return MostSimilarName(name, {known.begin(), known.end()});
+}
+
+std::string SlippedName(std::string_view name, const std::vector<std::string_view>& missing) {
+  const std::u32string wanted = Characters(FoldedNameWithoutUnit(name));
+  std::vector<std::string_view> meant;
+  std::copy_if(missing.begin(), missing.end(), std::back_inserter(meant), [&](std::string_view candidate) {
+    return wanted.size() > 1 && IsSlipOf(wanted, Characters(FoldedName(candidate)));
+  });
+  return meant.size() == 1 ? std::string(meant.front()) : std::string();
 }
 
 }  // namespace plateconfig

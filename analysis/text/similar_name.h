@@ -15,4 +15,8 @@ std::string MostSimilarName(std::string_view name, const std::vector<std::string
 /// Empty when there is none.
 std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known);
 
+/// The one of a few names of which one must have been meant: it lacks a character, has one more or another
+/// one, has them in another order, or one holds the other. Empty when none or several are so.
+std::string SlippedName(std::string_view name, const std::vector<std::string_view>& missing);
+
 }  // namespace plateconfig

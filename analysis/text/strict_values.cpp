@@ -1,5 +1,6 @@
 #include "analysis/text/strict_values.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -27,6 +28,7 @@ bool IsOutOfRange(std::string_view text) {
 template <typename Item>
 std::optional<std::vector<Item>> List(std::string_view text, std::optional<Item> (*parse)(std::string_view)) {
   std::vector<Item> items;
+  if (!text.empty()) items.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), '_')));
   while (!text.empty()) {
     const std::size_t end = text.find('_');
     const auto item = parse(text.substr(0, end));

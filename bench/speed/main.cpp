@@ -1,5 +1,5 @@
 // Prints the table of figures: what the library takes in units of a plain way of doing the same, and what was
-// asked for. With numbers as arguments, those lines only.
+// asked for. With numbers as arguments, those lines only; with `growth`, how the cost grows instead.
 
 #include <algorithm>
 #include <cstdio>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bench/speed/comparison.h"
+#include "bench/speed/growth.h"
 #include "bench/speed/measure.h"
 
 namespace plateconfig::bench {
@@ -58,9 +59,13 @@ void PrintTable(const std::vector<int>& numbers) {
 }  // namespace plateconfig::bench
 
 int main(int argc, char** argv) {
+  plateconfig::bench::PinToOneProcessor();
+  if (argc == 2 && std::string(argv[1]) == "growth") {
+    plateconfig::bench::PrintGrowth();
+    return 0;
+  }
   std::vector<int> numbers;
   for (int i = 1; i < argc; ++i) numbers.push_back(std::atoi(argv[i]));
-  plateconfig::bench::PinToOneProcessor();
   plateconfig::bench::PrintTable(numbers);
   return 0;
 }

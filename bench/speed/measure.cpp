@@ -38,6 +38,12 @@ double Sampler::Sample() {
   return SecondsOf(work_, calls_) / static_cast<double>(calls_);
 }
 
+double MedianOf(Sampler& sampler, int samples) {
+  std::vector<double> seconds;
+  for (int i = 0; i < samples; ++i) seconds.push_back(sampler.Sample());
+  return Median(std::move(seconds));
+}
+
 Medians Compare(Sampler& ours, Sampler& plain, int samples, const std::function<void()>& tidy) {
   std::vector<double> oursSeconds;
   std::vector<double> plainSeconds;

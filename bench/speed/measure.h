@@ -30,6 +30,9 @@ struct Medians {
 /// Takes `samples` of each way in turns; `tidy` runs after each, unmeasured.
 Medians Compare(Sampler& ours, Sampler& plain, int samples, const std::function<void()>& tidy);
 
+/// The middle one of some samples.
+double MedianOf(Sampler& sampler, int samples);
+
 /// Keeps this process on one processor, where the system can.
 void PinToOneProcessor();
 

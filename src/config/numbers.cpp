@@ -65,36 +65,35 @@ std::optional<double> Magnitude(std::string_view text) {
 
 constexpr int kStreamPrecision = 6;
 
-constexpr std::uint64_t kPowersOfFive[] = {1, 5, 25, 125, 625, 3125, 15'625, 78'125, 390'625, 1'953'125};
+constexpr std::int64_t kPowersOfFive[] = {1, 5, 25, 125, 625, 3125, 15'625, 78'125, 390'625, 1'953'125};
 constexpr int kMostExactDecimals = std::size(kPowersOfFive) - 1;
 
-/// Appends a small number that is whole in units of 1/2^decimals, as sizes in tables and scores mostly are.
-/// False for any other. Such a number needs no rounding: 1/2^n is 5^n/10^n, which has n decimals.
-bool AppendExactly(std::string& text, double value, int decimals) {
-  constexpr double kLarge = 1e9;
-  if (decimals > kMostExactDecimals || std::signbit(value) || !(value < kLarge)) return false;
+/// Writes a small number that is whole in units of 1/2^decimals, as sizes in tables and scores mostly are;
+/// null for any other. Such a number needs no rounding: 1/2^n is 5^n/10^n, which has n decimals.
+char* PutExactly(char* to, double value, int decimals) {
+  constexpr double kLarge = 1e9;  // Ten digits before the point, nine behind it.
+  if (decimals > kMostExactDecimals || std::signbit(value) || !(value < kLarge)) return nullptr;
   const double units = value * static_cast<double>(1 << decimals);
-  const auto whole = static_cast<std::uint64_t>(units);
-  if (static_cast<double>(whole) != units) return false;
-  std::array<char, 24> digits;  // Ten before the point, nine behind it.
-  char* const point = std::to_chars(digits.data(), digits.data() + digits.size(), whole >> decimals).ptr;
-  char* const end = decimals == 0 ? point : point + 1 + decimals;
-  if (decimals > 0) *point = '.';
-  std::uint64_t behind = (whole & ((std::uint64_t{1} << decimals) - 1)) * kPowersOfFive[decimals];
+  const auto whole = static_cast<std::int64_t>(units);
+  if (static_cast<double>(whole) != units) return nullptr;
+  char* const point = std::to_chars(to, to + kNumberRoom, whole >> decimals).ptr;
+  if (decimals == 0) return point;
+  *point = '.';
+  char* const end = point + 1 + decimals;
+  std::int64_t behind = (whole & ((std::int64_t{1} << decimals) - 1)) * kPowersOfFive[decimals];
   for (char* digit = end; digit > point + 1; behind /= 10) *--digit = static_cast<char>('0' + behind % 10);
-  text.append(digits.data(), end);
-  return true;
+  return end;
 }
 
-/// Appends a number whose stream formatting is its exact one: no digit is lost and no exponent is needed.
-/// False for any other.
-bool AppendShortStreamNumber(std::string& text, double value) {
-  const int decimals = value < 1e3 ? 3 : 0;  // Six digits at most.
-  if (!(value < 1e6) || !AppendExactly(text, value, decimals)) return false;
-  if (decimals == 0) return true;
-  text.resize(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return true;
+/// Writes a number whose stream formatting is its exact one: no digit is lost and no exponent is needed. Null
+/// for any other.
+char* PutShortStreamNumber(char* to, double value) {
+  if (std::signbit(value) || !(value < 1e6)) return nullptr;  // Six digits at most.
+  const int whole = static_cast<int>(value);
+  if (whole == value) return PutInt(to, whole);
+  char* end = value < 1e3 ? PutExactly(to, value, 3) : nullptr;
+  while (end != nullptr && end[-1] == '0') --end;
+  return end;
 }
 
 }  // namespace
@@ -118,21 +117,25 @@ double ParseDouble(std::string_view text) {
 }
 
 std::string StreamNumber(double value) {
-  std::string text;
-  AppendStreamNumber(text, value);
-  return text;
+  std::array<char, kNumberRoom> text;
+  return {text.data(), PutStreamNumber(text.data(), value)};
 }
 
-void AppendStreamNumber(std::string& text, double value) {
-  if (AppendShortStreamNumber(text, value)) return;
-  std::array<char, 32> number;
-  const auto [end, error] = std::to_chars(number.data(), number.data() + number.size(), value,
-                                          std::chars_format::general, kStreamPrecision);
-  text.append(number.data(), end);
+char* PutStreamNumber(char* to, double value) {
+  if (char* const end = PutShortStreamNumber(to, value)) return end;
+  return std::to_chars(to, to + kNumberRoom, value, std::chars_format::general, kStreamPrecision).ptr;
+}
+
+char* PutInt(char* to, int value) {
+  return std::to_chars(to, to + kNumberRoom, value).ptr;
 }
 
 void AppendFixed(std::string& text, double value, int decimals) {
-  if (AppendExactly(text, value, decimals)) return;
+  std::array<char, kNumberRoom> exact;
+  if (char* const end = PutExactly(exact.data(), value, decimals)) {
+    text.append(exact.data(), end);
+    return;
+  }
   // Sign, point and every digit of the largest double.
   const std::size_t most =
       std::numeric_limits<double>::max_exponent10 + 3 + static_cast<std::size_t>(decimals);
@@ -144,8 +147,8 @@ void AppendFixed(std::string& text, double value, int decimals) {
 }
 
 void AppendInt(std::string& text, int value) {
-  std::array<char, std::numeric_limits<int>::digits10 + 2> digits;
-  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
+  std::array<char, kNumberRoom> digits;
+  text.append(digits.data(), PutInt(digits.data(), value));
 }
 
 }  // namespace plateconfig

@@ -2,6 +2,7 @@
 
 // Numbers as table cells and diagnostic files write them, the same whatever locale the host has set.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -20,8 +21,11 @@ double ParseDouble(std::string_view text);
 /// it.
 std::string StreamNumber(double value);
 
-/// Appends what `StreamNumber` gives.
-void AppendStreamNumber(std::string& text, double value);
+/// Writes what `StreamNumber` gives at `to`, where there is room for `kNumberRoom` characters; where it ends.
+char* PutStreamNumber(char* to, double value);
+/// The same for decimal text.
+char* PutInt(char* to, int value);
+inline constexpr std::size_t kNumberRoom = 32;
 
 /// Appends the number in fixed notation with exactly `decimals` digits behind the point (0 or more), rounded
 /// as printf rounds.

@@ -3,6 +3,7 @@
 // at the same byte for all.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -35,11 +36,13 @@ inline std::string Unquoted(std::string_view raw) {
   if (closing == std::string_view::npos) return std::string(raw);
   std::string text;
   text.reserve(raw.size());
-  for (std::size_t at = 1; at < closing; ++at) {
-    text += raw[at];
-    if (raw[at] == kQuote) ++at;
+  for (std::string_view inside = raw.substr(1, closing - 1); !inside.empty();) {
+    // Up to the first quote of a pair, and behind the pair again.
+    const std::size_t piece = std::min(inside.find(kQuote), inside.size() - 1) + 1;
+    text.append(inside.substr(0, piece));
+    inside.remove_prefix(std::min(inside.size(), piece + (inside[piece - 1] == kQuote ? 1 : 0)));
   }
-  text += raw.substr(closing + 1);
+  text.append(raw.substr(closing + 1));
   return text;
 }
 

@@ -36,19 +36,12 @@ std::vector<std::string> ReadConfigFile::GetColumnNames() const {
 
 std::vector<std::string> ReadConfigFile::GetColumnValue(const std::string& column) const {
   const auto position = table_->FindColumn(column);
-  if (!position) return {};
-  std::vector<std::string> cells(table_->RowCount());
-  for (std::size_t row = 0; row < cells.size(); ++row) cells[row] = table_->Cell(row + 1, *position);
-  return cells;
+  return position ? table_->Column(*position) : std::vector<std::string>();
 }
 
 int ReadConfigFile::GetItemIndex(const std::string& column, const std::string& value) const {
   const auto position = table_->FindColumn(column);
-  if (!position) return -1;
-  for (std::size_t row = 1; row <= table_->RowCount(); ++row) {
-    if (table_->CellEquals(row, *position, value)) return static_cast<int>(row) - 1;
-  }
-  return -1;
+  return position ? static_cast<int>(table_->FindInColumn(*position, value)) - 1 : -1;
 }
 
 std::string ReadConfigFile::GetItemValue(const std::string& column, int row) const {

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "config/places.h"
 #include "platform/file.h"
 
 namespace plateconfig {
@@ -45,11 +46,17 @@ class Table {
   /// row does not have are empty.
   std::string Cell(std::size_t row, std::size_t column) const;
 
+  /// The texts of a column's cells, one per data row.
+  std::vector<std::string> Column(std::size_t column) const;
+
+  /// The first data row, counted from 1, whose cell equals `text`; 0 when there is none.
+  std::size_t FindInColumn(std::size_t column, std::string_view text) const;
+
   /// True when `Cell(row, column)` equals `text`; copies nothing unless the cell is quoted.
   bool CellEquals(std::size_t row, std::size_t column, std::string_view text) const;
 
   /// How many cells the row has in the file; at least one.
-  std::size_t CellCount(std::size_t row) const { return rowBegins_[row + 1] - rowBegins_[row]; }
+  std::size_t CellCount(std::size_t row) const { return std::size_t{rowBegins_[row + 1]} - rowBegins_[row]; }
 
   /// The cell's bytes as the file has them, quotes included; its place in the file is where this view begins
   /// in `Bytes()`.
@@ -59,10 +66,8 @@ class Table {
   std::string_view Bytes() const { return bytes_.View(); }
 
  private:
-  std::size_t LineCount() const { return rowBegins_.empty() ? 0 : rowBegins_.size() - 1; }
+  std::size_t LineCount() const { return rowBegins_.Size() == 0 ? 0 : rowBegins_.Size() - 1; }
   void FindCells();
-  /// Notes the cells that begin behind the separators of the block at `at`; where to look on.
-  std::size_t FindCellsOfBlock(std::size_t at);
   void DropBlankLinesAtTheEnd();
   void HashColumnNames();
   /// The slot that holds the first column of this name, or the empty one where it belongs.
@@ -73,9 +78,9 @@ class Table {
   FileBytes bytes_;
   // Where each cell begins, and one entry behind the last cell: a cell ends before the separator in front of
   // the next one. 32 bits, and no second number for the end, because a large table has millions of cells.
-  std::vector<std::uint32_t> cellBegins_;
+  Places cellBegins_;
   // The first cell of each line, and one entry behind the last line.
-  std::vector<std::uint32_t> rowBegins_;
+  Places rowBegins_;
   // Open addressing over the header cells themselves, of each name the first: a map would copy every name. A
   // power of two long, or empty without columns.
   std::vector<std::uint32_t> columnSlots_;

@@ -1,33 +1,14 @@
 #include "config/text_helpers.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "config/numbers.h"
-#include "text/gbk_scan.h"
-
-namespace {
-
-/// The next place of `separator` at a character boundary of `text`, from the boundary `from` on; npos when
-/// there is none.
-std::size_t FindSeparator(const std::string& text, const std::string& separator, std::size_t from) {
-  for (std::size_t at = from; at < text.size(); at += plateconfig::GbkCharLength(text, at)) {
-    if (text.compare(at, separator.size(), separator) == 0) return at;
-  }
-  return std::string::npos;
-}
-
-}  // namespace
+#include "config/pieces.h"
 
 std::vector<std::string> SplitString(const std::string& text, const std::string& separator) {
-  if (text.empty()) return {};
-  if (separator.empty()) return {text};
   std::vector<std::string> pieces;
-  std::size_t begin = 0;
-  for (std::size_t at; (at = FindSeparator(text, separator, begin)) != std::string::npos;) {
-    pieces.push_back(text.substr(begin, at - begin));
-    begin = at + separator.size();
-  }
-  pieces.push_back(text.substr(begin));
+  plateconfig::ForEachPiece(text, separator, [&](std::string_view piece) { pieces.emplace_back(piece); });
   return pieces;
 }
 

@@ -5,11 +5,13 @@
 #include <cmath>
 
 #include "config/numbers.h"
+#include "config/pieces.h"
 #include "config/text_helpers.h"
 
 namespace plateconfig {
 namespace {
 
+constexpr std::string_view kJoint = "_";
 constexpr int kFirstLayer = 1;
 constexpr int kLastLayer = 256;
 
@@ -87,8 +89,10 @@ Cells IntCells(std::span<const int> numbers) {
   return cells;
 }
 
-std::vector<int> SplitInts(const std::string& cell) {
-  return VectorToInt(SplitString(cell, "_"));
+std::vector<int> SplitInts(std::string_view cell) {
+  std::vector<int> numbers;
+  ForEachPiece(cell, kJoint, [&](std::string_view piece) { numbers.push_back(ParseInt(piece)); });
+  return numbers;
 }
 
 std::string JoinInts(const std::vector<int>& numbers) {
@@ -97,10 +101,15 @@ std::string JoinInts(const std::vector<int>& numbers) {
   return text;
 }
 
-std::optional<std::pair<double, double>> SplitRange(const std::string& cell) {
-  const std::vector<double> bounds = VectorToDouble(SplitString(cell, "_"));
-  if (bounds.size() != 2) return std::nullopt;
-  return std::pair(bounds[0], bounds[1]);
+std::optional<std::pair<double, double>> SplitRange(std::string_view cell) {
+  std::array<std::string_view, 2> bounds;
+  std::size_t count = 0;
+  ForEachPiece(cell, kJoint, [&](std::string_view piece) {
+    if (count < bounds.size()) bounds[count] = piece;
+    ++count;
+  });
+  if (count != bounds.size()) return std::nullopt;
+  return std::pair(ParseDouble(bounds[0]), ParseDouble(bounds[1]));
 }
 
 std::string RangeText(double minimum, double maximum) {

@@ -47,11 +47,11 @@ CellForm FormOf(TakenCells taken);
 Cells IntCells(std::span<const int> numbers);
 
 /// Lists inside one cell, joined by "_".
-std::vector<int> SplitInts(const std::string& cell);
+std::vector<int> SplitInts(std::string_view cell);
 std::string JoinInts(const std::vector<int>& numbers);
 
 /// The bounds of a cell min_max; nothing unless it has exactly two pieces.
-std::optional<std::pair<double, double>> SplitRange(const std::string& cell);
+std::optional<std::pair<double, double>> SplitRange(std::string_view cell);
 std::string RangeText(double minimum, double maximum);
 
 }  // namespace plateconfig

@@ -180,8 +180,9 @@ class Loader {
     return std::visit([&](const auto& kind) { return kind.Accepts(CellAt(column, row)); }, key.kind);
   }
 
-  static std::string CellAt(const Cells& column, std::size_t row) {
-    return row < column.size() ? column[row] : std::string();
+  static const std::string& CellAt(const Cells& column, std::size_t row) {
+    static const std::string missing;
+    return row < column.size() ? column[row] : missing;
   }
 
   const ReadConfigFile& table_;

@@ -5,62 +5,71 @@
 #include <cstring>
 
 #include "platform/file_faults.h"
+#include "platform/large_memory.h"
 
 namespace plateconfig {
 namespace {
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+class OpenedFile {
+ public:
+  explicit OpenedFile(const std::string& path) : descriptor_(OpenForReading(path)) {}
+  ~OpenedFile() {
+    if (IsOpen()) CloseDescriptor(descriptor_);
+  }
+  OpenedFile(const OpenedFile&) = delete;
+  OpenedFile& operator=(const OpenedFile&) = delete;
+
+  bool IsOpen() const { return descriptor_ >= 0; }
+  std::size_t Size() const { return SizeOf(descriptor_); }
+  long long Read(char* bytes, std::size_t room) const {
+    return IsRefused(FileOperation::kRead) ? -1 : ReadSome(descriptor_, bytes, room);
+  }
+
+ private:
+  int descriptor_;
 };
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
 std::atomic<std::size_t> failedReads = 0;
 
 constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
 
-/// The size that the file system tells, as a first guess: files such as pipes do not know theirs.
-std::size_t GuessSize(std::FILE* file) {
-  if (std::fseek(file, 0, SEEK_END) != 0) return 0;
-  const long size = std::ftell(file);
-  std::rewind(file);
-  return size > 0 ? static_cast<std::size_t>(size) : 0;
+std::unique_ptr<char[]> MemoryFor(std::size_t capacity) {
+  auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
+  PreferLargePages(bytes.get(), capacity);
+  return bytes;
 }
 
 void Grow(FileBytes& bytes, std::size_t& capacity) {
   capacity *= 2;
-  auto larger = std::make_unique_for_overwrite<char[]>(capacity);
+  auto larger = MemoryFor(capacity);
   std::memcpy(larger.get(), bytes.data.get(), bytes.size);
   bytes.data = std::move(larger);
 }
 
-std::optional<FileBytes> ReadOpenFile(std::FILE* file) {
-  if (IsRefused(FileOperation::kOpen)) return std::nullopt;
-  std::setvbuf(file, nullptr, _IONBF, 0);  // One large read needs no second buffer.
-  const std::size_t guess = GuessSize(file);
-  // Some file systems tell an enormous size for a directory; no memory must be asked for that.
+std::optional<FileBytes> ReadOpened(const OpenedFile& file) {
+  if (!file.IsOpen() || IsRefused(FileOperation::kOpen)) return std::nullopt;
+  // A first guess: files such as pipes do not know their size.
+  const std::size_t guess = file.Size();
   if (guess > kMostFileBytes) return std::nullopt;
   // One byte more than the size, so that the read which meets the end needs no larger buffer.
   std::size_t capacity = std::max(guess + 1, kFirstCapacity);
-  FileBytes bytes{std::make_unique_for_overwrite<char[]>(capacity), 0};
+  FileBytes bytes{MemoryFor(capacity), 0};
   while (true) {
-    if (IsRefused(FileOperation::kRead)) return std::nullopt;
-    const std::size_t room = capacity - bytes.size;
-    const std::size_t count = std::fread(bytes.data.get() + bytes.size, 1, room, file);
-    bytes.size += count;
-    if (count < room) break;
+    const long long count = file.Read(bytes.data.get() + bytes.size, capacity - bytes.size);
+    if (count < 0) return std::nullopt;
+    if (count == 0) return bytes;
+    bytes.size += static_cast<std::size_t>(count);
     if (bytes.size > kMostFileBytes) return std::nullopt;
-    Grow(bytes, capacity);
+    if (bytes.size == capacity) Grow(bytes, capacity);
   }
-  if (std::ferror(file) != 0 || bytes.size > kMostFileBytes) return std::nullopt;
-  return bytes;
 }
 
 }  // namespace
 
 std::optional<FileBytes> ReadWholeFile(const std::string& path) {
-  const OpenFile file(OpenHostFile(path, "rb"));
-  auto bytes = file ? ReadOpenFile(file.get()) : std::nullopt;
-  if (!bytes && (file || FileExists(path))) CountFailedRead();
+  const OpenedFile file(path);
+  std::optional<FileBytes> bytes = ReadOpened(file);
+  if (!bytes && (file.IsOpen() || FileExists(path))) CountFailedRead();
   return bytes;
 }
 

@@ -6,7 +6,6 @@
 // names that the code page lacks.
 
 #include <cstddef>
-#include <cstdio>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,14 +21,18 @@ struct FileBytes {
   std::string_view View() const { return {data.get(), size}; }
 };
 
-/// Opens a file with the modes of `std::fopen`; null when it can not be opened.
-std::FILE* OpenHostFile(const std::string& path, const char* mode);
-
 /// The largest file that is read: its size, and one more, still fit into 32 bits.
 inline constexpr std::size_t kMostFileBytes = 0xFFFF'FFFE;
 
 /// The whole file; nothing for a missing file, a directory, a read error or more than `kMostFileBytes`.
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
+
+/// A host file for `ReadWholeFile` alone. Opened: its descriptor, negative when it can not be opened. Its
+/// size as far as the system tells it. Read: how many bytes were, negative after an error.
+int OpenForReading(const std::string& path);
+std::size_t SizeOf(int descriptor);
+long long ReadSome(int descriptor, char* bytes, std::size_t room);
+void CloseDescriptor(int descriptor);
 
 /// How often in this process a file that is there could not be opened or read. Those who read it stay silent;
 /// who answers for the whole run can tell that something was missed.

@@ -1,3 +1,5 @@
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -38,6 +40,7 @@ std::string Utf8WithForwardSlashes(std::string path) {
 
 std::string WithForwardSlashes(std::string_view path) {
   std::string result(path);
+  if (path.find('\\') == std::string_view::npos) return result;
   for (std::size_t at = 0; at < result.size(); at += GbkCharLength(result, at)) {
     if (result[at] == '\\') result[at] = '/';
   }
@@ -57,8 +60,26 @@ std::string PosixPath(const std::string& path) {
   return exact;
 }
 
-std::FILE* OpenHostFile(const std::string& path, const char* mode) {
-  return std::fopen(PosixPath(path).c_str(), mode);
+int OpenForReading(const std::string& path) {
+  constexpr int kHow = O_RDONLY | O_CLOEXEC;
+  // Most paths lead to a file of exactly these bytes; the other spellings are tried when that fails.
+  const int exact = open(WithForwardSlashes(path).c_str(), kHow);
+  return exact >= 0 ? exact : open(PosixPath(path).c_str(), kHow);
+}
+
+std::size_t SizeOf(int descriptor) {
+  struct stat status {};
+  // Some file systems tell an enormous size for a directory; no memory must be asked for that.
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return 0;
+  return static_cast<std::size_t>(status.st_size);
+}
+
+long long ReadSome(int descriptor, char* bytes, std::size_t room) {
+  return read(descriptor, bytes, room);
+}
+
+void CloseDescriptor(int descriptor) {
+  close(descriptor);
 }
 
 bool FileExists(const std::string& path) {

@@ -32,35 +32,24 @@ bool HaveCommonColor(const std::vector<int>& a, const std::vector<int>& b) {
 }
 
 /// One plate in front of the rows of a table; the one place that knows when a row fits. What is the same for
-/// every row is found once.
+/// every row is found once. The test is compiled for a sink that listens and for none, so that a silent one
+/// asks nobody at each condition.
 class RowTest {
  public:
   RowTest(const RuleTables& tables, const Plate& plate, EvaluationSink& sink)
       : tables_(tables),
         plate_(plate),
         sink_(sink.Listens() ? &sink : nullptr),
-        everyCondition_(sink_ != nullptr && sink_->WantsEveryCondition()) {
+        everyCondition_(sink_ != nullptr && sink_->WantsEveryCondition()),
+        softFits_(IsAccepted(Material::kSoft)),
+        hardFits_(IsAccepted(Material::kHard)) {
     for (std::size_t i = 0; i < std::size(kFaceConditions); ++i)
       present_[i] = HaveCommonColor(plate.faceColors, tables.*kFaceConditions[i].colors);
     if (sink_ != nullptr) ReportColors();
   }
 
-  bool Fits(const RuleRow& row) const {
-    if (sink_ != nullptr) sink_->OnRow(row);
-    bool fits = true;
-    const auto isRefused = [&](bool passed) {
-      fits = fits && passed;
-      return !fits && !everyCondition_;
-    };
-    for (const SizeCondition& size : kSizeConditions) {
-      if (isRefused(TestSize(size, row))) return false;
-    }
-    if (isRefused(TestMaterial(row))) return false;
-    for (std::size_t i = 0; i < std::size(kFaceConditions); ++i) {
-      if (isRefused(TestFaces(kFaceConditions[i], present_[i], row))) return false;
-    }
-    return fits;
-  }
+  /// The first row that fits; null when there is none.
+  const RuleRow* FindFirst() const { return sink_ != nullptr ? FindFirst<true>() : FindFirst<false>(); }
 
   void ReportMatch(const RuleRow& row, const std::string& text) const {
     if (sink_ != nullptr) sink_->OnMatch(row, text);
@@ -76,23 +65,55 @@ class RowTest {
                     hasRows ? tables_.wireCuttingColors : none);
   }
 
+  bool IsAccepted(Material material) const {
+    const std::vector<int>& accepted = tables_.MaterialColors(material);
+    return accepted.empty() || std::find(accepted.begin(), accepted.end(), plate_.color) != accepted.end();
+  }
+
+  template <bool listens>
+  const RuleRow* FindFirst() const {
+    for (const RuleRow& row : tables_.ruleRows) {
+      if (Fits<listens>(row)) return &row;
+    }
+    return nullptr;
+  }
+
+  template <bool listens>
+  bool Fits(const RuleRow& row) const {
+    if constexpr (listens) sink_->OnRow(row);
+    bool fits = true;
+    const auto isRefused = [&](bool passed) {
+      fits = fits && passed;
+      return !fits && !(listens && everyCondition_);
+    };
+    for (const SizeCondition& size : kSizeConditions) {
+      if (isRefused(TestSize<listens>(size, row))) return false;
+    }
+    if (isRefused(TestMaterial<listens>(row))) return false;
+    for (std::size_t i = 0; i < std::size(kFaceConditions); ++i) {
+      if (isRefused(TestFaces<listens>(kFaceConditions[i], present_[i], row))) return false;
+    }
+    return fits;
+  }
+
+  template <bool listens>
   bool TestSize(const SizeCondition& size, const RuleRow& row) const {
     const bool passed = (row.*size.range).Accepts(plate_.*size.value);
-    if (sink_ != nullptr) sink_->OnSize(size, row, plate_, passed);
+    if constexpr (listens) sink_->OnSize(size, row, plate_, passed);
     return passed;
   }
 
+  template <bool listens>
   bool TestMaterial(const RuleRow& row) const {
-    const std::vector<int>& accepted = tables_.MaterialColors(row.material);
-    const bool passed =
-        accepted.empty() || std::find(accepted.begin(), accepted.end(), plate_.color) != accepted.end();
-    if (sink_ != nullptr) sink_->OnMaterial(accepted, plate_, passed);
+    const bool passed = row.material == Material::kSoft ? softFits_ : hardFits_;
+    if constexpr (listens) sink_->OnMaterial(tables_.MaterialColors(row.material), plate_, passed);
     return passed;
   }
 
+  template <bool listens>
   bool TestFaces(const FaceCondition& faces, bool present, const RuleRow& row) const {
     const bool wanted = row.*faces.wanted;
-    if (sink_ != nullptr) sink_->OnFaces(faces.condition, tables_.*faces.colors, wanted, present);
+    if constexpr (listens) sink_->OnFaces(faces.condition, tables_.*faces.colors, wanted, present);
     return wanted == present;
   }
 
@@ -100,14 +121,10 @@ class RowTest {
   const Plate& plate_;
   EvaluationSink* const sink_;  // Null when nobody listens.
   const bool everyCondition_;
+  const bool softFits_;  // Whether the plate's colour is one of the material's.
+  const bool hardFits_;
   std::array<bool, std::size(kFaceConditions)> present_{};  // Whether a face has one of the colours.
 };
-
-const RuleRow* FirstRow(const RuleTables& tables, const RowTest& test) {
-  const auto row = std::find_if(tables.ruleRows.begin(), tables.ruleRows.end(),
-                                [&](const RuleRow& candidate) { return test.Fits(candidate); });
-  return row == tables.ruleRows.end() ? nullptr : &*row;
-}
 
 std::string AssembleText(const RuleTables& tables, const RuleRow& row,
                          const std::vector<ProcessRule>& rules) {
@@ -127,13 +144,13 @@ std::string AssembleText(const RuleTables& tables, const RuleRow& row,
 
 const RuleRow* FindRow(const RuleTables& tables, const Plate& plate) {
   SilentSink nobody;
-  return FirstRow(tables, RowTest(tables, plate, nobody));
+  return RowTest(tables, plate, nobody).FindFirst();
 }
 
 std::string EvaluatePlate(const RuleTables& tables, const Plate& plate, const std::vector<ProcessRule>& rules,
                           EvaluationSink& sink) {
   const RowTest test(tables, plate, sink);
-  const RuleRow* const row = FirstRow(tables, test);
+  const RuleRow* const row = test.FindFirst();
   if (row == nullptr) return {};
   std::string text = AssembleText(tables, *row, rules);
   test.ReportMatch(*row, text);

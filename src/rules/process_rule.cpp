@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "config/numbers.h"
+#include "config/pieces.h"
 #include "config/text_helpers.h"
 #include "platform/diagnostic_file.h"
 
@@ -11,18 +12,26 @@ namespace {
 
 constexpr double kDiameterTolerance = 0.0001;
 
-std::vector<std::string> ParameterList(const std::string& value) {
-  return SplitString(value, "_");
+constexpr const char* kListSeparator = "_";
+
+/// True when `accepts` is for one of the texts of a parameter. A host feeds every rule for every plate, so
+/// nothing is copied here.
+template <typename Accepts>
+bool AnyOfParameter(const std::string& value, const Accepts& accepts) {
+  bool any = false;
+  plateconfig::ForEachPiece(value, kListSeparator,
+                            [&](std::string_view piece) { any = any || accepts(piece); });
+  return any;
 }
 
-void Trace(ProcessRule::RuleType type, const std::string& value, const std::vector<int>& configured) {
+void Trace(ProcessRule::RuleType type, const std::string& value) {
   plateconfig::DiagnosticFile log(plateconfig::Diagnostic::kRules);
   if (!log.IsOpen()) return;
   std::string text = "strRuleValue:" + value + "\neType:" + IntToString(type) + "\n";
   // Kept: only this type shows its values, in one line with nothing between them.
   if (type == ProcessRule::ThroughSpecialSlotColor) {
     text += "vecRuleValues:";
-    for (const int number : configured) text += IntToString(number);
+    for (const int number : VectorToInt(SplitString(value, kListSeparator))) text += IntToString(number);
     text += "\n";
   }
   log.Append(text);
@@ -35,18 +44,21 @@ ProcessRule::ProcessRule(int number, RuleType type, const std::string& name, con
 
 void ProcessRule::SetValue(const std::vector<int>& values) {
   valid_ = false;  // First, so that an exception leaves no rule valid for the plate before.
-  const std::vector<int> configured = VectorToInt(ParameterList(value_));
-  Trace(type_, value_, configured);
-  valid_ =
-      std::find_first_of(values.begin(), values.end(), configured.begin(), configured.end()) != values.end();
+  Trace(type_, value_);
+  if (values.empty()) return;
+  valid_ = AnyOfParameter(value_, [&](std::string_view piece) {
+    return std::find(values.begin(), values.end(), plateconfig::ParseInt(piece)) != values.end();
+  });
 }
 
 void ProcessRule::SetValue(const std::vector<double>& values) {
   valid_ = false;
-  const std::vector<double> configured = VectorToDouble(ParameterList(value_));
-  const auto isNear = [](double a, double b) { return std::fabs(a - b) < kDiameterTolerance; };
-  valid_ = std::find_first_of(values.begin(), values.end(), configured.begin(), configured.end(), isNear) !=
-           values.end();
+  if (values.empty()) return;
+  valid_ = AnyOfParameter(value_, [&](std::string_view piece) {
+    const double configured = plateconfig::ParseDouble(piece);
+    return std::any_of(values.begin(), values.end(),
+                       [&](double value) { return std::fabs(value - configured) < kDiameterTolerance; });
+  });
 }
 
 void ProcessRule::SetValue(bool present) {

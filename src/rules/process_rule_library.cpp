@@ -29,7 +29,9 @@ Plate MeasureBody(BodyInfo& body, double weight) {
 std::vector<int> FaceColors(NXOpen::Body* body) {
   std::vector<int> colors;
   if (body == nullptr) return colors;
-  for (NXOpen::Face* face : body->GetFaces()) colors.push_back(face->Color());
+  const std::vector<NXOpen::Face*> faces = body->GetFaces();
+  colors.reserve(faces.size());
+  for (NXOpen::Face* face : faces) colors.push_back(face->Color());
   std::sort(colors.begin(), colors.end());
   colors.erase(std::unique(colors.begin(), colors.end()), colors.end());
   return colors;

@@ -52,19 +52,20 @@ const Texts& TextsOf(const Texts (&texts)[count], Condition condition) {
 }  // namespace
 
 void TraceSink::Line(std::string_view text) {
-  text_.append(text).push_back('\n');
+  EndLine(Put(text_.Room(text.size() + 1), text));
 }
 
 void TraceSink::Line(std::string_view label, double value) {
-  text_.append(label);
-  AppendStreamNumber(text_, value);
-  text_.push_back('\n');
+  EndLine(PutStreamNumber(Put(text_.Room(label.size() + kNumberRoom + 1), label), value));
 }
 
 void TraceSink::Line(std::string_view label, int value) {
-  text_.append(label);
-  AppendInt(text_, value);
-  text_.push_back('\n');
+  EndLine(PutInt(Put(text_.Room(label.size() + kNumberRoom + 1), label), value));
+}
+
+void TraceSink::EndLine(char* end) {
+  *end = '\n';
+  text_.KeepUpTo(end + 1);
 }
 
 void TraceSink::RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "config/text_buffer.h"
 #include "platform/diagnostic_file.h"
 #include "rules/evaluation.h"
 
@@ -17,7 +18,7 @@ namespace plateconfig {
 class TraceSink : public EvaluationSink {
  public:
   explicit TraceSink(DiagnosticFile& file) : file_(file) {}
-  ~TraceSink() override { file_.Append(text_); }
+  ~TraceSink() override { file_.Append(text_.View()); }
   TraceSink(const TraceSink&) = delete;
   TraceSink& operator=(const TraceSink&) = delete;
 
@@ -34,11 +35,12 @@ class TraceSink : public EvaluationSink {
   void Line(std::string_view text);
   void Line(std::string_view label, double value);
   void Line(std::string_view label, int value);
+  void EndLine(char* end);
   void RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range);
   void ColorBlock(std::string_view title, std::string_view label, const std::vector<int>& colors);
 
   DiagnosticFile& file_;
-  std::string text_;
+  TextBuffer text_;
 };
 
 /// The sink of one evaluation: the trace when `file` is open, else one that ignores every step, so that

@@ -8,7 +8,8 @@
 namespace plateconfig {
 namespace {
 
-constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";  // U+FFFD
+constexpr char16_t kReplacementCharacter = 0xFFFD;
+constexpr char16_t kStop = 0;  // no replacement: the conversion stops
 constexpr std::string_view kQuestionMark = "?";
 constexpr std::string_view kRefuse;  // no replacement: the conversion stops
 
@@ -51,33 +52,58 @@ class GbkDecoder {
   std::array<char16_t, 0x10000 - kFirstCode> characters_{};
 };
 
-void AppendUtf8(char16_t character, std::string& out) {
-  if (character < 0x800) {
-    out += static_cast<char>(0xC0 | character >> 6);
-  } else {
-    out += static_cast<char>(0xE0 | character >> 12);
-    out += static_cast<char>(0x80 | (character >> 6 & 0x3F));
-  }
-  out += static_cast<char>(0x80 | (character & 0x3F));
-}
+/// Gathers a text in a block of its own before it is appended: most characters take three bytes, and asking
+/// the text for room at each of them takes longer than the conversion.
+class Utf8Writer {
+ public:
+  explicit Utf8Writer(std::string& out) : out_(out) {}
+  ~Utf8Writer() { Flush(); }
+  Utf8Writer(const Utf8Writer&) = delete;
+  Utf8Writer& operator=(const Utf8Writer&) = delete;
 
-// False, with `out` incomplete, when `replacement` is kRefuse and would have been needed.
-bool AppendGbkAsUtf8(std::string_view gbk, std::string_view replacement, std::string& out) {
+  void PutAscii(char byte) {
+    if (used_ == block_.size()) Flush();
+    block_[used_++] = byte;
+  }
+
+  void Put(char16_t character) {
+    if (block_.size() - used_ < kLongest) Flush();
+    if (character < 0x800) {
+      block_[used_++] = static_cast<char>(0xC0 | character >> 6);
+    } else {
+      block_[used_++] = static_cast<char>(0xE0 | character >> 12);
+      block_[used_++] = static_cast<char>(0x80 | (character >> 6 & 0x3F));
+    }
+    block_[used_++] = static_cast<char>(0x80 | (character & 0x3F));
+  }
+
+ private:
+  static constexpr std::size_t kLongest = 3;
+
+  void Flush() {
+    out_.append(block_.data(), used_);
+    used_ = 0;
+  }
+
+  std::string& out_;
+  std::array<char, 256> block_;
+  std::size_t used_ = 0;
+};
+
+// False, with `out` incomplete, when `replacement` is kStop and would have been needed.
+bool AppendGbkAsUtf8(std::string_view gbk, char16_t replacement, std::string& out) {
   const GbkDecoder& decoder = GbkDecoder::Instance();
+  Utf8Writer writer(out);
   for (std::size_t at = 0; at < gbk.size();) {
-    if (const std::size_t asciiEnd = SkipAscii(gbk, at); asciiEnd != at) {
-      out.append(gbk, at, asciiEnd - at);
-      at = asciiEnd;
+    if (IsAscii(gbk[at])) {
+      writer.PutAscii(gbk[at++]);
       continue;
     }
     const std::size_t length = GbkCharLength(gbk, at);
-    if (const char16_t character = decoder.CharacterAt(gbk, at, length); character != 0) {
-      AppendUtf8(character, out);
-    } else if (replacement == kRefuse) {
-      return false;
-    } else {
-      out += replacement;
-    }
+    const char16_t assigned = decoder.CharacterAt(gbk, at, length);
+    const char16_t character = assigned == 0 ? replacement : assigned;
+    if (character == kStop) return false;
+    writer.Put(character);
     at += length;
   }
   return true;
@@ -128,7 +154,7 @@ std::string Utf8ToGbk(std::string_view utf8) {
 std::optional<std::string> TryGbkToUtf8(std::string_view gbk) {
   std::string utf8;
   utf8.reserve(gbk.size() + gbk.size() / 2);
-  if (!AppendGbkAsUtf8(gbk, kRefuse, utf8)) return std::nullopt;
+  if (!AppendGbkAsUtf8(gbk, kStop, utf8)) return std::nullopt;
   return utf8;
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "config/reference_csv.h"
@@ -266,6 +267,23 @@ void ExpectAsTheReferenceReads(const std::string& text) {
   }
 }
 
+// Columns of the header, whole and searched for what their last row holds.
+void ExpectColumnsAsTheReferenceReads(const std::string& text) {
+  const Table table = TableOf(text);
+  const Lines lines = ReferenceCsv::Parse(text);
+  for (std::size_t column = 0; !lines.empty() && column < lines[0].size(); ++column) {
+    std::vector<std::string> expected;
+    for (std::size_t row = 1; row < lines.size(); ++row)
+      expected.push_back(column < lines[row].size() ? lines[row][column] : "");
+    ASSERT_EQ(table.Column(column), expected) << testing::PrintToString(text);
+    if (expected.empty()) continue;
+    const auto first = std::find(expected.begin(), expected.end(), expected.back()) - expected.begin();
+    ASSERT_EQ(table.FindInColumn(column, expected.back()), static_cast<std::size_t>(first) + 1)
+        << testing::PrintToString(text);
+    ASSERT_EQ(table.FindInColumn(column, "no cell holds this"), 0u) << testing::PrintToString(text);
+  }
+}
+
 // Raw cells stand in the file one behind the other, with nothing but a separator between two of them.
 void ExpectRawCellsCoverTheFile(const std::string& text) {
   const Table table = TableOf(text);
@@ -288,6 +306,7 @@ TEST(TableAgainstTheReference, ReadsShortRandomTextsAlike) {
   for (int i = 0; i < 100'000 && !testing::Test::HasFatalFailure(); ++i) {
     const std::string text = RandomText(random, "\"\",,\n\n\rab\x81\x5C\xFE\xBF", 24);
     ExpectAsTheReferenceReads(text);
+    ExpectColumnsAsTheReferenceReads(text);
     ExpectRawCellsCoverTheFile(text);
   }
 }
@@ -295,7 +314,9 @@ TEST(TableAgainstTheReference, ReadsShortRandomTextsAlike) {
 TEST(TableAgainstTheReference, ReadsLongTextsAlikeWhereverTheirCellsEnd) {
   std::mt19937 random(7);
   for (int i = 0; i < 3'000 && !testing::Test::HasFatalFailure(); ++i) {
-    ExpectAsTheReferenceReads(RandomText(random, "\",\n\rabcdefghijklmnopqrstuvwxyz\xB1\xEA", 300));
+    const std::string text = RandomText(random, "\",\n\rabcdefghijklmnopqrstuvwxyz\xB1\xEA", 300);
+    ExpectAsTheReferenceReads(text);
+    ExpectColumnsAsTheReferenceReads(text);
   }
 }
 

@@ -62,17 +62,6 @@ TEST_F(HostFile, ExistsWhenSomethingHasItsName) {
   EXPECT_FALSE(FileExists(""));
 }
 
-TEST_F(HostFile, IsOpenedWithTheModesOfTheCLibrary) {
-  EXPECT_EQ(OpenHostFile(folder_.HostPath("new"), "rb"), nullptr);
-  for (const char* mode : {"wb", "ab"}) {
-    std::FILE* file = OpenHostFile(folder_.HostPath("new"), mode);
-    ASSERT_NE(file, nullptr);
-    std::fputs(mode, file);
-    std::fclose(file);
-  }
-  EXPECT_EQ(ReadBytes(folder_.Path() / "new"), "wbab");
-}
-
 TEST_F(HostFile, NamedInChineseIsFound) {
   const std::string path = folder_.WriteBytes("工艺/规则.csv", "x");
   EXPECT_TRUE(FileExists(path));

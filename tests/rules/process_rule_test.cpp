@@ -11,6 +11,7 @@
 
 #include "support/allocation_count.h"
 #include "support/diagnostic_folder.h"
+#include "support/diagnostics_off.h"
 #include "support/gbk_text.h"
 
 namespace plateconfig::test {
@@ -326,27 +327,37 @@ TEST(ProcessRuleTrace, AFileThatCanNotBeOpenedChangesNothing) {
   EXPECT_FALSE(IsValidForColors("36_211", {6}));
 }
 
-/// Feeds a valid rule in a process that has no more memory.
-template <typename Values>
-bool IsValidAfterAFailure(ProcessRule rule, const Values& values) {
+TEST(ProcessRule, ThatCouldNotBeFedIsNotValid) {
+  const DiagnosticFolder diagnostics;
+  ProcessRule rule = MakeRule(ProcessRule::RoundHoleColor, "6");
   rule.SetValue(true);
+  const Ints colors = {6};
   bool hasFailed = false;
   {
-    const AllocationLimit none(0);
+    const AllocationLimit none(0);  // The trace needs memory.
     try {
-      rule.SetValue(values);
+      rule.SetValue(colors);
     } catch (const std::bad_alloc&) {
       hasFailed = true;
     }
   }
   EXPECT_TRUE(hasFailed);
-  return rule.IsValid();
+  EXPECT_FALSE(rule.IsValid());
 }
 
-TEST(ProcessRule, ThatCouldNotBeFedIsNotValid) {
-  const DiagnosticFolder diagnostics;
-  EXPECT_FALSE(IsValidAfterAFailure(MakeRule(ProcessRule::RoundHoleColor, "6"), Ints{6}));
-  EXPECT_FALSE(IsValidAfterAFailure(MakeRule(ProcessRule::RoundHoleDiameter, "6"), Doubles{6}));
+TEST(ProcessRule, WithoutATraceFeedingNeedsNoMemory) {
+  const DiagnosticsOff off;
+  const std::string parameter = "6_36_" + std::string(100, '1') + "_8.5";
+  const Ints colors = {36};
+  const Doubles diameters = {8.5};
+  ProcessRule byColor = MakeRule(ProcessRule::RoundHoleColor, parameter);
+  ProcessRule byDiameter = MakeRule(ProcessRule::RoundHoleDiameter, parameter);
+  const std::size_t before = AllocationCount();
+  byColor.SetValue(colors);
+  byDiameter.SetValue(diameters);
+  EXPECT_EQ(AllocationCount(), before);
+  EXPECT_TRUE(byColor.IsValid());
+  EXPECT_TRUE(byDiameter.IsValid());
 }
 
 }  // namespace

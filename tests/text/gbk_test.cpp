@@ -49,6 +49,20 @@ TEST(GbkToUtf8, ReplacesAnUnassignedPairOnce) {
   EXPECT_EQ(GbkToUtf8("\xAA\xA1|"), std::string(kReplacement) + "|");
 }
 
+TEST(GbkToUtf8, ALongTextIsItsPiecesOneBehindTheOther) {
+  std::mt19937 random(19);
+  std::string bytes;
+  std::string pieces;
+  for (int round = 0; round < 3000; ++round) {
+    const std::string piece = round % 7 == 0   ? "\xFF,"
+                              : round % 3 == 0 ? "\xCD\xBC"
+                                               : std::string(random() % 5, 'x');
+    bytes += piece;
+    pieces += GbkToUtf8(piece);
+    ASSERT_EQ(GbkToUtf8(bytes), pieces);
+  }
+}
+
 TEST(GbkToUtf8, GivesWellFormedUtf8ForAnyBytes) {
   std::mt19937 random(936);
   for (int round = 0; round < 50'000; ++round) {

@@ -124,7 +124,7 @@ std::string Mistake(const CLI::App& app, const CLI::ParseError& error, const Arg
 
 std::string UsageMessage(const CLI::App& app, const CLI::ParseError& error, const Arguments& arguments) {
   const auto verbs = app.get_subcommands();
-  return "plateconfig: error: " + Mistake(app, error, arguments) + "\n" +
+  return "plateconfig: " + Say("error", "错误") + ": " + Mistake(app, error, arguments) + "\n" +
          Say("plateconfig {}--help tells what there is", "用 plateconfig {}--help 查看用法",
              verbs.empty() ? "" : verbs.front()->get_name() + " ") +
          "\n";

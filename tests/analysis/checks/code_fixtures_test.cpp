@@ -1,9 +1,10 @@
 // Every code of a table has a table that raises it and one, as like as possible, that does not.
 
+#include "analysis/checks/code_fixtures.h"
+
 #include <gmock/gmock.h>
 
 #include <map>
-#include <set>
 
 #include "analysis/checks/given_tables.h"
 
@@ -71,11 +72,17 @@ std::vector<Fixture> RuleFixtures() {
       {"parameter-twice", rules, With("有线割,103", "有型面,103"), kGood},
       {"parameter-without-value", rules, With("有线割,103", "有线割,"), kGood},
       {"parameter-without-name", rules, With("有线割,103", ",103"), kGood},
+      {"parameter-same-colors", rules,
+       With("有型面,190,,,,,,,,,,,,,\n有线割,103", "有型面,190_191,,,,,,,,,,,,,\n有线割,190_191"),
+       With("有型面,190,,,,,,,,,,,,,\n有线割,103", "有型面,190_191,,,,,,,,,,,,,\n有线割,190_192")},
       {"color-soft-and-hard", rules, With("硬料（体颜色）,42", "硬料（体颜色）,12"), kGood},
       {"layer-empty", rules, With("12,300_400", ",300_400"), kGood},
       {"wish-unknown", rules, With("无型面,无线割,软料（体颜色）,铣", "Y,无线割,软料（体颜色）,铣"), kGood},
       {"material-unknown", rules, With("软料（体颜色）,铣", "软料,铣"), kGood},
       {"text-blank", rules, With("铣,钻", "铣,钻 "), kGood},
+      {"range-single", rules, With("300_400", "300_300"), With("300_400", "300_301")},
+      {"row-longer", rules, With("铣,钻\n", "铣,,钻\n"), With("铣,钻\n", "铣,钻,\n")},
+      {"column-nameless", rules, With("材质要求", ""), With("钻孔\n", "钻孔,\n")},
       {"row-never-matches", rules, With("100_200", "200_100"), kGood},
       {"row-shadowed", rules, With("300_400", "110_120"), kGood},
       {"row-no-text", rules, With("铣,钻", ","), kGood},
@@ -109,6 +116,7 @@ std::vector<Fixture> RowFixtures() {
       {"wish-empty", rules, ManyRows("90_99,10_20,,,,无线割,软料（体颜色）,锯床下料,"), good},
       {"material-empty", rules, ManyRows("90_99,10_20,,,无型面,无线割,,锯床下料,"), good},
       {"process-text-empty", rules, ManySameRows(""), ManySameRows("锯床下料")},
+      {"process-text-odd", rules, ManyRows("90_99,10_20,,,无型面,无线割,软料（体颜色）,/,"), good},
       {"text-look-alike", rules, ManyRows("90_99,10_20,,,无型面,无线割,软料（体颜色）,锯床下枓,"), good},
   };
 }
@@ -149,9 +157,32 @@ std::vector<Fixture> SettingFixtures() {
   };
 }
 
+/// Frame texts with this second row.
+std::string FrameTexts(const std::string& second) {
+  return "图框信息-左边距,图框信息-属性名称\n0.5,A\n" + second + "\n0.7,C\n";
+}
+
+std::vector<Fixture> ListFixtures() {
+  const std::string good = FrameTexts("0.6,B");
+  return {
+      {"row-skipped", Role::kFrameInfo, FrameTexts("0.6,"), good},
+      {"row-cell-empty", Role::kFrameInfo, FrameTexts(",B"), good},
+      {"row-blank", Role::kFrameInfo, FrameTexts(","), good},
+      {"setting-empty", Role::kTexts,
+       "代号文字,注解与线之间的间距比例,列之间的距离比例,第三视角转图,加工说明文字\n,0.5,0.3,Y,说明\n",
+       "代号文字,注解与线之间的间距比例,列之间的距离比例,第三视角转图,加工说明文字\n代号,0.5,0.3,Y,说明\n"},
+      {"number-odd", Role::kBom, "密度(g/cm)\n7.\n", "密度(g/cm)\n0.7\n"},
+      {"number-negative", Role::kBom, "密度(g/cm)\n-7\n", "密度(g/cm)\n7\n"},
+      {"width-zero", Role::kColumnWidths, "序号,备注\n0,80\n", "序号,备注\n10,80\n"},
+      {"column-blank", Role::kColumnWidths, "序 号,备注\n10,80\n", "Part No,备注\n10,80\n"},
+      {"text-lost", Role::kTexts, "代号文字\n???\n", "代号文字\n代号\n"},
+  };
+}
+
 std::vector<Fixture> AllFixtures() {
   std::vector<Fixture> all = RuleFixtures();
-  for (const auto& more : {RowFixtures(), SettingFixtures()}) all.insert(all.end(), more.begin(), more.end());
+  for (const auto& more : {RowFixtures(), SettingFixtures(), ListFixtures()})
+    all.insert(all.end(), more.begin(), more.end());
   return all;
 }
 
@@ -164,6 +195,43 @@ TEST(CodeFixtures, EachCodeIsRaisedByItsBadTableAndNotByItsGoodOne) {
     EXPECT_THAT(CodesIn(fixture.role, fixture.bad), Contains(fixture.code)) << fixture.bad;
     EXPECT_THAT(CodesIn(fixture.role, fixture.good), Not(Contains(fixture.code))) << fixture.good;
   }
+}
+
+std::vector<Finding> FindingsNamed(std::string_view code, Role role, const std::string& table) {
+  std::vector<Finding> findings = FindingsOf(test::Given(role, table), test::AllCodes());
+  std::erase_if(findings, [&](const Finding& finding) { return finding.code.Name() != code; });
+  return findings;
+}
+
+TEST(LongRows, AreToldOncePerRowUnlessItIsTheHeaderThatIsShort) {
+  const auto one = FindingsNamed("row-longer", Role::kLayers, "模板图层\n1\n2,3\n4\n");
+  ASSERT_EQ(one.size(), 1u);
+  EXPECT_EQ(one[0].cell, "B3");
+  EXPECT_EQ(one[0].text, "3");
+  EXPECT_EQ(FindingsNamed("row-longer", Role::kLayers, "模板图层\n1,5\n2,3\n4,6\n").size(), 1u);
+}
+
+TEST(ChosenNames, MayHoldSingleBlanksBetweenWordsOfLetters) {
+  EXPECT_TRUE(FindingsNamed("column-blank", Role::kColumnWidths, "Part No,单重(kg)\n1,2\n").empty());
+  for (const char* name : {" 规格", "规格 ", "规　格", "规\t格", "Part  No"}) {
+    const auto found = FindingsNamed("column-blank", Role::kColumnWidths, std::string(name) + ",备注\n1,2\n");
+    ASSERT_EQ(found.size(), 1u) << name;
+  }
+  const auto found = FindingsNamed("column-blank", Role::kColumnWidths, "规 格\n1\n");
+  EXPECT_EQ(found.at(0).fix, "规格");
+}
+
+TEST(ProcessTexts, ABlankComesBeforeTheTextThatItLooksLike) {
+  const auto codes =
+      CodesIn(Role::kProcessRules, ManyRows("90_99,10_20,,,无型面,无线割,软料（体颜色）,锯床下料　,"));
+  EXPECT_THAT(codes, Contains("text-blank"));
+  EXPECT_THAT(codes, Not(Contains("text-look-alike")));
+}
+
+TEST(RowLists, AnEmptyCellIsNoHintWhereAnotherRowHasOneToo) {
+  EXPECT_TRUE(FindingsNamed("row-cell-empty", Role::kFrameInfo,
+                            "图框信息-左边距,图框信息-属性名称\n0.5,A\n,B\n,C\n0.7,D\n")
+                  .empty());
 }
 
 TEST(CodeFixtures, BytesThatAreNoGbkAreToldWithWhatTheyAre) {
@@ -185,29 +253,20 @@ TEST(CodeFixtures, AFileThatIsNotThereOrCanNotBeReadIsOneFinding) {
             std::vector<std::string>{"table-unreadable"});
 }
 
-/// Codes whose fixtures stand beside the readers that raise them.
-bool IsOfAnInput(std::string_view code) {
-  const auto begins = [&](std::string_view prefix) { return code.starts_with(prefix); };
-  return begins("input-") || begins("plate-") || begins("hole-") || begins("manifest-") || begins("index-") ||
-         begins("config-") || begins("role-") || begins("root-");
-}
-
-TEST(CodeFixtures, EveryCodeOfATableHasAFixture) {
-  std::set<std::string, std::less<>> covered = {"table-utf8",        "table-utf16",   "table-not-gbk",
-                                                "character-not-gbk", "table-missing", "table-unreadable"};
-  for (const Fixture& fixture : AllFixtures()) covered.insert(fixture.code);
+TEST(CodeFixtures, EveryCodeHasAPageInBothLanguages) {
   for (const CodeRow& row : kCodes) {
-    EXPECT_TRUE(IsOfAnInput(row.name) || covered.contains(row.name)) << row.name;
-  }
-}
-
-TEST(CodeFixtures, EveryCodeOfATableHasAPageInBothLanguages) {
-  for (const CodeRow& row : kCodes) {
-    if (IsOfAnInput(row.name)) continue;
     EXPECT_FALSE(row.page.english.empty()) << row.name;
     EXPECT_FALSE(row.page.chinese.empty()) << row.name;
   }
 }
 
 }  // namespace
+
+std::set<std::string, std::less<>> test::CodesWithTableFixtures() {
+  std::set<std::string, std::less<>> codes = {"table-utf8",        "table-utf16",   "table-not-gbk",
+                                              "character-not-gbk", "table-missing", "table-unreadable"};
+  for (const Fixture& fixture : AllFixtures()) codes.insert(fixture.code);
+  return codes;
+}
+
 }  // namespace plateconfig

@@ -42,6 +42,17 @@ TEST(Sentence, ALineEndsWithTheTextThatWasProbablyMeant) {
             "\"45o\" is not a number; write it like 450 or 12.5; did you mean \"450\"?");
 }
 
+TEST(Sentence, TheOutlineOfATextHasDotsForItsPlacesButForWhatIsPutOnBehindIt) {
+  EXPECT_EQ(OutlineOf("rows {1} and {0} could be one row with the range {2}"),
+            "rows … and … could be one row with the range …");
+  EXPECT_EQ(OutlineOf("{offending}不是数字"), "…不是数字");
+  EXPECT_EQ(OutlineOf("write it like 450 or 12.5{0}"), "write it like 450 or 12.5");
+  EXPECT_EQ(OutlineOf("请写成 12 这样的整数{0}"), "请写成 12 这样的整数");
+  EXPECT_EQ(OutlineOf("请写{0}"), "请写…");
+  EXPECT_EQ(OutlineOf("没有索引表；{0}"), "没有索引表；…");
+  EXPECT_EQ(OutlineOf("no places"), "no places");
+}
+
 TEST(Sentence, WhatIsEasilyOverlookedInATextIsSaid) {
   EXPECT_EQ(MessageOf(NotANumber("４５"), Language::kEnglish),
             "\"４５\" (with full-width characters) is not a number");

@@ -79,5 +79,24 @@ TEST(FeedRules, ACustomProcessAppliesWhenItsOwnNameIsOrdered) {
   EXPECT_FALSE(rules[2].IsValid());
 }
 
+TEST(FeedRules, WhatARuleWasFedBeforeIsForgotten) {
+  std::vector<ProcessRule> rules;
+  for (const ConditionText& condition : kConditionTexts)
+    rules.emplace_back(static_cast<int>(rules.size()), condition.type, "milling", "5");
+  PlateFeatures everything;
+  everything.customProcesses = {"milling"};
+  everything.diameters = {5};
+  everything.holeCount = 5;
+  for (const ProcessRule& rule : rules) {
+    everything.present.insert(rule.GetRuleType());
+    everything.colors[rule.GetRuleType()] = {5};
+  }
+  FeedRules(rules, everything);
+  for (const ProcessRule& rule : rules)
+    EXPECT_EQ(rule.IsValid(), rule.GetRuleType() != ProcessRule::HoleCountBelow) << rule.GetRuleType();
+  FeedRules(rules, {});
+  for (const ProcessRule& rule : rules) EXPECT_FALSE(rule.IsValid()) << rule.GetRuleType();
+}
+
 }  // namespace
 }  // namespace plateconfig

@@ -134,6 +134,17 @@ TEST(TakenCells, OfAColumnThatIsNoRowColumnAreItsValue) {
   EXPECT_THAT(spacing.taken({}), ElementsAre("5000"));
 }
 
+TEST(RowRules, TheColumnsOfOneRecordKnowEachOtherAndWhatARowNeeds) {
+  const auto& columns = SchemaOf(Role::kReplaceContent).columns;
+  EXPECT_EQ(columns[0].record, columns[1].record);
+  EXPECT_EQ(columns[2].record, 0u);
+  EXPECT_NE(columns[3].record, columns[0].record);
+  EXPECT_EQ(columns[3].rowRule, RowRule::kRequired);
+  EXPECT_TRUE(columns[3].accepts("6"));
+  EXPECT_FALSE(columns[3].accepts(""));
+  EXPECT_EQ(columns[4].rowRule, RowRule::kNone);
+}
+
 TEST(TakenCells, OfNoCellsAreTheValueOfTheAbsentColumnWhereverThereIsOne) {
   for (const TableSchema& table : FullSchema()) {
     for (const ColumnSchema& column : table.columns) {

@@ -46,5 +46,12 @@ TEST(FoldedNameWithoutUnit, ABracketAtTheEndIsAUnit) {
   EXPECT_EQ(FoldedNameWithoutUnit("长度"), "长度");
 }
 
+TEST(WithoutOuterBlanks, TakesEveryKindOfBlankOffBothEnds) {
+  EXPECT_EQ(WithoutOuterBlanks(" \t甲 乙\u3000\r\n"), "甲 乙");
+  EXPECT_EQ(WithoutOuterBlanks("甲"), "甲");
+  EXPECT_EQ(WithoutOuterBlanks(" \u3000 "), "");
+  EXPECT_EQ(WithoutOuterBlanks(""), "");
+}
+
 }  // namespace
 }  // namespace plateconfig

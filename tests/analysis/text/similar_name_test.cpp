@@ -49,5 +49,17 @@ TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
             "abcdef");
 }
 
+TEST(SlippedName, OfAShortNameIsFoundWhateverTheHandDid) {
+  const std::vector<std::string_view> missing = {"通直径"};
+  for (const char* name : {"直径", "通径", "通通直径", "直通径", "遥直径", "通直径mm", "通直径(mm)"})
+    EXPECT_EQ(SlippedName(name, missing), "通直径") << name;
+}
+
+TEST(SlippedName, OfTwoThatMayBeMeantIsNeither) {
+  EXPECT_EQ(SlippedName("直径", {"通直径", "底直径"}), "");
+  EXPECT_EQ(SlippedName("顶直径", {"通颜色"}), "");
+  EXPECT_EQ(SlippedName("径", {"通直径"}), "");
+}
+
 }  // namespace
 }  // namespace plateconfig

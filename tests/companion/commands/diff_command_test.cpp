@@ -273,7 +273,7 @@ TEST_F(DiffCommand, TheTextOfSettingsRowsAndPlatesWithoutARow) {
 TEST_F(DiffCommand, TheTextSpeaksChinese) {
   WriteRules("new", With(kRows, "锯,钻\n", "锯,深钻\n"));
   const std::string out = Diff({"--plates", "-", "--lang", "zh"}, kPlates).out;
-  EXPECT_THAT(out, StartsWith("此修改影响 1 / 3 块板\n有差别：0 项设置，1 个规则行，1 个板的区域\n"));
+  EXPECT_THAT(out, StartsWith("此修改影响 3 块板中的 1 块\n有差别：0 项设置，1 个规则行，1 个板的区域\n"));
   EXPECT_THAT(out, HasSubstr("  甲\n    旧  第 2 行  锯→【钻】\n    新  第 2 行  锯→【深钻】\n"));
   EXPECT_THAT(out, HasSubstr("长度 0 到 100.001；体颜色 12，无型面，无线割\n"));
 }
@@ -311,6 +311,39 @@ TEST_F(DiffCommand, APlateWithAMistakeIsReportedOnceAndTheOthersAreCompared) {
   EXPECT_EQ(result.out, "this edit changes 0 of 1 plates\nno difference\n");
   EXPECT_THAT(result.err, StartsWith("standard input:2:3: error: B2: "));
   EXPECT_EQ(result.exitCode, 2);
+}
+
+TEST_F(DiffCommand, WrongValuesOfOptionsAreToldAndNothingIsCompared) {
+  struct Wrong {
+    std::vector<std::string> options;
+    std::string message;
+  };
+  const Wrong all[] = {
+      {{"--limit", "x"}, "\"x\" is no whole number from 0 on"},
+      {{"--limit", "1.5"}, "\"1.5\" is no whole number from 0 on"},
+      {{"--format", "sarif"}, "\"sarif\" is none of text, json"},
+      {{"--plates"}, "the value behind --plates is missing"},
+      {{"-o", Path("fehlt/a.txt")}, "a.txt"},
+      {{"--plates", Path("fehlt.csv")}, "fehlt.csv: error: "},
+  };
+  for (const Wrong& wrong : all) {
+    const CompanionResult result = Diff(wrong.options);
+    EXPECT_EQ(result.exitCode, 2) << wrong.message;
+    EXPECT_THAT(result.err, HasSubstr(wrong.message));
+  }
+  const CompanionResult oneFolder = RunPlateconfig({"diff", Path("old")});
+  EXPECT_EQ(oneFolder.exitCode, 2);
+  EXPECT_THAT(oneFolder.err, HasSubstr("new"));
+}
+
+TEST_F(DiffCommand, TheTextSaysFirstThatNoPlateChanges) {
+  WriteSettings("new", "→,Y");
+  WriteRules("new", With(kRows, "13,200_300", "14,200_300"));
+  const CompanionResult result =
+      Diff({"--plates", "-"}, "名称,长度,宽度,厚度,重量,体颜色,有无圆孔\n甲,50,40,10,1,12,N\n");
+  EXPECT_THAT(result.out, StartsWith("this edit changes "));
+  EXPECT_THAT(result.out, HasSubstr("different: 1 settings, 1 rule rows, 0 regions of plates\n"));
+  EXPECT_EQ(result.exitCode, 1);
 }
 
 }  // namespace

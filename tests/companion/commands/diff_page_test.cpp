@@ -1,4 +1,4 @@
-// docs/diff.md shows two configurations and what differs between them. Here they are written and compared.
+// docs/diff.md and its Chinese twin show two folders and what the command says about them; here it is run.
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,10 @@ namespace {
 
 TEST(DiffPage, ItsExamplesGiveWhatItShows) {
   EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/diff.md", "en"), 2);
+}
+
+TEST(DiffPage, ItsChineseTwinToo) {
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/diff.zh.md", "zh"), 2);
 }
 
 }  // namespace

@@ -151,7 +151,8 @@ TEST(FolderCommand, OnlyAFlagOfExactlyOneLetterYIsActive) {
                 ":4:3: warning: B4: \" Y\" (with a blank)" + almost + root.Index() +
                 ":6:1: warning: A6: this row is marked as active but names no folder, so it is passed "
                 "over; write the name of a folder below config\n" +
-                root.Index() + ": warning: no row is active (Y); the folder config itself is active\n");
+                root.Index() +
+                ":2:3: warning: B2: no row is active (Y); the folder config itself is active\n");
 }
 
 TEST(FolderCommand, ASmallYIsActiveToo) {
@@ -170,8 +171,9 @@ TEST(FolderCommand, TwoActiveRowsNameAFolderInAFolder) {
   const auto result = RunPlateconfig({"folder"});
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.out, StartsWith(root.Config() + kSeparator + "甲" + kSeparator + "乙\n"));
-  EXPECT_EQ(result.err,
-            root.Index() + ": warning: 2 rows are active; each appends its folder to the one before\n");
+  EXPECT_EQ(
+      result.err,
+      root.Index() + ":3:3: warning: B3: 2 rows are active; each appends its folder to the one before\n");
 }
 
 TEST(FolderCommand, AFolderThatDoesNotExistIsAnError) {

@@ -177,6 +177,35 @@ TEST_F(HolesCommand, AStructureThatNoHoleHasIsWarnedOf) {
   EXPECT_THAT(err_, HasSubstr("types.csv:4:1: warning: no hole has the structure \"1_1_0 \" of the type 丙"));
 }
 
+TEST_F(HolesCommand, ARenamedColumnOfTypesIsWarnedOfWithTheNameThatIsMissing) {
+  for (const char* name : {"通颜色(mm)", "通颜", "颜通色", "颜色"}) {
+    std::string header = kTypeHeader;
+    folder_.WriteTable("types.csv",
+                       header.replace(header.find("通颜色"), std::string("通颜色").size(), name) +
+                           "M8,1_1_0,36,36,,14,9,,\n");
+    folder_.WriteTable("holes.csv", std::string(kHoleHeader) + kScrewHole);
+    RunFiles("types.csv", "holes.csv");
+    EXPECT_THAT(err_, HasSubstr("D1: the column \"" + std::string(name) +
+                                "\" is not known and is ignored; did you mean \"通颜色\"?"));
+  }
+}
+
+TEST_F(HolesCommand, TypesThatSayMoreOrLessThanTheirStructureAreWarnedOf) {
+  Run("M8,1_1_0,36,36,,14,9,,\n"
+      "M8,1_0_0,36,,,14,9,,\n"
+      "M10 ,1_1_0,36,336,,17,11,,\n"
+      "M12,1_1_0,36,36,,20,13,,\n"
+      "M16,1_1_0,36,36,,26,,,\n",
+      kScrewHole);
+  EXPECT_THAT(err_,
+              HasSubstr("types.csv:3:1: warning: a second type has the name \"M8\"; the first stands on "
+                        "line 2"));
+  EXPECT_THAT(err_, HasSubstr("types.csv:3:1: warning: the type M8 has no through segment, while 通直径"));
+  EXPECT_THAT(err_, HasSubstr("types.csv:4:1: warning: \"M10 \" has a blank"));
+  EXPECT_THAT(err_, HasSubstr("types.csv:4:1: warning: 336 is no colour"));
+  EXPECT_THAT(err_, HasSubstr("types.csv:6:1: hint: the type M16 accepts any diameter of its through"));
+}
+
 TEST_F(HolesCommand, JsonHoldsEveryMatchingTypeWithItsScore) {
   Run("通用,1_1_0,0,0,,0,0,,\n"
       "M8,1_1_0,36,31,,14,9,,说明文字\n",
@@ -206,6 +235,7 @@ TEST_F(HolesCommand, SpeaksChinese) {
   Run("M10,1_1_0,36,31,,18,9,,\n", kScrewHole, {"--lang", "zh", "--explain"});
   EXPECT_THAT(out_, HasSubstr("K1：结构 1_1_0，最大直径 14 mm，位置 1, 2, 3\n"));
   EXPECT_THAT(out_, HasSubstr("顶部第 1 段：颜色 36 已列出，直径 14 不在 18 之中\n"));
+  EXPECT_THAT(out_, HasSubstr("通孔第 1 段：颜色 31 已列出，直径 9 已列出\n"));
 }
 
 TEST_F(HolesCommand, SeveralFilesOfTypesAreTakenTogether) {

@@ -65,8 +65,7 @@ TEST_F(ProcessCommand, SpeaksChinese) {
   EXPECT_EQ(result.out,
             "A板（第 2 行）：锯床下料→钻孔到数→检测外形\n镶件（第 4 行）：慢走丝\n"
             "长板：没有符合的规则行（用 plateconfig explain 查看原因）\n");
-  EXPECT_EQ(result.err,
-            "标准输入:5:3: error: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
+  EXPECT_EQ(result.err, "标准输入:5:3: 错误: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
   EXPECT_EQ(result.exitCode, 2);
 }
 
@@ -156,7 +155,7 @@ TEST_F(ProcessCommand, AMissingRuleTableIsNamedWithWhatFollows) {
       {"process", "--config", configuration_.Path(), "--process-rules", Path("fehlt.csv"), "-"}, kUnfitting);
   EXPECT_EQ(result.err, Path("fehlt.csv") +
                             ": error: this table does not exist; the library then has no rule rows and every "
-                            "process text is empty\n");
+                            "process text is empty; put the file there, or mend its name\n");
   EXPECT_EQ(result.out, "长板: no rule row fits (plateconfig explain tells why)\n");
   EXPECT_EQ(result.exitCode, 2);
 }
@@ -166,7 +165,7 @@ TEST_F(ProcessCommand, AMissingSettingsTableIsNamedWithWhatFollows) {
       {"process", "--config", configuration_.Path(), "--process-settings", Path("fehlt.csv"), "-"}, kPlates);
   EXPECT_EQ(result.err, Path("fehlt.csv") +
                             ": error: this table does not exist; the library then joins the processes with "
-                            "nothing between them\n");
+                            "nothing between them; put the file there, or mend its name\n");
   EXPECT_THAT(result.out, StartsWith("A板 (line 2): 锯床下料钻孔到数检测外形\n"));
   EXPECT_EQ(result.exitCode, 2);
 }

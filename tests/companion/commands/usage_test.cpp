@@ -112,7 +112,7 @@ TEST(Usage, EveryVerbRefusesAMisspelledOptionWithTheNearestOne) {
       EXPECT_EQ(Complaint(Complete(verb) + Words{wrong}),
                 "plateconfig: error: there is no option " + wrong + "; did you mean \"" + option + "\"?");
       EXPECT_EQ(Complaint(Words{"--lang", "zh"} + Complete(verb) + Words{wrong}),
-                "plateconfig: error: 没有选项 " + wrong + "；是否应为“" + option + "”？");
+                "plateconfig: 错误: 没有选项 " + wrong + "；是否应为“" + option + "”？");
     }
   }
 }
@@ -129,7 +129,7 @@ TEST(Usage, EveryVerbNamesWhatItRequires) {
     const Words complete = Complete(verb);
     if (complete.size() == 1) continue;
     EXPECT_THAT(Complaint({verb.name}), ::testing::EndsWith(" is required"));
-    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}), HasSubstr("error: 缺少必需的 "));
+    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}), HasSubstr("错误: 缺少必需的 "));
   }
 }
 
@@ -142,7 +142,7 @@ TEST(Usage, EveryOptionOfEveryVerbWantsItsValueAndWantsItOnce) {
       EXPECT_EQ(Complaint(Complete(verb) + Words{name}),
                 "plateconfig: error: the value behind " + name + " is missing");
       EXPECT_EQ(Complaint(Complete(verb) + Words{"--lang", "zh", name + "="}),
-                "plateconfig: error: " + name + " 之后缺少值");
+                "plateconfig: 错误: " + name + " 之后缺少值");
       if (option->get_items_expected_max() > 1) continue;
       // The first of several values, a number, or any name of a file.
       const std::string type = option->get_type_name();
@@ -231,11 +231,11 @@ TEST(Usage, TheLastArgumentIsMissingItsValueOnlyWhenItIsNoValueItself) {
 
 TEST(Usage, AWrongCommandLineIsToldInChineseToo) {
   EXPECT_EQ(RunPlateconfig({"--lang", "zh", "folde"}).err,
-            "plateconfig: error: 没有命令“folde”；是否应为“folder”？\n用 plateconfig --help 查看用法\n");
+            "plateconfig: 错误: 没有命令“folde”；是否应为“folder”？\n用 plateconfig --help 查看用法\n");
   EXPECT_EQ(RunPlateconfig({"process", "--lang", "zh"}).err,
-            "plateconfig: error: 缺少必需的 plates\n用 plateconfig process --help 查看用法\n");
+            "plateconfig: 错误: 缺少必需的 plates\n用 plateconfig process --help 查看用法\n");
   EXPECT_EQ(Complaint({"--lang", "zh", "folder", "--format", "xml"}),
-            "plateconfig: error: --format: “xml”不是 text, json 之一");
+            "plateconfig: 错误: --format: “xml”不是 text, json 之一");
 }
 
 TEST(Usage, TheHelpListsTheRoles) {

@@ -97,8 +97,8 @@ TEST(JsonValues, InChineseABlankStandsBesideANumber) {
   SetLanguage(Language::kEnglish);
   EXPECT_EQ(
       messages.Text(),
-      "f.json:1:2: error: 这里应当是整数，而不是 12.5（此对象被跳过）\n"
-      "f.json:1:8: error: 99999999999 超出范围；整数须在 -2147483648 到 2147483647 之间（此对象被跳过）\n");
+      "f.json:1:2: 错误: 这里应当是整数，而不是 12.5（此对象被跳过）\n"
+      "f.json:1:8: 错误: 99999999999 超出范围；整数须在 -2147483648 到 2147483647 之间（此对象被跳过）\n");
 }
 
 TEST(JsonValues, AnItemOfAListIsReportedAtItsOwnPlace) {

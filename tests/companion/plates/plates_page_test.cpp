@@ -1,4 +1,5 @@
-// docs/plates.md shows files and commands with their output. Here they are written and run.
+// docs/plates.md and its Chinese twin show files and commands with their output. Here they are written and
+// run.
 
 #include <gmock/gmock.h>
 
@@ -18,8 +19,14 @@ TEST(PlatesPage, ItsExamplesGiveWhatItShows) {
   EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.md", "en"), 5);
 }
 
-TEST(PlatesPage, TheFieldsThatItListsAreAllThereAre) {
-  std::ifstream page(PLATECONFIG_DOCS_DIR "/plates.md");
+TEST(PlatesPage, ItsExamplesInChineseGiveWhatItShows) {
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/plates.zh.md", "zh"), 5);
+}
+
+class PlatesPageIn : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(PlatesPageIn, TheFieldsThatItListsAreAllThereAre) {
+  std::ifstream page(PLATECONFIG_DOCS_DIR + std::string("/") + GetParam());
   const std::string text{std::istreambuf_iterator<char>(page), {}};
   const PlateVocabulary vocabulary({});
   const std::size_t featureCount = vocabulary.Features().size();
@@ -32,6 +39,8 @@ TEST(PlatesPage, TheFieldsThatItListsAreAllThereAre) {
   for (const std::string_view name : names)
     EXPECT_THAT(text, ::testing::HasSubstr("`" + std::string(name) + "`"));
 }
+
+INSTANTIATE_TEST_SUITE_P(BothLanguages, PlatesPageIn, ::testing::Values("plates.md", "plates.zh.md"));
 
 }  // namespace
 }  // namespace plateconfig

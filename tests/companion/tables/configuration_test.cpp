@@ -173,5 +173,12 @@ TEST(Configuration, WithNeitherFolderNorVariableItSaysSo) {
             "plateconfig: error: TQConfig is not set, and no configuration folder was given with --config\n");
 }
 
+TEST(Configuration, ARoleWithAnEmptyFileNameIsAnErrorAndHasNoTable) {
+  Folder folder(R"({"bom": ""})");
+  EXPECT_FALSE(folder.Find(Role::kBom));
+  EXPECT_THAT(folder.messages.Text(),
+              StartsWith(folder.manifestPath + ":1:9: error: the role bom names no file"));
+}
+
 }  // namespace
 }  // namespace plateconfig

@@ -150,12 +150,17 @@ class CheckRun {
     wayThere_.push_back(finding);
   }
 
-  /// There is nothing to check then: an error of the call, not a finding.
+  /// Of a folder that the command line names there is nothing to check then: an error of the call, not a
+  /// finding. Of the active folder it is one, and the way there has told it.
   bool IsFolderMissing() {
     const auto missing = std::find_if(wayThere_.begin(), wayThere_.end(), [](const Finding& finding) {
       return finding.code == Code("config-folder-missing");
     });
     if (missing == wayThere_.end()) return false;
+    if (job_.configuration.folder.empty()) {
+      wayThere_.erase(missing);
+      return false;
+    }
     for (const Finding& finding : wayThere_) context_.reporter.Report(finding);
     return true;
   }
@@ -171,12 +176,11 @@ class CheckRun {
 
   /// Plates and hole types, behind the tables.
   void CheckInputs() {
-    std::vector<Finding> found;
-    context_.reporter.CollectInto(&found);
+    context_.reporter.CollectInto(&inputs_);
     CheckPlates();
     CheckHoleTypes();
     context_.reporter.CollectInto(nullptr);
-    Put(found, report_.findings.end());
+    Put(std::move(inputs_), report_.findings.end());
   }
 
   const GivenTable* Given(Role role) const {
@@ -206,8 +210,25 @@ class CheckRun {
     const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
       return plates.Read(in, shownAs);
     };
-    VisitInput({file, Say("no plate was read from this file", "没有从此文件读到任何板")}, context_.streams,
-               context_.reporter, read);
+    Visit(file, read);
+  }
+
+  /// Reads a plate or hole type file; one that gives nothing, with nothing said of it, is a finding too.
+  void Visit(const std::string& file, const ReadInput& read) {
+    bool isOpen = false;
+    const auto visit = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
+      isOpen = true;
+      const std::size_t count = read(in, shownAs, progress);
+      if (count == 0 && !IsTold(shownAs)) context_.reporter.Report({"input-empty", {shownAs}});
+      return count;
+    };
+    VisitInput({file, ""}, context_.streams, context_.reporter, visit);
+    if (!isOpen) context_.reporter.Report({"input-missing", {file}});
+  }
+
+  bool IsTold(const std::string& file) const {
+    return std::any_of(inputs_.begin(), inputs_.end(),
+                       [&](const Finding& finding) { return finding.place.file == file; });
   }
 
   void CheckHoleTypes() {
@@ -215,8 +236,7 @@ class CheckRun {
       const auto read = [this](std::istream& in, const std::string& shownAs, Progress&) {
         return ReadHoleTypes(in, shownAs, context_.reporter).size();
       };
-      VisitInput({file, Say("no hole type was read from this file", "没有从此文件读到任何孔类型")},
-                 context_.streams, context_.reporter, read);
+      Visit(file, read);
     }
   }
 
@@ -244,7 +264,9 @@ class CheckRun {
                                                    "无法读取此文件；--update-baseline 会写出它"));
       return false;
     }
+    const std::size_t found = report_.findings.size();
     Comparison comparison = CompareWithBaseline(std::move(report_.findings), ReadBaseline(*text));
+    report_.accepted = found - comparison.fresh.size();
     report_.findings = std::move(comparison.fresh);
     for (const AcceptedFinding& finding : comparison.vanished) {
       report_.incomplete.push_back(
@@ -260,6 +282,7 @@ class CheckRun {
       const Finding& finding = report_.findings[i];
       accepted.push_back({fingerprints[i], finding.place.file + ": " + LineOf(finding, Language::kEnglish)});
     }
+    report_.accepted = report_.findings.size();
     report_.findings.clear();
     return WriteOutputFile(job_.baseline, WriteBaseline(accepted), IfPresent::kReplace, context_.reporter);
   }
@@ -292,6 +315,7 @@ class CheckRun {
   Configuration configuration_;
   std::vector<GivenTable> tables_;
   std::vector<Finding> wayThere_;  ///< Of the index and the manifest.
+  std::vector<Finding> inputs_;    ///< Of plates and hole types.
   std::string folder_;
   CheckReport report_;
 };
@@ -315,15 +339,20 @@ void ExplainCode(const std::string& name, Context& context) {
   const CodeRow& row = *found;
   const Language language = CurrentLanguage();
   std::ostream& out = context.streams.out;
-  out << row.name << "  (" << NameOf(row.severity)
-      << (row.habit == Habit::kOff ? Say(", off by default", "，默认关闭") : "") << ")\n\n  "
-      << row.message.In(language) << "\n";
-  if (!row.advice.In(language).empty()) out << "  " << row.advice.In(language) << "\n";
-  if (!row.page.In(language).empty()) out << "\n" << row.page.In(language) << "\n";
+  const std::string habit = row.habit == Habit::kOff ? Say(", off by default", "，默认关闭") : "";
+  out << row.name << "  " << Say("({}{})", "（{}{}）", WordsOf(row.severity).In(language), habit) << "\n\n  "
+      << OutlineOf(row.message.In(language)) << "\n";
+  if (!row.advice.In(language).empty()) out << "  " << OutlineOf(row.advice.In(language)) << "\n";
+  out << "\n" << row.page.In(language) << "\n";
 }
 
 void RunCheck(const CheckJob& job, Context& context) {
   if (!job.explained.empty()) return ExplainCode(job.explained, context);
+  if (job.updateBaseline && job.baseline.empty()) {
+    return context.reporter.Error({"plateconfig"},
+                                  Say("--update-baseline writes the file that --baseline names",
+                                      "--update-baseline 写出 --baseline 所指定的文件，请同时给出"));
+  }
   CheckRun(job, context).Run();
 }
 

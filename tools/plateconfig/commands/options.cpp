@@ -39,7 +39,7 @@ std::string Listed(const std::vector<std::string>& names) {
 }
 
 void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles) {
-  command.footer(Say("Roles: {}", "角色：{}", Listed(roles)) + "\n\n" + command.get_footer());
+  command.footer(Say("Roles: {}", "用途：{}", Listed(roles)) + "\n\n" + command.get_footer());
 }
 
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,

@@ -30,7 +30,12 @@ std::optional<RuleTables> LoadTables(const PlateJob& job, Context& context) {
 class PlateLoop {
  public:
   PlateLoop(const PlateJob& job, const RuleTables& tables, Context& context, const PlateVisitor& visit)
-      : job_(job), tables_(tables), vocabulary_(tables.processRules), context_(context), visit_(visit) {}
+      : job_(job),
+        tables_(tables),
+        vocabulary_(tables.processRules),
+        rules_(tables.processRules),
+        context_(context),
+        visit_(visit) {}
 
   void VisitFiles() {
     VisitPlateFiles(job_.files, vocabulary_, context_, [this](const PlateInput& plate) { Visit(plate); });
@@ -42,9 +47,8 @@ class PlateLoop {
  private:
   void Visit(const PlateInput& plate) {
     if (!IsWanted(plate)) return;
-    std::vector<ProcessRule> rules = tables_.processRules;
-    FeedRules(rules, plate.features);
-    visit_(plate, tables_, rules);
+    FeedRules(rules_, plate.features);
+    visit_(plate, tables_, rules_);
   }
 
   bool IsWanted(const PlateInput& plate) {
@@ -63,6 +67,7 @@ class PlateLoop {
   std::set<std::string> met_;  ///< The names of all plates, when only some are wanted.
   const RuleTables& tables_;
   PlateVocabulary vocabulary_;
+  std::vector<ProcessRule> rules_;  ///< The process list, fed with the plate at hand.
   Context& context_;
   const PlateVisitor& visit_;
 };

@@ -44,7 +44,7 @@ void WriteText(const Setting& setting, bool withMeaning, std::ostream& out) {
 
 void WriteText(Role role, const std::optional<TableFile>& file, const std::vector<Setting>& settings,
                bool withMeanings, std::ostream& out) {
-  out << NameOf(role) << "  " << (file ? file->shownAs : Say("no file plays this role", "没有文件担任此角色"))
+  out << NameOf(role) << "  " << (file ? file->shownAs : Say("no file plays this role", "未指定此表"))
       << "\n";
   for (const Setting& setting : settings) WriteText(setting, withMeanings, out);
   out << "\n";
@@ -100,8 +100,8 @@ std::vector<std::string> AllNames() {
 Run ShowOptions(CLI::App& command) {
   const auto job = std::make_shared<ShowJob>();
   AddConfigurationOptions(command, AllRoles(), job->configuration);
-  command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些角色的表"))
-      ->type_name(Say("ROLE", "角色"))
+  command.add_option("roles", job->roles, Say("only the tables of these roles", "仅显示这些用途的表"))
+      ->type_name(Say("ROLE", "用途"))
       ->check(OneOf(AllNames()));
   command.add_flag("--meanings", job->meanings,
                    Say("also what each setting does on the drawing", "同时说明每项设置在图纸上起什么作用"));

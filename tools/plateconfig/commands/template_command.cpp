@@ -33,8 +33,8 @@ std::vector<std::string> RoleNames() {
 
 Run TemplateOptions(CLI::App& command) {
   const auto job = std::make_shared<TemplateJob>();
-  command.add_option("role", job->role, Say("the role of the table", "表的角色"))
-      ->type_name(Say("ROLE", "角色"))
+  command.add_option("role", job->role, Say("the role of the table", "表的用途"))
+      ->type_name(Say("ROLE", "用途"))
       ->required()
       ->check(OneOf(RoleNames()));
   AddRolesToHelp(command, RoleNames());

@@ -25,7 +25,7 @@ std::span<const Verb> Verbs() {
       {"schema", "print every table and column that the library reads, with defaults",
        "列出库读取的所有表和列及其默认值", SchemaOptions},
       {"template", "write a table with all columns of a role and their defaults (GBK, CR LF)",
-       "写出某一角色的表，含全部列及默认值（GBK，CR LF）", TemplateOptions},
+       "写出某一用途的表，含全部列及默认值（GBK，CR LF）", TemplateOptions},
   };
   return kVerbs;
 }

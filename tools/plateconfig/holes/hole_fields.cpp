@@ -80,7 +80,7 @@ Field<HoleInput> SegmentsField(std::size_t group,
 /// A list for each segment of a group.
 template <typename Lists>
 Field<HoleTypeInput> ListsField(FieldNames names, Lists HoleTypeInfo::*lists) {
-  return FieldOf<Lists, HoleTypeInput>(names, Need::kOptional, [lists](HoleTypeInput& input, Lists value) {
+  return FieldOf<Lists, HoleTypeInput>(names, Need::kExpected, [lists](HoleTypeInput& input, Lists value) {
     input.type.*lists = std::move(value);
   });
 }

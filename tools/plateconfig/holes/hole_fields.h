@@ -23,7 +23,7 @@ struct HoleGroupNames {
 /// In the order of `kHoleGroups`.
 inline constexpr HoleGroupNames kHoleGroupNames[] = {
     {"top", "顶", {"top", "顶部"}, {"顶颜色", "topColor"}, {"顶直径", "topDiameter"}},
-    {"through", "通", {"through", "贯通"}, {"通颜色", "throughColor"}, {"通直径", "throughDiameter"}},
+    {"through", "通", {"through", "通孔"}, {"通颜色", "throughColor"}, {"通直径", "throughDiameter"}},
     {"bottom", "底", {"bottom", "底部"}, {"底颜色", "bottomColor"}, {"底直径", "bottomDiameter"}},
 };
 static_assert(std::size(kHoleGroupNames) == kHoleGroupCount);

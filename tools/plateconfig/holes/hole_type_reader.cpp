@@ -1,8 +1,10 @@
 #include "plateconfig/holes/hole_type_reader.h"
 
+#include <map>
 #include <optional>
 #include <utility>
 
+#include "analysis/text/folded_name.h"
 #include "analysis/text/shown_text.h"
 #include "analysis/text/strict_values.h"
 #include "config/text_helpers.h"
@@ -12,29 +14,97 @@
 namespace plateconfig {
 namespace {
 
-/// Warns of types that can not accept any hole.
+constexpr int kLastColor = 216;
+
+/// Warns of types that can not accept any hole, or others than it looks.
 class TypeCheck {
  public:
-  TypeCheck(const std::string& file, Reporter& reporter) : file_(file), reporter_(reporter) {}
+  TypeCheck(const std::string& file, bool hasColumns, const std::vector<HoleTypeInput>& types,
+            Reporter& reporter)
+      : file_(file), hasColumns_(hasColumns), types_(types), reporter_(reporter) {}
 
-  void Run(const HoleTypeInput& input) {
-    const std::vector<std::size_t> counts = SegmentCounts(input.type.countKey);
-    if (counts.empty()) {
-      Report({.code = "hole-type-structure", .text = input.type.countKey, .words = {ShownText(input.name)}},
-             input);
+  void Run() {
+    for (const HoleTypeInput& type : types_) {
+      CheckName(type);
+      const std::vector<std::size_t> counts = SegmentCounts(type.type.countKey);
+      if (counts.empty()) {
+        Report({.code = "hole-type-structure", .text = type.type.countKey, .words = {ShownText(type.name)}},
+               type);
+      }
+      for (std::size_t group = 0; group < counts.size(); ++group) CheckGroup(type, group, counts[group]);
     }
-    for (std::size_t group = 0; group < counts.size(); ++group) CheckColors(input, group, counts[group]);
   }
 
  private:
-  void CheckColors(const HoleTypeInput& input, std::size_t group, std::size_t segments) {
-    const std::size_t lists = (input.type.*kHoleGroups[group].colors).size();
-    if (lists >= segments) return;
-    const FieldNames& names = kHoleGroupNames[group].colors;
-    Report({.code = "hole-type-refuses-all",
-            .words = {ShownText(input.name), std::string(names.member), std::string(names.column),
-                      std::to_string(lists), std::to_string(segments)}},
+  void CheckName(const HoleTypeInput& input) {
+    const auto [first, isNew] = lines_.emplace(input.name, input.position.line);
+    if (!isNew) {
+      Report({.code = "hole-type-name-twice", .text = input.name, .words = {std::to_string(first->second)}},
+             input);
+    }
+    const std::string bare(WithoutOuterBlanks(input.name));
+    if (bare != input.name) Report({.code = "text-blank", .text = input.name, .fix = bare}, input);
+  }
+
+  void CheckGroup(const HoleTypeInput& input, std::size_t group, std::size_t segments) {
+    const HoleGroupNames& names = kHoleGroupNames[group];
+    const auto& colors = input.type.*kHoleGroups[group].colors;
+    const auto& diameters = input.type.*kHoleGroups[group].diameters;
+    if (colors.size() < segments) {
+      Report({.code = "hole-type-refuses-all",
+              .columnName = ColumnName(names.colors),
+              .words = {ShownText(input.name), std::string(names.colors.member),
+                        std::string(names.colors.column), std::to_string(colors.size()),
+                        std::to_string(segments)}},
+             input);
+    }
+    CheckColors(input, names, colors);
+    if (segments == 0 && !colors.empty()) ReportUnused(input, names, names.colors);
+    if (segments == 0 && !diameters.empty()) ReportUnused(input, names, names.diameters);
+    if (segments > 0 && diameters.empty() && IsListedElsewhere(group, input)) {
+      Report({.code = "hole-type-no-diameters",
+              .columnName = ColumnName(names.diameters),
+              .words = {ShownText(input.name), names.name}},
+             input);
+    }
+  }
+
+  void CheckColors(const HoleTypeInput& input, const HoleGroupNames& names,
+                   const std::vector<std::vector<int>>& lists) {
+    for (const std::vector<int>& list : lists) {
+      for (const int color : list) {
+        if (color >= 0 && color <= kLastColor) continue;
+        Report({.code = "hole-type-color",
+                .columnName = ColumnName(names.colors),
+                .text = std::to_string(color)},
+               input);
+      }
+    }
+  }
+
+  void ReportUnused(const HoleTypeInput& input, const HoleGroupNames& names, const FieldNames& field) {
+    Report({.code = "hole-type-list-unused",
+            .columnName = ColumnName(field),
+            .words = {ShownText(input.name), names.name,
+                      std::string(hasColumns_ ? field.column : field.member)}},
            input);
+  }
+
+  /// Whether every other type with segments of the group has diameters for them; among few nothing is usual.
+  bool IsListedElsewhere(std::size_t group, const HoleTypeInput& input) const {
+    constexpr std::size_t kFew = 3;
+    std::size_t others = 0;
+    for (const HoleTypeInput& each : types_) {
+      const std::vector<std::size_t> counts = SegmentCounts(each.type.countKey);
+      if (&each == &input || counts.empty() || counts[group] == 0) continue;
+      if ((each.type.*kHoleGroups[group].diameters).empty()) return false;
+      ++others;
+    }
+    return others >= kFew;
+  }
+
+  std::string ColumnName(const FieldNames& names) const {
+    return hasColumns_ ? std::string(names.column) : std::string();
   }
 
   void Report(Finding finding, const HoleTypeInput& input) {
@@ -43,7 +113,10 @@ class TypeCheck {
   }
 
   const std::string& file_;
+  bool hasColumns_;
+  const std::vector<HoleTypeInput>& types_;
   Reporter& reporter_;
+  std::map<std::string, std::size_t> lines_;  ///< Of the first type of each name.
 };
 
 }  // namespace
@@ -60,11 +133,11 @@ std::vector<std::size_t> SegmentCounts(const std::string& structure) {
 }
 
 std::vector<HoleTypeInput> ReadHoleTypes(std::istream& in, const std::string& file, Reporter& reporter) {
+  const bool hasColumns = !IsJson(in, file);
   const auto reader = ReadRecords(in, file, HoleTypeFields(), reporter);
   std::vector<HoleTypeInput> types;
   while (std::optional<HoleTypeInput> type = reader->Next()) types.push_back(std::move(*type));
-  TypeCheck check(file, reporter);
-  for (const HoleTypeInput& type : types) check.Run(type);
+  TypeCheck(file, hasColumns, types, reporter).Run();
   return types;
 }
 

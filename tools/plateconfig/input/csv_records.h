@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
 #include "plateconfig/input/csv_stream.h"
 #include "plateconfig/input/field.h"
@@ -27,13 +28,16 @@ class CsvRecords : public RecordReader<Record> {
     bool isBehindALoss = false;  ///< A row right before this one could not be read, which is reported.
   };
 
-  /// Reads the header. Missing columns are errors. Columns that stand there twice, and unknown ones that look
-  /// like a known one, are warned of; others are taken as the user's own remarks.
+  /// Reads the header. Missing columns are errors, or hints where they may be missing. Columns that stand
+  /// there twice, and unknown ones that look like a known one, are warned of; others are taken as the user's
+  /// own remarks.
   CsvRecords(std::istream& in, const std::string& file, RecordKind<Record> kind, Reporter& reporter)
       : rows_(in, file, reporter), file_(file), kind_(std::move(kind)), reporter_(reporter) {
     const CsvRow* header = rows_.ReadHeader();
     if (header == nullptr) return;
     for (std::size_t column = 0; column < header->cells.size(); ++column) TakeColumn(*header, column);
+    NoteMissing();
+    for (std::size_t column = 0; column < header->cells.size(); ++column) CheckName(*header, column);
     isUsable_ = HasRequiredColumns(*header);
     lastNumber_ = header->number;
   }
@@ -74,10 +78,36 @@ class CsvRecords : public RecordReader<Record> {
     const bool isKnown = field != kind_.fields.end();
     const bool isSecond = isKnown && HasColumn(*field);
     columns_.push_back(isKnown && !isSecond ? &*field : nullptr);
-    if (isSecond) return Warn(header, column, "input-column-twice", {});
-    if (isKnown || cell.text.empty()) return;
-    const std::string similar = MostSimilarName(cell.text, Names(kind_.fields, &FieldNames::column));
-    if (!similar.empty()) Warn(header, column, "input-column-unknown", similar);
+  }
+
+  /// Of a column that is not read.
+  void CheckName(const CsvRow& header, std::size_t column) {
+    const std::string_view name = header.cells[column].text;
+    if (name.empty() || columns_[column] != nullptr) return;
+    if (std::find(names_.begin(), names_.end(), name) != names_.end())
+      return Warn(header, column, "input-column-twice", {});
+    const std::string meant = Meant(name);
+    if (!meant.empty()) Warn(header, column, "input-column-unknown", meant);
+  }
+
+  void NoteMissing() {
+    names_ = Names(kind_.fields, &FieldNames::column);
+    for (const Field<Record>& field : kind_.fields) {
+      if (field.names.column.empty() || HasColumn(field)) continue;
+      missing_.emplace_back(FoldedNameWithoutUnit(field.names.column), field.names.column);
+      if (field.need != Need::kOptional) missed_.push_back(field.names.column);
+    }
+  }
+
+  /// The name of a column that another one probably was to have: it is the same to the eye or much alike, or
+  /// a slip away from one that should be there and is not.
+  std::string Meant(std::string_view name) const {
+    const std::string folded = FoldedNameWithoutUnit(name);
+    const auto same = std::find_if(missing_.begin(), missing_.end(),
+                                   [&](const auto& each) { return each.first == folded; });
+    if (same != missing_.end()) return std::string(same->second);
+    std::string similar = MostSimilarName(name, names_);
+    return similar.empty() ? SlippedName(name, missed_) : similar;
   }
 
   bool HasColumn(const Field<Record>& field) const {
@@ -97,11 +127,14 @@ class CsvRecords : public RecordReader<Record> {
     bool hasAll = true;
     for (const Field<Record>& field : kind_.fields) {
       if (field.names.column.empty() || field.need == Need::kOptional || HasColumn(field)) continue;
-      reporter_.Report({.code = "input-column-missing",
+      const bool isExpected = field.need == Need::kExpected;
+      // A hint is for who looks at the file itself.
+      if (isExpected && !reporter_.Collects()) continue;
+      reporter_.Report({.code = isExpected ? Code("input-column-absent") : Code("input-column-missing"),
                         .place = PlaceIn(file_, header.cells.front().position),
                         .columnName = std::string(field.names.column),
                         .words = {kind_.nothing}});
-      hasAll = false;
+      hasAll = hasAll && isExpected;
     }
     return hasAll;
   }
@@ -113,7 +146,7 @@ class CsvRecords : public RecordReader<Record> {
       if (field == nullptr) continue;
       // A cell that a short row lacks is empty and stands at the row's end.
       const std::string_view text = column < cells.cells.size() ? cells.cells[column].text : "";
-      if (text.empty() && field->need == Need::kOptional) continue;
+      if (text.empty() && field->need != Need::kRequired) continue;
       if (auto mistake = field->fromCell(text, row.record)) {
         row.isGood = false;
         Refuse(cells, column, *mistake);
@@ -136,6 +169,11 @@ class CsvRecords : public RecordReader<Record> {
   RecordKind<Record> kind_;
   Reporter& reporter_;
   std::vector<const Field<Record>*> columns_;  ///< One per column; null for a column that is ignored.
+  // Names of columns, which live in the fields: all, those that the header lacks, and of these the ones that
+  // should be there.
+  std::vector<std::string_view> names_;
+  std::vector<std::pair<std::string, std::string_view>> missing_;  ///< Folded, and as they are.
+  std::vector<std::string_view> missed_;
   bool isUsable_ = false;
   std::size_t lastNumber_ = 0;
 };

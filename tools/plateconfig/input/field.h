@@ -32,8 +32,9 @@ struct FieldNames {
   std::string_view member;
 };
 
-/// Whether a field may be missing. A column that may be missing may have empty cells too.
-enum class Need { kOptional, kRequired };
+/// Whether a field may be missing. A column that may be missing may have empty cells too; that an expected
+/// one is missing is told.
+enum class Need { kOptional, kExpected, kRequired };
 
 /// What is wrong with a text of a cell.
 struct CellMistake {

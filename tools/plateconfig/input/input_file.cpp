@@ -22,7 +22,7 @@ void Visit(const OpenInput& input, const Streams& streams, Reporter& reporter, c
   reporter.BeforeMessage([&progress] { progress.Clear(); });
   const std::size_t count = read(input.in, input.shownAs, progress);
   if (input.in.bad()) reporter.Error({input.shownAs}, Say("reading this file failed", "读取此文件失败"));
-  if (count == 0) reporter.Warning({input.shownAs}, input.nothingRead);
+  if (count == 0 && !input.nothingRead.empty()) reporter.Warning({input.shownAs}, input.nothingRead);
   reporter.BeforeMessage({});
 }
 

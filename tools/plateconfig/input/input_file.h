@@ -20,7 +20,7 @@ using ReadInput =
 
 struct InputFile {
   std::string name;         ///< UTF-8; "-" is standard input.
-  std::string nothingRead;  ///< The warning for one that holds nothing.
+  std::string nothingRead;  ///< The warning for one that holds nothing; empty for none.
 };
 
 /// Opens the input and has it read. One that can not be opened or read is an error.

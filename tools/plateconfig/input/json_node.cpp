@@ -6,9 +6,16 @@
 #include <string>
 
 #include "analysis/text/position_counter.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
+
+/// The text without a character that the parser has cut.
+std::string WholeCharacters(std::string text) {
+  while (!IsValidUtf8(text)) text.pop_back();
+  return text;
+}
 
 /// Follows the characters that the parser takes and remembers where the latest value or name began. The
 /// parser may be one character ahead of what it reports, which never begins a value: it is the separator
@@ -109,7 +116,8 @@ class NodeBuilder : public nlohmann::json_sax<nlohmann::json> {
     constexpr int kNumberOverflow = 406;
     if (near.empty()) return Refuse("input-json-end", tracker_.At());
     const bool isNumber = error.id == kNumberOverflow;
-    return Refuse(isNumber ? Code("input-json-number") : Code("input-json-syntax"), tracker_.Token(), near);
+    return Refuse(isNumber ? Code("input-json-number") : Code("input-json-syntax"), tracker_.Token(),
+                  WholeCharacters(near));
   }
 
  private:

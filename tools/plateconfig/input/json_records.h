@@ -33,7 +33,7 @@ void ReadObject(const JsonNode& object, const RecordKind<Record>& kind, JsonValu
     ReadMember(name, node, kind, values, record);
   });
   for (const Field<Record>& field : kind.fields) {
-    if (field.names.member.empty() || field.need == Need::kOptional) continue;
+    if (field.names.member.empty() || field.need != Need::kRequired) continue;
     if (object.Find(field.names.member) != nullptr) continue;
     values.Refuse(object, {.code = kind.missingMember, .text = std::string(field.names.member)});
   }

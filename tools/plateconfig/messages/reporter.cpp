@@ -7,12 +7,12 @@ namespace plateconfig {
 
 void Reporter::Error(const Place& place, const std::string& text) {
   hasErrors_ = true;
-  Write(place, "error", text);
+  Write(place, Severity::kError, text);
 }
 
 void Reporter::Warning(const Place& place, const std::string& text) {
   hasFindings_ = hasFindings_ || warningsCount_;
-  Write(place, "warning", text);
+  Write(place, Severity::kWarning, text);
 }
 
 void Reporter::Report(const Finding& finding) {
@@ -20,12 +20,12 @@ void Reporter::Report(const Finding& finding) {
   const Severity severity = finding.code.Row().severity;
   hasErrors_ = hasErrors_ || severity == Severity::kError;
   hasFindings_ = hasFindings_ || (warningsCount_ && severity == Severity::kWarning);
-  Write(finding.place, NameOf(severity), LineOf(finding, CurrentLanguage()));
+  Write(finding.place, severity, LineOf(finding, CurrentLanguage()));
 }
 
-void Reporter::Write(const Place& place, std::string_view severity, const std::string& text) {
+void Reporter::Write(const Place& place, Severity severity, const std::string& text) {
   if (prepare_) prepare_();
-  err_ << ToString(place) << ": " << severity << ": " << text << "\n";
+  err_ << ToString(place) << ": " << WordsOf(severity).In(CurrentLanguage()) << ": " << text << "\n";
 }
 
 }  // namespace plateconfig

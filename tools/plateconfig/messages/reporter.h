@@ -35,6 +35,7 @@ class Reporter {
 
   /// From now on findings go there, instead of onto the stream, and do not count; null ends it.
   void CollectInto(std::vector<Finding>* findings) { collected_ = findings; }
+  bool Collects() const { return collected_ != nullptr; }
 
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
@@ -43,7 +44,7 @@ class Reporter {
   ExitCode Result() const { return hasErrors_ ? kUnusable : hasFindings_ ? kFindings : kFine; }
 
  private:
-  void Write(const Place& place, std::string_view severity, const std::string& text);
+  void Write(const Place& place, Severity severity, const std::string& text);
 
   std::ostream& err_;
   std::vector<Finding>* collected_ = nullptr;

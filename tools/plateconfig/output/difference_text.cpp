@@ -85,8 +85,8 @@ class Writer {
  private:
   void WriteHead() {
     if (report_.plateCount) {
-      out_ << Say("this edit changes {} of {} plates", "此修改影响 {} / {} 块板", report_.plates.size(),
-                  *report_.plateCount)
+      out_ << Say("this edit changes {} of {} plates", "此修改影响 {1} 块板中的 {0} 块",
+                  report_.plates.size(), *report_.plateCount)
            << "\n";
     }
     const ConfigurationDifference& difference = report_.difference;

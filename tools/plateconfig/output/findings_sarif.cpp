@@ -25,6 +25,13 @@ const char* LevelOf(Severity severity) {
   return "note";
 }
 
+/// A text as SARIF has messages: braces, which stand for something there, are doubled.
+Json MessageJson(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) escaped.append(c == '{' || c == '}' ? 2 : 1, c);
+  return {{"text", escaped}};
+}
+
 /// A path as the reference of a URI (RFC 3986): slashes, and every byte that is not plain as %XX.
 std::string UriOf(const std::string& path) {
   constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
@@ -55,12 +62,11 @@ std::vector<const CodeRow*> RulesOf(const CheckReport& report) {
 }
 
 Json RuleToJson(const CodeRow& row, Language language) {
-  const std::string page(row.page.In(language));
-  Json rule = {{"id", row.name}, {"defaultConfiguration", {{"level", LevelOf(row.severity)}}}};
-  if (page.empty()) return rule;
-  rule["fullDescription"] = {{"text", page}};
-  rule["help"] = {{"text", page}};
-  return rule;
+  const Json page = MessageJson(row.page.In(language));
+  return {{"id", row.name},
+          {"defaultConfiguration", {{"level", LevelOf(row.severity)}}},
+          {"fullDescription", page},
+          {"help", page}};
 }
 
 Json LocationOf(const Place& place) {
@@ -78,7 +84,7 @@ Json ResultOf(const Finding& finding, const std::string& fingerprint,
   return {{"ruleId", finding.code.Name()},
           {"ruleIndex", std::distance(rules.begin(), rule)},
           {"level", LevelOf(finding.code.Row().severity)},
-          {"message", {{"text", LineOf(finding, language)}}},
+          {"message", MessageJson(LineOf(finding, language))},
           {"locations", Json::array({LocationOf(finding.place)})},
           {"partialFingerprints", {{"plateconfigFinding/v1", fingerprint}}}};
 }

@@ -11,19 +11,9 @@
 namespace plateconfig {
 namespace {
 
+/// So many of one code are shown of a file, and so many of a kin.
 constexpr int kMostOfOneCode = 20;
-
-std::string SeverityText(Severity severity) {
-  switch (severity) {
-    case Severity::kError:
-      return Say("error", "错误");
-    case Severity::kWarning:
-      return Say("warning", "警告");
-    case Severity::kHint:
-      break;
-  }
-  return Say("hint", "提示");
-}
+constexpr int kMostOfAKin = 3;
 
 std::string Where(const Finding& finding) {
   if (!finding.cell.empty()) return finding.cell;
@@ -51,22 +41,43 @@ std::string UsedAs(const Finding& finding) {
 
 void WriteFinding(const Finding& finding, std::ostream& out) {
   const std::string where = Where(finding);
-  out << "  " << where << (where.empty() ? "" : "  ") << SeverityText(finding.code.Row().severity) << ": "
+  out << "  " << where << (where.empty() ? "" : "  ")
+      << WordsOf(finding.code.Row().severity).In(CurrentLanguage()) << ": "
       << MessageOf(finding, CurrentLanguage()) << UsedAs(finding) << "  [" << finding.code.Name() << "]\n";
   const std::string remedy = Remedy(finding);
   if (!remedy.empty()) out << "      " << remedy << "\n";
 }
 
+/// Counts what is written of a file, so that one kind of finding does not hide the others.
+class Written {
+ public:
+  bool Takes(const Finding& finding) {
+    const bool isShown = codes_[finding.code.Name()] < kMostOfOneCode &&
+                         (finding.kin.empty() || ++kin_[finding.kin] <= kMostOfAKin);
+    ++(isShown ? codes_ : passedOver_)[finding.code.Name()];
+    return isShown;
+  }
+
+  const std::map<std::string_view, int>& PassedOver() const { return passedOver_; }
+
+ private:
+  std::map<std::string_view, int> codes_;
+  std::map<std::string_view, int> passedOver_;
+  std::map<std::string, int> kin_;
+};
+
 /// Writes the findings of one file; `end` is behind the last one.
 void WriteFile(const Finding* begin, const Finding* end, std::ostream& out) {
   out << begin->place.file << "\n";
-  std::map<std::string_view, int> written;
+  Written written;
   for (const Finding* finding = begin; finding != end; ++finding) {
-    if (++written[finding->code.Name()] <= kMostOfOneCode) WriteFinding(*finding, out);
+    if (written.Takes(*finding)) WriteFinding(*finding, out);
   }
-  for (const auto& [code, count] : written) {
-    if (count > kMostOfOneCode)
-      out << "  " << Say("and {} more of {}", "另有 {} 项 {}", count - kMostOfOneCode, code) << "\n";
+  for (const auto& [code, count] : written.PassedOver()) {
+    out << "  "
+        << Say("and {} more of {}; --format json lists all", "另有 {} 项 {}；--format json 列出全部", count,
+               code)
+        << "\n";
   }
   out << "\n";
 }
@@ -79,8 +90,14 @@ void WriteSummary(const CheckReport& report, std::ostream& out) {
       << "\n";
 }
 
+std::string NothingFound(const CheckReport& report) {
+  return report.accepted == 0 ? Say("nothing found; checked:", "没有发现问题；已检查：")
+                              : Say("nothing found but {} accepted findings; checked:",
+                                    "除 {} 项已接受的以外，没有发现问题；已检查：", report.accepted);
+}
+
 void WriteTables(const CheckReport& report, std::ostream& out) {
-  out << Say("nothing to complain of; checked:", "没有发现问题；已检查：") << "\n";
+  out << NothingFound(report) << "\n";
   for (const CheckedTable& table : report.tables)
     out << "  " << table.file << Say("  {} rows", "  {} 行", table.rows) << "\n";
   out << "\n";

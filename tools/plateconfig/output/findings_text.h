@@ -7,7 +7,8 @@
 namespace plateconfig {
 
 /// The report for people: grouped by file, each finding on two lines (what and where; what to write instead),
-/// of one code and file at most twenty, and a last line that counts everything.
+/// of one code and file at most twenty, of those that differ little a few, and a last line that counts
+/// everything.
 void WriteFindings(const CheckReport& report, std::ostream& out);
 
 }  // namespace plateconfig

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -73,6 +74,26 @@ std::optional<Finding> FullWidthSign(std::string_view text, const std::string& f
   return std::nullopt;
 }
 
+/// A comma with nothing but the closing brace behind it, outside of the texts.
+std::optional<Finding> CommaBehindTheLast(std::string_view text, const std::string& file) {
+  PositionCounter counter;
+  bool isInText = false;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t next = text.find_first_not_of(" \t\r\n", at + 1);
+    if (!isInText && text[at] == ',' && next != std::string_view::npos && text[next] == '}')
+      return Finding{"manifest-comma-last", PlaceIn(file, counter.At())};
+    if (text[at] == '"') isInText = !isInText;
+    counter.Take(text[at]);
+  }
+  return std::nullopt;
+}
+
+/// What a hand got wrong in a manifest that is no JSON; where that is not known, what the parser says.
+Finding MistakeIn(std::string_view text, const std::string& file, const Finding& parsers) {
+  if (const auto sign = FullWidthSign(text, file)) return *sign;
+  return CommaBehindTheLast(text, file).value_or(parsers);
+}
+
 bool EndsWithSeparator(const std::string& path) {
   return path.ends_with('/') || path.ends_with('\\');
 }
@@ -84,8 +105,8 @@ std::optional<TableFile> Configuration::Find(Role role) {
   if (table) return ReadableAgain(*table);
   if (isUsable_) {
     reporter_.Error({"plateconfig"}, Say("no table plays the role {0}: name it in {1}, or give --{0} FILE",
-                                         "没有文件担任 {0} 角色：请在 {1} 中指定，或使用 --{0} 文件",
-                                         NameOf(role), folder_.shownAs + kManifestName));
+                                         "未指定 {0} 表：请在 {1} 中指定，或使用 --{0} 文件", NameOf(role),
+                                         folder_.shownAs + kManifestName));
   }
   return std::nullopt;
 }
@@ -154,13 +175,15 @@ void Configuration::ReadManifest() {
   if (!IsValidUtf8(bytes->View())) return reporter_.Report({"manifest-encoding", {manifest.shownAs}});
   const std::string_view text = WithoutByteOrderMark(bytes->View());
   JsonNode root;
-  if (!ParseJson(text, {manifest.shownAs, 1, 1}, reporter_, root)) {
-    if (const auto sign = FullWidthSign(text, manifest.shownAs)) reporter_.Report(*sign);
-    return;
-  }
+  std::ostringstream nowhere;
+  std::vector<Finding> told;
+  Reporter parsers(nowhere);
+  parsers.CollectInto(&told);
+  if (!ParseJson(text, {manifest.shownAs, 1, 1}, parsers, root))
+    return reporter_.Report(MistakeIn(text, manifest.shownAs, told.front()));
   if (root.kind != JsonNode::Kind::kObject) {
     Finding finding{"manifest-no-object", PlaceIn(manifest.shownAs, root.position)};
-    finding.words = {{"{ role: file name, … }", "{ 角色: 文件名, … }"}};
+    finding.words = {{"{ role: file name, … }", "{ 用途: 文件名, … }"}};
     return reporter_.Report(finding);
   }
   isUsable_ = true;
@@ -175,6 +198,11 @@ void Configuration::ReadRole(const std::string& name, const JsonNode& file, cons
   if (!role) return reporter_.Report(UnknownRole(name, place));
   if (file.kind != JsonNode::Kind::kString) {
     Finding finding{"manifest-file-kind", place};
+    finding.text = name;
+    return reporter_.Report(finding);
+  }
+  if (file.text.empty()) {
+    Finding finding{"manifest-file-empty", place};
     finding.text = name;
     return reporter_.Report(finding);
   }

@@ -3,7 +3,7 @@
 // The check of a table, with its findings on the error stream: what every verb that reads tables says of
 // them, because the library says nothing.
 
-#include "analysis/checks/given_table.h"
+#include "analysis/checks/table_check.h"
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/tables/configuration.h"
 
