@@ -143,6 +143,7 @@ std::optional<Table> Table::Read(const std::string& path) {
     if (bytes) return Table(std::move(*bytes));
   } catch (const std::bad_alloc&) {
     // A file larger than the memory is a file that can not be read: the caller keeps its defaults.
+    CountFailedRead();
   }
   return std::nullopt;
 }

@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "platform/file_faults.h"
+
 namespace plateconfig {
 namespace {
 
@@ -10,14 +12,15 @@ std::atomic<bool> diagnosticFilesEnabled = true;
 }  // namespace
 
 DiagnosticFile::DiagnosticFile(Diagnostic which)
-    : file_(diagnosticFilesEnabled ? OpenDiagnosticFile(which) : kNoFile) {}
+    : file_(diagnosticFilesEnabled && !IsRefused(FileOperation::kOpen) ? OpenDiagnosticFile(which)
+                                                                       : kNoFile) {}
 
 DiagnosticFile::~DiagnosticFile() {
   if (IsOpen()) CloseDiagnosticFile(file_);
 }
 
 void DiagnosticFile::Append(std::string_view text) {
-  if (IsOpen()) AppendToDiagnosticFile(file_, text);
+  if (IsOpen() && !IsRefused(FileOperation::kWrite)) AppendToDiagnosticFile(file_, text);
 }
 
 void EnableDiagnosticFiles(bool enabled) {

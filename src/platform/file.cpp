@@ -1,8 +1,10 @@
 #include "platform/file.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
+#include "platform/file_faults.h"
 #include "platform/large_memory.h"
 
 namespace plateconfig {
@@ -19,11 +21,15 @@ class OpenedFile {
 
   bool IsOpen() const { return descriptor_ >= 0; }
   std::size_t Size() const { return SizeOf(descriptor_); }
-  long long Read(char* bytes, std::size_t room) const { return ReadSome(descriptor_, bytes, room); }
+  long long Read(char* bytes, std::size_t room) const {
+    return IsRefused(FileOperation::kRead) ? -1 : ReadSome(descriptor_, bytes, room);
+  }
 
  private:
   int descriptor_;
 };
+
+std::atomic<std::size_t> failedReads = 0;
 
 constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
 
@@ -40,11 +46,8 @@ void Grow(FileBytes& bytes, std::size_t& capacity) {
   bytes.data = std::move(larger);
 }
 
-}  // namespace
-
-std::optional<FileBytes> ReadWholeFile(const std::string& path) {
-  const OpenedFile file(path);
-  if (!file.IsOpen()) return std::nullopt;
+std::optional<FileBytes> ReadOpened(const OpenedFile& file) {
+  if (!file.IsOpen() || IsRefused(FileOperation::kOpen)) return std::nullopt;
   // A first guess: files such as pipes do not know their size.
   const std::size_t guess = file.Size();
   if (guess > kMostFileBytes) return std::nullopt;
@@ -59,6 +62,27 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
     if (bytes.size > kMostFileBytes) return std::nullopt;
     if (bytes.size == capacity) Grow(bytes, capacity);
   }
+}
+
+}  // namespace
+
+std::optional<FileBytes> ReadWholeFile(const std::string& path) {
+  const OpenedFile file(path);
+  std::optional<FileBytes> bytes = ReadOpened(file);
+  if (!bytes && (file.IsOpen() || FileExists(path))) CountFailedRead();
+  return bytes;
+}
+
+std::size_t FailedReads() {
+  return failedReads;
+}
+
+void CountFailedRead() {
+  ++failedReads;
+}
+
+void ForgetFailedRead() {
+  --failedReads;
 }
 
 }  // namespace plateconfig

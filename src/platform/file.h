@@ -34,6 +34,13 @@ std::size_t SizeOf(int descriptor);
 long long ReadSome(int descriptor, char* bytes, std::size_t room);
 void CloseDescriptor(int descriptor);
 
+/// How often in this process a file that is there could not be opened or read. Those who read it stay silent;
+/// who answers for the whole run can tell that something was missed.
+std::size_t FailedReads();
+void CountFailedRead();
+/// For who tells of the last one by itself.
+void ForgetFailedRead();
+
 /// True when something of this name exists, whatever its rights.
 bool FileExists(const std::string& path);
 

@@ -10,6 +10,20 @@ namespace {
 std::atomic<std::size_t> allocationCount = 0;
 constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
 thread_local std::size_t allocationsLeft = kUnlimited;
+thread_local bool refusesOnce = false;
+thread_local bool hasRefused = false;
+
+/// Counts down; true when this one is refused.
+bool RefusesAllocation() {
+  if (allocationsLeft == kUnlimited) return false;
+  if (allocationsLeft > 0) {
+    --allocationsLeft;
+    return false;
+  }
+  if (refusesOnce) allocationsLeft = kUnlimited;
+  hasRefused = true;
+  return true;
+}
 
 }  // namespace
 
@@ -17,8 +31,7 @@ thread_local std::size_t allocationsLeft = kUnlimited;
 // them; so the forms that share a delete are replaced together.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
   ++allocationCount;
-  if (allocationsLeft == 0) return nullptr;
-  if (allocationsLeft != kUnlimited) --allocationsLeft;
+  if (RefusesAllocation()) return nullptr;
   return std::malloc(size == 0 ? 1 : size);
 }
 
@@ -45,12 +58,18 @@ std::size_t AllocationCount() {
   return allocationCount;
 }
 
-AllocationLimit::AllocationLimit(std::size_t further) {
+AllocationLimit::AllocationLimit(std::size_t further, Lasting lasting) {
   allocationsLeft = further;
+  refusesOnce = lasting == Lasting::kOnce;
+  hasRefused = false;
 }
 
 AllocationLimit::~AllocationLimit() {
   allocationsLeft = kUnlimited;
+}
+
+bool AllocationLimit::WasEnough() const {
+  return !hasRefused;
 }
 
 }  // namespace plateconfig::test

@@ -3,6 +3,7 @@
 #include <CLI/App.hpp>
 #include <algorithm>
 #include <memory>
+#include <new>
 
 #include "config/text_helpers.h"
 #include "plateconfig/commands/options.h"
@@ -12,11 +13,13 @@
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/usage_message.h"
 #include "platform/diagnostic_file.h"
+#include "platform/file.h"
 
 namespace plateconfig {
 namespace {
 
 constexpr const char* kLanguageOption = "--lang";
+constexpr const char* kProgramName = "plateconfig";
 
 /// The language has to be known before the options are described in it.
 Language ChosenLanguage(const std::vector<std::string>& arguments) {
@@ -132,19 +135,26 @@ std::string NoSuchFormat(const Verb& verb, const std::string& format) {
              Listed(SplitString(std::string(verb.formats), " ")));
 }
 
+/// A table is read when it is looked at and again by the library's class, which stays silent when that fails.
+void ReportFailedRead(Reporter& reporter) {
+  reporter.Error({kProgramName},
+                 Say("a file that is there could not be read, or not a second time; run this again",
+                     "有一个存在的文件无法读取，或第二次读取失败；请再运行一次"));
+}
+
 void RunVerb(const CommandLine& line, const Streams& streams, Reporter& reporter) {
   if (!HasFormat(*line.verb, line.format))
-    return reporter.Error({"plateconfig"}, NoSuchFormat(*line.verb, line.format));
+    return reporter.Error({kProgramName}, NoSuchFormat(*line.verb, line.format));
   const Format format = line.format == "json"  ? Format::kJson
                         : line.format == "csv" ? Format::kCsv
                                                : Format::kText;
+  const std::size_t failedReads = FailedReads();
   Context context{streams, reporter, format, format == Format::kText ? &streams.out : nullptr};
   line.run(context);
+  if (FailedReads() != failedReads && reporter.Result() != kUnusable) ReportFailedRead(reporter);
 }
 
-}  // namespace
-
-int RunCompanion(const std::vector<std::string>& given, const Streams& streams) {
+int RunCommandLine(const std::vector<std::string>& given, const Streams& streams) {
   // Trying out tables must not grow the files in which the drawing tool's own runs are looked up.
   EnableDiagnosticFiles(false);
   const std::vector<std::string> arguments = WithHelpAsOption(given);
@@ -155,8 +165,23 @@ int RunCompanion(const std::vector<std::string>& given, const Streams& streams) 
   if (Parse(line, arguments, streams, exitCode)) RunVerb(line, streams, reporter);
   reporter.TellHowManyMore();
   streams.out.flush();
-  if (!streams.out) reporter.Error({"plateconfig"}, Say("the output could not be written", "无法写出结果"));
+  if (!streams.out) reporter.Error({kProgramName}, Say("the output could not be written", "无法写出结果"));
   return std::max<int>(exitCode, reporter.Result());
+}
+
+}  // namespace
+
+int RunCompanion(const std::vector<std::string>& arguments, const Streams& streams) {
+  try {
+    return RunCommandLine(arguments, streams);
+  } catch (const std::bad_alloc&) {
+    // Nothing here asks for memory.
+    streams.err << kProgramName << ": error: "
+                << (CurrentLanguage() == Language::kEnglish ? "there is not enough memory" : "内存不足")
+                << "\n"
+                << std::flush;
+    return kUnusable;
+  }
 }
 
 }  // namespace plateconfig

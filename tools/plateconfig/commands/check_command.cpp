@@ -2,8 +2,6 @@
 // What is wrong is said by analysis/checks and the readers of plates and holes; how it looks, by output/.
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -29,6 +27,7 @@
 #include "plateconfig/output/output_file.h"
 #include "plateconfig/plates/plate_check.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/system/file_streams.h"
 #include "plateconfig/tables/reported_index.h"
 #include "plateconfig/tables/reported_table.h"
 
@@ -205,8 +204,7 @@ class CheckRun {
   }
 
   void CheckPlateFile(PlateCheck& plates, const std::string& file) {
-    if (std::ifstream header(PathFromUtf8(file), std::ios::binary);
-        header && !IsPipeOrDevice(PathFromUtf8(file)))
+    if (InputFileStream header(PathFromUtf8(file)); header && !IsPipeOrDevice(PathFromUtf8(file)))
       plates.CheckHeader(header, file);
     const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
       return plates.Read(in, shownAs);
@@ -250,15 +248,14 @@ class CheckRun {
   /// False, with an error reported, when the file of accepted findings can not be read or written.
   bool ApplyBaseline() {
     if (job_.updateBaseline) return UpdateBaseline();
-    std::ifstream file(PathFromUtf8(job_.baseline), std::ios::binary);
-    if (!file) {
-      context_.reporter.Error({job_.baseline}, Say("this file can not be opened; --update-baseline writes it",
-                                                   "无法打开此文件；--update-baseline 会写出它"));
+    const std::optional<std::string> text = ReadAllBytes(PathFromUtf8(job_.baseline));
+    if (!text) {
+      context_.reporter.Error({job_.baseline}, Say("this file can not be read; --update-baseline writes it",
+                                                   "无法读取此文件；--update-baseline 会写出它"));
       return false;
     }
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
     const std::size_t found = report_.findings.size();
-    Comparison comparison = CompareWithBaseline(std::move(report_.findings), ReadBaseline(text));
+    Comparison comparison = CompareWithBaseline(std::move(report_.findings), ReadBaseline(*text));
     report_.accepted = found - comparison.fresh.size();
     report_.findings = std::move(comparison.fresh);
     for (const AcceptedFinding& finding : comparison.vanished) {

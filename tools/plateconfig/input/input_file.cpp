@@ -1,11 +1,11 @@
 #include "plateconfig/input/input_file.h"
 
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/system/file_streams.h"
 
 namespace plateconfig {
 namespace {
@@ -39,7 +39,7 @@ void VisitInput(const InputFile& file, const Streams& streams, Reporter& reporte
   if (std::filesystem::is_directory(path, error)) {
     return reporter.Error({name}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
   }
-  std::ifstream in(path, std::ios::binary);
+  InputFileStream in(path);
   if (!in) return reporter.Error({name}, Say("this file can not be opened", "无法打开此文件"));
   const auto size = std::filesystem::file_size(path, error);
   Visit({in, name, error ? 0 : static_cast<std::size_t>(size), file.nothingRead}, streams, reporter, read);

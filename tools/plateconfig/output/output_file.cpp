@@ -7,6 +7,7 @@
 
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/system/file_streams.h"
 
 namespace plateconfig {
 namespace {
@@ -54,22 +55,21 @@ bool CanNotBeWritten(const std::string& path, Reporter& reporter) {
 
 /// Where the bytes go until the end, and where they belong then.
 struct OutputFile::Place {
+  /// A rename would put a file in the place of a device.
+  explicit Place(const fs::path& path)
+      : target(IsPipeOrDevice(path) ? path : BehindLinks(path)),
+        temporary(IsPipeOrDevice(path) ? fs::path() : TemporaryNameFor(target)),
+        stream(temporary.empty() ? target : temporary) {}
+
   fs::path target;
   fs::path temporary;  ///< Empty for a device or a pipe, which is written into at once.
-  std::ofstream stream;
+  OutputFileStream stream;
 };
 
 std::unique_ptr<OutputFile> OutputFile::Open(const std::string& path, IfPresent ifPresent,
                                              Reporter& reporter) {
   if (!MayBeWritten(path, ifPresent, reporter)) return nullptr;
-  auto place = std::make_unique<Place>();
-  place->target = PathFromUtf8(path);
-  // A rename would put a file in the place of a device.
-  if (!IsPipeOrDevice(place->target)) {
-    place->target = BehindLinks(place->target);
-    place->temporary = TemporaryNameFor(place->target);
-  }
-  place->stream.open(place->temporary.empty() ? place->target : place->temporary, std::ios::binary);
+  auto place = std::make_unique<Place>(PathFromUtf8(path));
   if (!place->stream) {
     CanNotBeWritten(path, reporter);
     return nullptr;
@@ -82,7 +82,7 @@ OutputFile::OutputFile(std::string path, std::unique_ptr<Place> place)
 
 OutputFile::~OutputFile() {
   if (place_->temporary.empty()) return;
-  place_->stream.close();
+  place_->stream.Close();
   std::error_code error;
   fs::remove(place_->temporary, error);
 }
@@ -92,12 +92,9 @@ std::ostream& OutputFile::Stream() {
 }
 
 bool OutputFile::Finish(Reporter& reporter) {
-  place_->stream.close();
-  if (place_->stream.fail()) return CanNotBeWritten(path_, reporter);
+  if (!place_->stream.Close()) return CanNotBeWritten(path_, reporter);
   if (place_->temporary.empty()) return true;
-  std::error_code error;
-  fs::rename(place_->temporary, place_->target, error);
-  if (error) return CanNotBeWritten(path_, reporter);
+  if (RenameFile(place_->temporary, place_->target)) return CanNotBeWritten(path_, reporter);
   place_->temporary.clear();
   return true;
 }

@@ -1,10 +1,10 @@
 #include "plateconfig/tables/pipe_copies.h"
 
-#include <fstream>
 #include <random>
 #include <system_error>
 
 #include "plateconfig/system/console.h"
+#include "plateconfig/system/file_streams.h"
 #include "platform/file.h"
 
 namespace plateconfig {
@@ -32,10 +32,9 @@ std::optional<std::string> PipeCopies::CopyOf(const std::string& hostPath) {
 std::optional<std::string> PipeCopies::Write(std::string_view bytes) {
   if (folder_.empty() && !MakeFolder()) return std::nullopt;
   const fs::path path = folder_ / (std::to_string(copies_.size()) + ".csv");
-  std::ofstream file(path, std::ios::binary);
+  OutputFileStream file(path);
   file << bytes;
-  file.close();
-  if (file.fail()) return std::nullopt;
+  if (!file.Close()) return std::nullopt;
   const std::u8string utf8 = path.u8string();
   return HostPathFromUtf8(std::string(utf8.begin(), utf8.end()));
 }

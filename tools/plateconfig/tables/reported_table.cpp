@@ -11,8 +11,12 @@ namespace plateconfig {
 
 GivenTable GivenFrom(Role role, const TableFile& file) {
   GivenTable given{role, file.shownAs, FileExists(file.hostPath), nullptr};
-  if (std::optional<Table> table = given.exists ? Table::Read(file.hostPath) : std::nullopt)
+  if (!given.exists) return given;
+  if (std::optional<Table> table = Table::Read(file.hostPath)) {
     given.table = std::make_shared<const Table>(std::move(*table));
+  } else {
+    ForgetFailedRead();  // It is a finding.
+  }
   return given;
 }
 
