@@ -208,7 +208,10 @@ std::vector<Fixture> AllFixtures() {
 
 /// A reporter that keeps what it is told.
 struct Told {
-  Told() { messages.reporter.CollectInto(&findings); }
+  Told() {
+    messages.reporter.LookAtFiles();
+    messages.reporter.CollectInto(&findings);
+  }
 
   Codes TheirCodes() const {
     Codes codes;

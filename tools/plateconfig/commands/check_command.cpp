@@ -175,6 +175,7 @@ class CheckRun {
 
   /// Plates and hole types, behind the tables.
   void CheckInputs() {
+    context_.reporter.LookAtFiles();
     context_.reporter.CollectInto(&inputs_);
     CheckPlates();
     CheckHoleTypes();

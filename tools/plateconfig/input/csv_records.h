@@ -158,8 +158,7 @@ class CsvRecords : public RecordReader<Record> {
     for (const Field<Record>& field : kind_.fields) {
       if (field.names.column.empty() || field.need == Need::kOptional || HasColumn(field)) continue;
       const bool isExpected = field.need == Need::kExpected;
-      // A hint is for who looks at the file itself.
-      if (isExpected && !reporter_.Collects()) continue;
+      if (isExpected && !reporter_.LooksAtFiles()) continue;
       reporter_.Report({.code = isExpected ? Code("input-column-absent") : Code("input-column-missing"),
                         .place = PlaceIn(file_, header.cells.front().position),
                         .columnName = std::string(field.names.column),

@@ -43,7 +43,10 @@ class Reporter {
   std::vector<Finding>* CollectInto(std::vector<Finding>* findings) {
     return std::exchange(collected_, findings);
   }
-  bool Collects() const { return collected_ != nullptr; }
+
+  /// The files themselves are the question, so that also what only might be amiss in them is told.
+  void LookAtFiles() { looksAtFiles_ = true; }
+  bool LooksAtFiles() const { return looksAtFiles_; }
 
   /// To be called before each message: whoever draws on the error stream cleans up there. An empty function
   /// ends it.
@@ -70,6 +73,7 @@ class Reporter {
   bool hasErrors_ = false;
   bool hasFindings_ = false;
   bool warningsCount_ = true;
+  bool looksAtFiles_ = false;
 };
 
 /// Holds findings back until it is known whether they are to be told.
