@@ -88,8 +88,7 @@ TEST_F(ProcessCommand, SpeaksChinese) {
             "长板：没有符合的规则行（用 plateconfig explain 查看原因）\n"
             "3 块板：2 块已写出，1 块没有符合的行；配置 " +
                 configuration_.Path().substr(0, configuration_.Path().size() - 1) + "\n");
-  EXPECT_EQ(result.err,
-            "标准输入:5:3: 错误: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
+  EXPECT_EQ(result.err, "标准输入:5:3: 错误: B5: “x”不是数字；请写成 450 或 12.5 这样的数字（此板被跳过）\n");
   EXPECT_EQ(result.exitCode, 2);
 }
 
