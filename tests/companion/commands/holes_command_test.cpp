@@ -202,6 +202,17 @@ TEST_F(HolesCommand, AStructureThatNoHoleHasIsWarnedOf) {
   EXPECT_THAT(err_, HasSubstr("types.csv:4:1: warning: no hole has the structure \"1_1_0 \" of the type 丙"));
 }
 
+TEST_F(HolesCommand, ControlCharactersOfNamesNeverReachTheTerminal) {
+  folder_.WriteTable("types.csv", std::string(kTypeHeader) + "M\x1b[31m8,1_1_0,36,36,,14,9,,\n");
+  folder_.WriteTable("holes.csv",
+                     std::string(kHoleHeader) +
+                         "K\x1b[31m1,顶,14,9,,36,0,0,0\n,通,9,30,,36,0,0,0\nK\x1b[31m2,底,9,30,,36,0,0,0\n");
+  RunFiles("types.csv", "holes.csv", {"--explain"});
+  EXPECT_THAT(out_ + err_, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(out_, HasSubstr("M\uFFFD[31m8"));
+  EXPECT_THAT(out_, HasSubstr("K\uFFFD[31m1"));
+}
+
 TEST_F(HolesCommand, ARenamedColumnOfTypesIsWarnedOfWithTheNameThatIsMissing) {
   for (const char* name : {"通颜色(mm)", "通颜", "颜通色", "颜色"}) {
     std::string header = kTypeHeader;

@@ -3,6 +3,8 @@
 #include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/holes/hole_output.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
@@ -46,7 +48,7 @@ void WriteHeading(const HoleInput& input, std::ostream& out) {
   NXOpen::Point3d origin;
   double diameter = 0;
   HoleTypeInfo::GetCombHoleMaxDiameterAndOrigin(input.hole, &origin, &diameter);
-  out << input.name
+  out << OnOneLine(input.name)
       << Say(": structure {}, largest diameter {} mm, at {}, {}, {}",
              "：结构 {}，最大直径 {} mm，位置 {}, {}, {}", StructureKey(input.hole), Number(diameter),
              Number(origin.X), Number(origin.Y), Number(origin.Z))
@@ -55,7 +57,8 @@ void WriteHeading(const HoleInput& input, std::ostream& out) {
 
 void WriteType(const HoleInput& input, const TypeVerdict& verdict, const std::string& remark, bool inFull,
                std::ostream& out) {
-  out << fmt::format("  {:>5}  ", Number(verdict.result.Accuracy())) << verdict.type->name << remark << "\n";
+  out << fmt::format("  {:>5}  ", Number(verdict.result.Accuracy())) << OnOneLine(verdict.type->name)
+      << remark << "\n";
   if (!inFull) return;
   for (const SegmentVerdict& segment : verdict.segments) {
     out << "           " << SegmentText(input.hole, verdict.type->type, segment) << "\n";
@@ -69,7 +72,8 @@ void WriteNoType(const HoleAnswer& answer, bool inFull, std::ostream& out) {
   } else if (answer.refusing.empty()) {
     out << Say("  no type has this structure; the nearest:", "  没有这种结构的类型；最接近的：") << "\n";
     for (const HoleTypeInput* type : answer.nearStructure) {
-      out << "         " << type->type.countKey << "  " << type->name << "\n";
+      out << "         " << OnOneLine(GbkToUtf8(type->type.countKey)) << "  " << OnOneLine(type->name)
+          << "\n";
     }
   } else {
     out << Say("  no type accepts it; the nearest first:", "  没有类型接受此孔；最接近的排在最前：") << "\n";
