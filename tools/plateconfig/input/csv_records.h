@@ -48,8 +48,9 @@ class CsvRecords : public RecordReader<Record> {
       return;
     }
     held.Drop();
-    reporter_.Report(
-        {.code = "input-title-line", .place = {file_, 1, 1}, .words = {std::to_string(headerLine)}});
+    Finding finding{"input-title-line", {file_, 1, 1}};
+    finding.words = {std::to_string(headerLine)};
+    reporter_.Report(finding);
   }
 
   std::optional<Record> Next() override {
