@@ -25,12 +25,14 @@ double RefusedRow::Distance() const {
 std::vector<RefusedRow> NearestRows(const std::vector<RefusedRow>& rows, std::size_t count) {
   if (count == 0 || rows.size() <= count) return rows;
   std::vector<const RefusedRow*> nearest;
+  nearest.reserve(rows.size());
   for (const RefusedRow& row : rows) nearest.push_back(&row);
   std::stable_sort(nearest.begin(), nearest.end(),
                    [](const RefusedRow* a, const RefusedRow* b) { return a->Distance() < b->Distance(); });
   nearest.resize(count);
   std::sort(nearest.begin(), nearest.end());  // They stand in one vector: back to its order.
   std::vector<RefusedRow> chosen;
+  chosen.reserve(count);
   for (const RefusedRow* row : nearest) chosen.push_back(*row);
   return chosen;
 }

@@ -134,6 +134,7 @@ class Loader {
   void WalkRows(std::vector<Record>& list) const {
     constexpr const auto& keys = kReadingKeys<kKeys>;
     std::vector<Cells> columns;
+    columns.reserve(std::size(keys));
     for (const auto& key : keys) columns.push_back(ColumnOf(key));
     std::size_t rows = 0;
     for (const Cells& column : columns) rows = std::max(rows, column.size());
