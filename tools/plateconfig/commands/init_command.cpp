@@ -127,6 +127,7 @@ std::string Manifest(const std::map<Role, std::string>& files) {
 
 std::string RoleNames(const std::vector<Role>& roles) {
   std::vector<std::string> names;
+  names.reserve(roles.size());
   for (const Role role : roles) names.emplace_back(NameOf(role));
   return Listed(names);
 }

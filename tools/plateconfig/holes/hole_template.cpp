@@ -21,6 +21,7 @@ std::string Written(const RecordKind<Record>& kind, const std::vector<std::strin
     if (std::find(first.begin(), first.end(), column) == first.end()) columns.push_back(column);
   }
   std::vector<std::string> header;
+  header.reserve(columns.size());
   for (const std::string_view column : columns) header.push_back(Utf8ToGbk(column));
   std::string text = CsvLine(header);
   for (const Cells& row : rows) {
