@@ -41,6 +41,9 @@ class EverythingInACommaLocale : public ::testing::Environment {
     ::testing::AddGlobalTestEnvironment(new EverythingInACommaLocale);
 
 TEST(CommaLocale, HasADecimalCommaInTheCLibraryToo) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the build makes the locale elsewhere";
+#endif
   if (std::getenv("LOCPATH") == nullptr) GTEST_SKIP() << "the build did not make the locale";
   const CommaLocale comma;
   EXPECT_TRUE(HasCommaNow());
