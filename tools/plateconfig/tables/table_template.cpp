@@ -11,8 +11,6 @@
 namespace plateconfig {
 namespace {
 
-using literals::operator""_gbk;
-
 /// A column (GBK) and its cells from the first data row on.
 struct Column {
   std::string name;
