@@ -37,20 +37,12 @@ Finding HeaderFinding(Code code, const TableText& table, std::size_t column) {
   return finding;
 }
 
-/// The length of the character that begins here, which is a blank or a line break; 0 for any other.
-std::size_t BlankAt(std::string_view utf8, std::size_t at) {
-  constexpr std::string_view kBlanks[] = {" ", "\t", "\r", "\n", "\u00A0", "\u3000"};
-  const auto found = std::find_if(std::begin(kBlanks), std::end(kBlanks),
-                                  [&](std::string_view blank) { return utf8.substr(at).starts_with(blank); });
-  return found == std::end(kBlanks) ? 0 : found->size();
-}
-
 /// The name without its blanks, except the single ones between two words of letters.
 std::string WithoutBlanks(std::string_view utf8) {
   const auto isLetter = [&](std::size_t at) { return at < utf8.size() && utf8[at] > ' '; };
   std::string name;
   for (std::size_t at = 0; at < utf8.size();) {
-    const std::size_t blank = BlankAt(utf8, at);
+    const std::size_t blank = BlankLength(utf8, at);
     const bool separatesWords = utf8[at] == ' ' && at > 0 && isLetter(at - 1) && isLetter(at + 1);
     if (blank == 0 || separatesWords) name += utf8.substr(at, std::max<std::size_t>(blank, 1));
     at += std::max<std::size_t>(blank, 1);

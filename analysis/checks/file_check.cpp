@@ -110,8 +110,7 @@ Finding QuoteFinding(Code code, const TableText& table, std::size_t row, std::si
 void CheckQuotes(const TableText& table, std::size_t row, std::size_t column, const Raise& raise) {
   const std::string_view raw = table.Cells().RawCell(row, column);
   if (!raw.starts_with('"')) return;
-  const std::string text = table.Cells().Cell(row, column);
-  if (text == raw) {
+  if (table.HasOpenQuote(row, column)) {
     Finding finding = QuoteFinding("quote-open", table, row, column);
     finding.fix = GbkToUtf8(raw.substr(1));
     return raise(finding);
@@ -123,7 +122,7 @@ void CheckQuotes(const TableText& table, std::size_t row, std::size_t column, co
   }
   if (raw.ends_with('"')) return;
   Finding finding = QuoteFinding("quote-text-behind", table, row, column);
-  finding.usedAs = GbkToUtf8(text);
+  finding.usedAs = table.Text(row, column);
   raise(finding);
 }
 

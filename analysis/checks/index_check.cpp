@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "analysis/checks/cell_check.h"
+#include "analysis/cells/checked_cell.h"
 #include "analysis/checks/table_check.h"
 #include "analysis/text/folded_name.h"
 #include "analysis/text/table_text.h"
@@ -113,10 +113,9 @@ class IndexCheck {
   }
 
   static bool IsOdd(std::string_view name) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
     return name == "." || name.find("..") != std::string_view::npos ||
-           name.find_first_of("/\\:*?\"<>|") != std::string_view::npos || isBlank(name.front()) ||
-           isBlank(name.back()) || name.starts_with("\u3000") || name.ends_with("\u3000");
+           name.find_first_of("/\\:*?\"<>|") != std::string_view::npos ||
+           WithoutOuterBlanks(name).size() != name.size();
   }
 
   const ConfigurationIndex& index_;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/checks/cell_check.h"
+#include "analysis/cells/checked_cell.h"
 
 namespace plateconfig {
 namespace {

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "analysis/checks/cell_check.h"
+#include "analysis/cells/cell_check.h"
 #include "analysis/checks/column_check.h"
 #include "analysis/schema/table_schema.h"
 #include "analysis/text/folded_name.h"

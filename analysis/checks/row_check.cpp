@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/checks/cell_check.h"
+#include "analysis/cells/cell_check.h"
 #include "analysis/checks/column_check.h"
 #include "analysis/schema/table_schema.h"
 #include "analysis/text/folded_name.h"
@@ -208,9 +208,7 @@ class RowCheck {
   void CheckText(const Texts& texts, std::size_t row, std::size_t column) {
     const std::string text = table_.Text(row, column);
     if (FoldedName(text).empty()) return raise_(CellFinding("text-blank", table_, row, column));
-    if (text.starts_with('"') &&
-        table_.Cells().RawCell(row, column).size() == table_.Cells().Cell(row, column).size())
-      return;  // A quote that is not closed is told already.
+    if (table_.HasOpenQuote(row, column)) return;  // That is told already.
     if (texts.IsOdd(text)) return raise_(CellFinding("process-text-odd", table_, row, column));
     std::vector<Finding> found;
     CheckCell(table_, ProcessColumn(), row, column,

@@ -6,6 +6,7 @@
 #include "analysis/checks/rule_values.h"
 #include "analysis/rules/masked_rows.h"
 #include "analysis/rules/neighbouring_rows.h"
+#include "keys/cell_text.h"
 #include "rules/rule_table_keys.h"
 #include "text/gbk.h"
 
@@ -24,12 +25,6 @@ std::string Listed(const std::vector<int>& rows) {
 }
 
 /// Colours as a cell of the table has them.
-std::string ColorsText(const std::vector<int>& colors) {
-  std::string text;
-  for (const int color : colors) text += (text.empty() ? "" : "_") + std::to_string(color);
-  return text;
-}
-
 List Values(const std::vector<int>& numbers) {
   return List(numbers.begin(), numbers.end());
 }
@@ -178,7 +173,7 @@ class RuleFindings {
   }
 
   static Word GroupText(const GroupName& group) {
-    const std::string colors = ColorsText(group.colors);
+    const std::string colors = JoinInts(group.colors);
     Word text = group.colors.empty() ? Word("any other body colour", "其他体颜色")
                                      : Word("body colour " + colors, "体颜色 " + colors);
     text.english += group.answers.profile ? ", with profile" : ", without profile";

@@ -3,7 +3,7 @@
 #include <set>
 #include <string>
 
-#include "analysis/checks/cell_check.h"
+#include "analysis/cells/cell_check.h"
 #include "analysis/checks/column_check.h"
 #include "analysis/checks/file_check.h"
 #include "analysis/checks/list_check.h"

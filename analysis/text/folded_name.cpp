@@ -65,8 +65,10 @@ char32_t HalfWidth(char32_t c) {
   return c >= kFirst && c <= kLast ? c - kFirst + U'!' : c;
 }
 
+/// The byte order mark is one inside a text: its old meaning is a blank of no width.
 bool IsBlank(char32_t c) {
-  return c == U' ' || c == U'\t' || c == U'\u00A0' || c == U'\u3000' || c == U'\uFEFF';
+  constexpr std::u32string_view kBlanks = U" \t\r\n\u00A0\u3000\uFEFF";
+  return kBlanks.find(c) != std::u32string_view::npos;
 }
 
 bool IsDash(char32_t c) {
@@ -128,18 +130,24 @@ std::string FoldedNameWithoutUnit(std::string_view utf8) {
   return folded;
 }
 
+std::size_t BlankLength(std::string_view utf8, std::size_t at) {
+  const Utf8Character character = DecodeUtf8At(utf8, at);
+  return IsBlank(character.value) ? character.length : 0;
+}
+
 std::string_view WithoutOuterBlanks(std::string_view utf8) {
-  constexpr std::string_view kBlanks[] = {" ", "\t", "\r", "\n", "\u3000"};
-  const auto cut = [&](std::string_view blank) {
-    const bool isInFront = utf8.starts_with(blank);
-    const bool isBehind = !isInFront && utf8.ends_with(blank);
-    if (isInFront) utf8.remove_prefix(blank.size());
-    if (isBehind) utf8.remove_suffix(blank.size());
-    return isInFront || isBehind;
-  };
-  while (std::any_of(std::begin(kBlanks), std::end(kBlanks), cut)) {
+  std::size_t begin = utf8.size();
+  std::size_t end = begin;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    const std::size_t next = at + std::max<std::size_t>(character.length, 1);
+    if (!IsBlank(character.value)) {
+      begin = std::min(begin, at);
+      end = next;
+    }
+    at = next;
   }
-  return utf8;
+  return utf8.substr(begin, end - begin);
 }
 
 }  // namespace plateconfig

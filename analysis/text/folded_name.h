@@ -8,7 +8,7 @@ namespace plateconfig {
 
 /// A name (UTF-8) without what hands get wrong and eyes pass over, for comparing: full-width letters and
 /// signs as their half-width forms, capital letters as small ones, traditional characters as simplified ones,
-/// no blanks, every dash, tilde and underline as "_". Two names that fold to the same text look alike; it is
+/// no blanks and line breaks, every dash, tilde and underline as "_". Two names that fold to the same text look alike; it is
 /// no text to be shown.
 std::string FoldedName(std::string_view utf8);
 
@@ -18,6 +18,11 @@ std::size_t OddCharacters(std::string_view utf8);
 /// The folded name without what stands in brackets at its end, which is mostly a unit: 长度范围(mm) gives
 /// 长度范围.
 std::string FoldedNameWithoutUnit(std::string_view utf8);
+
+/// The length in bytes of the blank or line break that begins at this byte of a text (UTF-8); 0 for any other
+/// character. Blanks are those of code page 936 and what hands bring in from other programs: tabulator, no-break
+/// space, ideographic space, byte order mark.
+std::size_t BlankLength(std::string_view utf8, std::size_t at);
 
 /// The text (UTF-8) without the blanks and line breaks in front of it and behind it.
 std::string_view WithoutOuterBlanks(std::string_view utf8);

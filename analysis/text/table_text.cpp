@@ -42,6 +42,11 @@ std::string TableText::Text(std::size_t row, std::size_t column) const {
   return GbkToUtf8(table_.Cell(row, column));
 }
 
+bool TableText::HasOpenQuote(std::size_t row, std::size_t column) const {
+  const std::string_view raw = table_.RawCell(row, column);
+  return raw.starts_with('"') && table_.CellEquals(row, column, raw);
+}
+
 std::size_t TableText::OffsetOf(std::size_t row, std::size_t column) const {
   const std::size_t last = table_.CellCount(row) - 1;
   const char* const begin = table_.RawCell(row, std::min(column, last)).data();

@@ -24,6 +24,8 @@ class TableText {
 
   /// The cell's text.
   std::string Text(std::size_t row, std::size_t column) const;
+  /// Whether the cell begins with a quote that nothing closes, which makes the quote part of its text.
+  bool HasOpenQuote(std::size_t row, std::size_t column) const;
   /// The column's header.
   std::string ColumnName(std::size_t column) const { return Text(0, column); }
 

@@ -53,13 +53,11 @@ class GbkDecoder {
 };
 
 /// Gathers a text in a block of its own before it is appended: most characters take three bytes, and asking
-/// the text for room at each of them takes longer than the conversion.
+/// the text for room at each of them takes longer than the conversion. What is still in the block is appended
+/// by `Flush`, not by a destructor: there may be no memory for it.
 class Utf8Writer {
  public:
   explicit Utf8Writer(std::string& out) : out_(out) {}
-  ~Utf8Writer() { Flush(); }
-  Utf8Writer(const Utf8Writer&) = delete;
-  Utf8Writer& operator=(const Utf8Writer&) = delete;
 
   void PutAscii(char byte) {
     if (used_ == block_.size()) Flush();
@@ -77,13 +75,13 @@ class Utf8Writer {
     block_[used_++] = static_cast<char>(0x80 | (character & 0x3F));
   }
 
- private:
-  static constexpr std::size_t kLongest = 3;
-
   void Flush() {
     out_.append(block_.data(), used_);
     used_ = 0;
   }
+
+ private:
+  static constexpr std::size_t kLongest = 3;
 
   std::string& out_;
   std::array<char, 256> block_;
@@ -106,6 +104,7 @@ bool AppendGbkAsUtf8(std::string_view gbk, char16_t replacement, std::string& ou
     writer.Put(character);
     at += length;
   }
+  writer.Flush();
   return true;
 }
 

@@ -23,6 +23,7 @@ TEST(FoldedName, TraditionalCharactersAreSimplified) {
 
 TEST(FoldedName, BlanksOfAllSortsAreGone) {
   EXPECT_EQ(FoldedName(" 长 度\u3000范\u00A0围\t"), "长度范围");
+  EXPECT_EQ(FoldedName("长度\r\n范围"), "长度范围");
 }
 
 TEST(FoldedName, DashesAndTildesAreUnderlines) {
@@ -48,9 +49,19 @@ TEST(FoldedNameWithoutUnit, ABracketAtTheEndIsAUnit) {
 
 TEST(WithoutOuterBlanks, TakesEveryKindOfBlankOffBothEnds) {
   EXPECT_EQ(WithoutOuterBlanks(" \t甲 乙\u3000\r\n"), "甲 乙");
+  EXPECT_EQ(WithoutOuterBlanks("\u00A0甲\uFEFF"), "甲");
   EXPECT_EQ(WithoutOuterBlanks("甲"), "甲");
   EXPECT_EQ(WithoutOuterBlanks(" \u3000 "), "");
   EXPECT_EQ(WithoutOuterBlanks(""), "");
+}
+
+TEST(BlankLength, CountsTheBytesOfTheBlankThatBeginsThere) {
+  EXPECT_EQ(BlankLength("a b", 1), 1U);
+  EXPECT_EQ(BlankLength("a\nb", 1), 1U);
+  EXPECT_EQ(BlankLength("a\u00A0", 1), 2U);
+  EXPECT_EQ(BlankLength("a\u3000", 1), 3U);
+  EXPECT_EQ(BlankLength("a b", 0), 0U);
+  EXPECT_EQ(BlankLength("\xE3\x80", 0), 0U);
 }
 
 }  // namespace

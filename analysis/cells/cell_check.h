@@ -1,13 +1,11 @@
 #pragma once
 
+#include "analysis/cells/checked_cell.h"
 #include "analysis/findings/finding.h"
 #include "analysis/schema/table_schema.h"
 #include "analysis/text/table_text.h"
 
 namespace plateconfig {
-
-/// A finding at a cell of a table, with its place, its column and its text.
-Finding CellFinding(Code code, const TableText& table, std::size_t row, std::size_t column);
 
 /// Raises what is wrong with one cell, as the kind of `schema` reads it; an empty one is never wrong.
 void CheckCell(const TableText& table, const ColumnSchema& schema, std::size_t row, std::size_t column,

@@ -1,0 +1,67 @@
+#include "plateconfig/checking/gathered_tables.h"
+
+#include <optional>
+#include <utility>
+
+#include "config/configuration_index.h"
+#include "plateconfig/tables/reported_index.h"
+#include "plateconfig/tables/reported_table.h"
+
+namespace plateconfig {
+namespace {
+
+class Gathering {
+ public:
+  Gathering(Configuration& configuration, const ConfigurationOptions& options, Reporter& reporter)
+      : configuration_(configuration), options_(options), reporter_(reporter) {}
+
+  GatheredTables Run() {
+    reporter_.CollectInto(&gathered_.wayThere);
+    if (options_.folder.empty() && !IsWithoutFolder()) GatherIndex();
+    for (const RoleRow& role : ManifestRoles()) {
+      if (!IsWithoutFolder() || options_.tables.contains(role.role)) Gather(role);
+    }
+    if (!IsWithoutFolder()) gathered_.folder = configuration_.FolderName();
+    reporter_.CollectInto(nullptr);
+    return std::move(gathered_);
+  }
+
+ private:
+  /// Only the tables of the command line, when it names some and no folder.
+  bool IsWithoutFolder() const { return options_.folder.empty() && !options_.tables.empty(); }
+
+  void GatherIndex() {
+    const auto root = RootThatIsSet();
+    if (!root) return;
+    RaiseIndexFindings(*root, ReadConfigurationIndex(*root),
+                       [this](Finding finding) { gathered_.wayThere.push_back(std::move(finding)); });
+  }
+
+  void Gather(const RoleRow& role) {
+    if (const auto file = configuration_.FindOptional(role.role)) {
+      gathered_.tables.push_back(GivenFrom(role.role, *file));
+    } else if (reporter_.Result() != kUnusable && configuration_.IsUsable()) {
+      NoteMissing(role);
+    }
+  }
+
+  void NoteMissing(const RoleRow& role) {
+    Finding finding{"role-without-file", {configuration_.FolderName() + "tables.json"}};
+    finding.text = std::string(role.name);
+    gathered_.wayThere.push_back(finding);
+  }
+
+  Configuration& configuration_;
+  const ConfigurationOptions& options_;
+  Reporter& reporter_;
+  GatheredTables gathered_;
+};
+
+}  // namespace
+
+GatheredTables GatherTables(Configuration& configuration, const ConfigurationOptions& options,
+                            Reporter& reporter) {
+  return Gathering(configuration, options, reporter).Run();
+}
+
+}  // namespace plateconfig
