@@ -40,6 +40,7 @@ inline std::string Unquoted(std::string_view raw) {
     // Up to the first quote of a pair, and behind the pair again.
     const std::size_t piece = std::min(inside.find(kQuote), inside.size() - 1) + 1;
     text.append(inside.substr(0, piece));
+    // cppcheck-suppress containerOutOfBounds  ; a piece is at least one byte of what is there
     inside.remove_prefix(std::min(inside.size(), piece + (inside[piece - 1] == kQuote ? 1 : 0)));
   }
   text.append(raw.substr(closing + 1));
