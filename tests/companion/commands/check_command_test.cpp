@@ -334,9 +334,10 @@ TEST_F(CheckCommand, AFileThatIsNoBaselineIsNeitherReadAsOneNorReplaced) {
 }
 
 TEST_F(CheckCommand, TextsOfTheTablesDoNotReachTheTerminalRaw) {
-  WriteRules("模板所在图层,工艺名称,条件\n12,\033[31m红,有无圆\n");
+  WriteRules(With(With(kGood, "材质要求,下料,", "材质要求,\033[31m下料,"), ",下料,自定义追加工艺,",
+                  ",\033[31m下料,,"));
   const CompanionResult run = Check();
-  EXPECT_THAT(run.out, HasSubstr("红"));
+  EXPECT_THAT(run.out, HasSubstr("[31m下料"));
   EXPECT_THAT(run.out, Not(HasSubstr("\033")));
 }
 

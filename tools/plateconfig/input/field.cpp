@@ -27,7 +27,7 @@ CellVerdict ReadLists(std::string_view cell, std::vector<std::vector<Item>>& lis
 /// A whole number, also as a program writes it that knows no others than 12.0.
 std::optional<int> WholeNumber(std::string_view text) {
   const std::size_t point = text.find('.');
-  const bool isWhole = point != std::string_view::npos && StrictNumber(text) &&
+  const bool isWhole = point != std::string_view::npos && point + 1 < text.size() && StrictNumber(text) &&
                        text.find_first_not_of('0', point + 1) == std::string_view::npos;
   return StrictInteger(isWhole ? text.substr(0, point) : text);
 }
