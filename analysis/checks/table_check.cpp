@@ -55,13 +55,15 @@ RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const
 
 }  // namespace
 
+bool CheckFile(const GivenTable& given, const Raise& raise) {
+  if (given.table) return CheckFile(given, TableText(given.name, *given.table), raise);
+  RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
+  return false;
+}
+
 RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise) {
-  if (!given.table) {
-    RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
-    return {};
-  }
+  if (!CheckFile(given, raise)) return {};
   const TableText text(given.name, *given.table);
-  if (!CheckFile(given, text, raise)) return {};
   const std::set<std::size_t> toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
   CheckCells(text, SchemaOf(given.role), raise);
   if (given.role == Role::kProcessRules) return CheckRules(given, text, analysis, toldHeaders, raise);

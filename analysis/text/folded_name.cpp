@@ -41,14 +41,17 @@ constexpr std::u32string_view kTraditional =
 
 using Pair = std::pair<char32_t, char32_t>;
 
+static_assert(kTraditional.size() % 2 == 0, "each traditional character has its simplified form behind it");
+
 /// The pairs in ascending order.
-constexpr auto kSimplifiedForms = [] {
-  static_assert(kTraditional.size() % 2 == 0, "each traditional character has its simplified form behind it");
+consteval std::array<Pair, kTraditional.size() / 2> SimplifiedForms() {
   std::array<Pair, kTraditional.size() / 2> pairs;
   for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kTraditional[2 * i], kTraditional[2 * i + 1]};
   std::sort(pairs.begin(), pairs.end());
   return pairs;
-}();
+}
+
+constexpr auto kSimplifiedForms = SimplifiedForms();
 
 char32_t Simplified(char32_t c) {
   const auto found = std::lower_bound(kSimplifiedForms.begin(), kSimplifiedForms.end(), Pair{c, 0});

@@ -41,9 +41,9 @@ bool ReadFlag(FlagLetters letters, std::string_view cell) {
     case FlagLetters::kNoIfUpperN:
       return cell != "N";
     case FlagLetters::kNoIfN:
-      return cell != "N" && cell != "n";
+      break;
   }
-  return false;
+  return cell != "N" && cell != "n";
 }
 
 std::string FlagText(bool value) {
@@ -59,9 +59,9 @@ CellForm FormOf(FlagLetters letters) {
     case FlagLetters::kNoIfUpperN:
       return CellForm::kFlagNoIfUpperN;
     case FlagLetters::kNoIfN:
-      return CellForm::kFlagNoIfN;
+      break;
   }
-  return {};
+  return CellForm::kFlagNoIfN;
 }
 
 void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
@@ -78,9 +78,9 @@ CellForm FormOf(TakenCells taken) {
     case TakenCells::kLayerNumbers:
       return CellForm::kLayerNumbers;
     case TakenCells::kFilled:
-      return CellForm::kIntegers;
+      break;
   }
-  return {};
+  return CellForm::kIntegers;
 }
 
 Cells IntCells(std::span<const int> numbers) {

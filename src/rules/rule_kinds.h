@@ -37,7 +37,7 @@ struct Exactly : KindOf<CellType::kText> {
     Value value;
   };
 
-  constexpr Exactly(Value Record::*of, CellForm is, Choice exact, Choice opposite)
+  constexpr Exactly(Value Record::*of, CellForm is, const Choice& exact, const Choice& opposite)
       : field(of), form(is), wanted(exact), otherwise(opposite) {}
 
   Value Record::*field;

@@ -320,6 +320,32 @@ TEST_F(CheckCommand, AnAcceptedFindingThatNoLongerOccursIsTold) {
   EXPECT_THAT(Check({"--lang", "zh", "--baseline", Path("已接受.txt")}).out, HasSubstr("已接受但不再出现："));
 }
 
+TEST_F(CheckCommand, AFileThatIsNoBaselineIsNeitherReadAsOneNorReplaced) {
+  files_.WriteBytes("笔记.txt", "my notes\n");
+  for (const Strings& further : {Strings{}, Strings{"--update-baseline"}}) {
+    Strings arguments = {"--baseline", Path("笔记.txt")};
+    arguments.insert(arguments.end(), further.begin(), further.end());
+    const CompanionResult run = Check(arguments);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.err,
+                HasSubstr("error: this file is no baseline of plateconfig check and stays as it is\n"));
+  }
+  EXPECT_EQ(Written("笔记.txt"), "my notes\n");
+}
+
+TEST_F(CheckCommand, TextsOfTheTablesDoNotReachTheTerminalRaw) {
+  WriteRules(With(With(kGood, "材质要求,下料,", "材质要求,\033[31m下料,"), ",下料,自定义追加工艺,",
+                  ",\033[31m下料,,"));
+  const CompanionResult run = Check();
+  EXPECT_THAT(run.out, HasSubstr("[31m下料"));
+  EXPECT_THAT(run.out, Not(HasSubstr("\033")));
+}
+
+TEST_F(CheckCommand, PlatesThatNoRuleRowCanTakeAreSaidNotToBeLookedAt) {
+  EXPECT_THAT(RunPlateconfig({"check", "--texts", Path("文字.csv"), "--plates", Path("fehlt.csv")}).out,
+              HasSubstr("the plates were not looked at: there is no rule row to evaluate them with\n"));
+}
+
 TEST_F(CheckCommand, ABaselineThatIsNotThereIsAnErrorThatSaysHowToWriteIt) {
   CompanionResult run = Check({"--baseline", Path("已接受.txt")});
   EXPECT_EQ(run.exitCode, 2);

@@ -167,10 +167,12 @@ TEST_F(ExplainCommand, JsonOfAMatchHoldsTheRowsBeforeIt) {
     {"condition": "profile", "wanted": false, "colors": [190], "value": [190]}]}])"));
 }
 
-TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNone) {
+TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNoneOnceAndNotForEachPlate) {
   configuration_.Folder().WriteTable("规则.csv", "模板所在图层,长度范围\n");
-  EXPECT_THAT(Explain("板,450,400,90,300,12,12,190,").out,
-              HasSubstr("  no rule row fits: the table has none\n"));
+  const auto result = Explain("板,450,400,90,300,12,12,190,");
+  EXPECT_THAT(result.err, HasSubstr("error: the rule table has no rule row, so no plate is looked at\n"));
+  EXPECT_THAT(result.out, Not(HasSubstr("板:")));
+  EXPECT_EQ(result.exitCode, 2);
 }
 
 TEST_F(ExplainCommand, MistakesAreReportedAndTheOtherPlatesExplained) {

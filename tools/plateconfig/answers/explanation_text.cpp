@@ -140,9 +140,8 @@ void WriteFit(const ExplainedPlate& plate, int line, std::ostream& out) {
 }
 
 void WriteNoRow(const ExplainedPlate& plate, std::ostream& out) {
-  out << (plate.asked ? Say("  no rule row fits", "  没有符合的规则行")
-          : plate.explanation.RefusedRows().empty()
-              ? Say("  no rule row fits: the table has none", "  没有符合的规则行：表中没有规则行")
+  out << (plate.asked
+              ? Say("  no rule row fits", "  没有符合的规则行")
               : Say("  no rule row fits; the nearest first:", "  没有符合的规则行；最接近的排在最前："))
       << "\n";
 }

@@ -108,6 +108,7 @@ void WriteMarkdownHead(std::ostream& out) {
 
 std::string Written(const std::string& format) {
   std::ostringstream out;
+  out.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
   if (format == "json") {
     JsonArray array(out);
     for (const TableSchema& table : FullSchema()) {

@@ -34,6 +34,11 @@ std::optional<Code> NoTable(std::string_view line) {
   return isOneLine ? std::optional<Code>(Code("input-line-ends")) : std::nullopt;
 }
 
+bool IsAscii(std::string_view bytes) {
+  return std::all_of(bytes.begin(), bytes.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 bool HasOpenQuote(std::string_view row, std::size_t cell) {
   return cell < row.size() && row[cell] == kQuote && EndOfQuotes(row, cell) == cell;
 }
@@ -77,7 +82,6 @@ const CsvRow* CsvStream::ReadHeader() {
     Report({.code = *code}, {});
     return nullptr;
   }
-  if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
   if (!TurnIntoUtf8()) {
     Report({.code = "input-header-encoding"}, {1, 1});
     return nullptr;
@@ -161,6 +165,10 @@ void CsvStream::GiveUp(std::size_t quote) {
 
 /// False for a row that is not in the file's encoding.
 bool CsvStream::TurnIntoUtf8() {
+  if (!isDecided_ && !IsAscii(bytes_)) {
+    isDecided_ = true;
+    if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
+  }
   if (encoding_ == Encoding::kUtf8) return IsValidUtf8(bytes_);
   std::optional<std::string> utf8 = TryGbkToUtf8(bytes_);
   if (utf8) bytes_ = std::move(*utf8);

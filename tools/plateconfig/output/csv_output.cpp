@@ -39,7 +39,6 @@ void GbkBuffer::Take(std::string_view utf8) {
 }
 
 void GbkBuffer::TakeCharacter(std::string_view utf8) {
-  if (utf8 == kByteOrderMark) return;
   if (utf8 == "\n") ++line_;
   const auto gbk = TryUtf8ToGbk(utf8);
   if (gbk) out_ << *gbk;

@@ -4,6 +4,7 @@
 
 #include "analysis/checks/rule_values.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
 #include "plateconfig/output/setting_value.h"
 #include "text/gbk.h"
 
@@ -156,7 +157,7 @@ class Writer {
     if (report_.plates.empty()) return;
     BeginPart(Say("plates, with what changed in 【】", "板，【】中为有变化的工艺"));
     for (const ChangedPlate& plate : report_.plates) {
-      out_ << "  " << plate.name << "\n";
+      out_ << "  " << OnOneLine(plate.name) << "\n";
       WriteTexts(plate.texts);
     }
   }

@@ -7,6 +7,7 @@
 #include "analysis/findings/sentence.h"
 #include "analysis/text/shown_text.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
 
 namespace plateconfig {
 namespace {
@@ -43,9 +44,10 @@ void WriteFinding(const Finding& finding, std::ostream& out) {
   const std::string where = Where(finding);
   out << "  " << where << (where.empty() ? "" : "  ")
       << WordsOf(finding.code.Row().severity).In(CurrentLanguage()) << ": "
-      << MessageOf(finding, CurrentLanguage()) << UsedAs(finding) << "  [" << finding.code.Name() << "]\n";
+      << OnOneLine(MessageOf(finding, CurrentLanguage())) << UsedAs(finding) << "  [" << finding.code.Name()
+      << "]\n";
   const std::string remedy = Remedy(finding);
-  if (!remedy.empty()) out << "      " << remedy << "\n";
+  if (!remedy.empty()) out << "      " << OnOneLine(remedy) << "\n";
 }
 
 /// Counts what is written of a file, so that one kind of finding does not hide the others.
@@ -68,7 +70,7 @@ class Written {
 
 /// Writes the findings of one file; `end` is behind the last one.
 void WriteFile(const Finding* begin, const Finding* end, std::ostream& out) {
-  out << begin->place.file << "\n";
+  out << OnOneLine(begin->place.file) << "\n";
   Written written;
   for (const Finding* finding = begin; finding != end; ++finding) {
     if (written.Takes(*finding)) WriteFinding(*finding, out);
@@ -99,7 +101,7 @@ std::string NothingFound(const CheckReport& report) {
 void WriteTables(const CheckReport& report, std::ostream& out) {
   out << NothingFound(report) << "\n";
   for (const CheckedTable& table : report.tables)
-    out << "  " << table.file << Say("  {} rows", "  {} 行", table.rows) << "\n";
+    out << "  " << OnOneLine(table.file) << Say("  {} rows", "  {} 行", table.rows) << "\n";
   out << "\n";
 }
 
@@ -114,7 +116,7 @@ void WriteFindings(const CheckReport& report, std::ostream& out) {
     at = next;
   }
   if (report.findings.empty()) WriteTables(report, out);
-  for (const Word& text : report.incomplete) out << text.In(CurrentLanguage()) << "\n";
+  for (const Word& text : report.incomplete) out << OnOneLine(text.In(CurrentLanguage())) << "\n";
   WriteSummary(report, out);
 }
 

@@ -16,6 +16,7 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/console.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/tables/reported_index.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
@@ -175,7 +176,9 @@ bool Configuration::FindFolder() {
                                          "没有设置 {}，也没有用 --config 指定配置文件夹", kRootVariable));
     return false;
   }
-  const std::string active = ReadConfigurationIndex(*root).activeFolder + "\\";
+  const ConfigurationIndex index = ReadConfigurationIndex(*root);
+  ReportIndex(*root, index, reporter_);
+  const std::string active = index.activeFolder + "\\";
   folder_ = {active, ShownPath(active)};
   return true;
 }
