@@ -1,6 +1,9 @@
 #include "analysis/text/similar_name.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <string_view>
+#include <vector>
 
 namespace plateconfig {
 namespace {
