@@ -128,9 +128,9 @@ std::string_view NameOf(Severity severity) {
     case Severity::kWarning:
       return "warning";
     case Severity::kHint:
-      return "hint";
+      break;
   }
-  return {};
+  return "hint";
 }
 
 Words WordsOf(Severity severity) {
@@ -140,9 +140,9 @@ Words WordsOf(Severity severity) {
     case Severity::kWarning:
       return {"warning", "警告"};
     case Severity::kHint:
-      return {"hint", "提示"};
+      break;
   }
-  return {};
+  return {"hint", "提示"};
 }
 
 }  // namespace plateconfig

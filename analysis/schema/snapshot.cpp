@@ -144,9 +144,9 @@ Snapshot TakeSnapshot(Role role, const std::string* path) {
     case Role::kDwgFolder:
       return FurtherTable(path, &SystemDefault::InitialDwgFolder, WalkDwgFolder);
     case Role::kReplaceContent:
-      return FurtherTable(path, &SystemDefault::InitialReplaceContent, WalkReplaceContent);
+      break;
   }
-  return {};
+  return FurtherTable(path, &SystemDefault::InitialReplaceContent, WalkReplaceContent);
 }
 
 }  // namespace plateconfig

@@ -31,6 +31,17 @@ TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
   static_assert(!ColumnsAreUnique(kSameColumn, kSameColumn));
 }
 
+struct Wall {
+  double thinnest = 0;
+  double thickest = 0;
+};
+
+TEST(KeyTable, ARangeSaysSomethingWhenItHasTwoBounds) {
+  EXPECT_TRUE(Range<Wall>::Says("10_200"));
+  EXPECT_FALSE(Range<Wall>::Says("10"));
+  EXPECT_FALSE(Range<Wall>::Says("1_2_3"));
+}
+
 // ---- Lists of records ----
 
 struct Bolt {
