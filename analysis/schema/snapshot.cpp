@@ -62,22 +62,12 @@ Snapshot ColumnWidths() {
   return snapshot;
 }
 
-/// What a template of the table should name.
-Cells ParameterNames() {
-  Cells names;
-  for (const GeneralParameter& parameter : kGeneralParameters) names.emplace_back(parameter.name);
-  return names;
-}
-
 Snapshot RuleTable() {
   Snapshot snapshot;
   snapshot.WalkRows<kParameterKeys>(std::vector<ParameterRow>());
   snapshot.WalkRows<kProcessListKeys>(std::vector<ProcessRow>());
   snapshot.WalkRows<kRuleRowKeys>(std::vector<RuleRow>());
   snapshot.WalkRows<kProcessTextKeys>(std::vector<ProcessText>());
-  for (ColumnSchema& column : snapshot.columns) {
-    if (column.use == ColumnUse::kParameterNames) column.whenAbsent = ParameterNames();
-  }
   return snapshot;
 }
 

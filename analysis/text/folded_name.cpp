@@ -110,6 +110,16 @@ std::string FoldedName(std::string_view utf8) {
   return folded;
 }
 
+std::u32string Characters(std::string_view utf8) {
+  std::u32string characters;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    characters += character.value;
+    at += std::max<std::size_t>(character.length, 1);
+  }
+  return characters;
+}
+
 std::size_t OddCharacters(std::string_view utf8) {
   std::size_t count = 0;
   for (std::size_t at = 0; at < utf8.size();) {
@@ -128,6 +138,13 @@ std::string FoldedNameWithoutUnit(std::string_view utf8) {
   const std::size_t open = folded.ends_with(')') ? folded.rfind('(') : std::string::npos;
   if (open != std::string::npos && open > 0) folded.erase(open);
   return folded;
+}
+
+std::optional<bool> MeantYes(std::string_view utf8) {
+  const std::string folded = FoldedName(utf8);
+  if (folded == "y" || folded == "是" || folded == "yes") return true;
+  if (folded == "n" || folded == "否" || folded == "no") return false;
+  return std::nullopt;
 }
 
 std::size_t BlankLength(std::string_view utf8, std::size_t at) {

@@ -72,6 +72,14 @@ TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
             "abcdef");
 }
 
+TEST(ProbablyMeantName, MayLeaveOutCharactersInsideOfTheOnlyNameThatHasTheOthers) {
+  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "长度范围"}), "模板所在图层");
+  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "模板二图层号"}), "");
+  EXPECT_EQ(ProbablyMeantName("图模", {"模板所在图层"}), "");        // In another order.
+  EXPECT_EQ(ProbablyMeantName("模层", {"模板所在图层"}), "");        // Two of six are too few.
+  EXPECT_EQ(ProbablyMeantName("模板备图层", {"模板所在图层"}), "");  // One is a stranger.
+}
+
 TEST(SlippedName, OfAShortNameIsFoundWhateverTheHandDid) {
   const std::vector<std::string_view> missing = {"通直径"};
   for (const char* name : {"直径", "通径", "通通直径", "直通径", "遥直径", "通直径mm", "通直径(mm)"})

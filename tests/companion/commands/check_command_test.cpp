@@ -355,6 +355,22 @@ TEST_F(CheckCommand, ABaselineThatIsNotThereIsAnErrorThatSaysHowToWriteIt) {
   EXPECT_THAT(run.err, HasSubstr("--baseline"));
 }
 
+TEST_F(CheckCommand, CsvHasAQuestionMarkForAByteThatIsNoCharacterSoThatItCanBeGbk) {
+  files_.WriteBytes("规则.csv", With(Gbk(kGood), Gbk("钻到数"), "\xFF" + Gbk("钻到数 ")));
+  const CompanionResult run = Check({"--format", "csv", "-o", Path("报告.csv")});
+  EXPECT_THAT(run.err, IsEmpty());
+  EXPECT_THAT(Written("报告.csv"), HasSubstr("character-not-gbk"));
+  EXPECT_THAT(Written("报告.csv"), HasSubstr(Gbk(",?钻到数 ,")));
+  EXPECT_THAT(Check({"--format", "csv"}).out, HasSubstr(",?钻到数 ,"));
+}
+
+TEST_F(CheckCommand, TheFirstOfManyMissingColumnsAreNamed) {
+  WriteRules("通用要求,通用参数,甲\n软料（体颜色）,12,x\n");
+  EXPECT_THAT(Check({"--lang", "zh"}).out, HasSubstr("、"));
+  EXPECT_THAT(Check({"--lang", "zh"}).out, HasSubstr(" 等  [column-unknown]"));
+  EXPECT_THAT(Check().out, HasSubstr(" …  [column-unknown]"));
+}
+
 // ---- plates and hole types ----
 
 TEST_F(CheckCommand, PlatesAreEvaluated) {

@@ -114,9 +114,10 @@ TEST_F(ProcessCommand, ReadsSeveralFilesOneAfterAnother) {
         R"({"name": "B", "length": 450, "width": 400, "thickness": 90, "weight": 9, "color": 12})");
   const auto result =
       RunPlateconfig({"process", "--config", configuration_.Path(), Path("甲.csv"), Path("乙.json")});
-  EXPECT_EQ(result.out, std::string(kTexts) +
-                            "B (line 2): no process of this row applies (plateconfig explain tells why)\n" +
-                            configuration_.LastLine("3 plates: 2 written, 1 without a text"));
+  EXPECT_EQ(result.out,
+            std::string(kTexts) +
+                "B (line 2): no process of this row is written (plateconfig explain tells why)\n" +
+                configuration_.LastLine("3 plates: 2 written, 1 without a text"));
   EXPECT_EQ(result.exitCode, 1) << result.err;
 }
 

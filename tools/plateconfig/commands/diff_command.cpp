@@ -129,8 +129,8 @@ Run DiffOptions(CLI::App& command) {
       ->type_name(Say("FILE", "文件"));
   command
       .add_option("--limit", job->limit,
-                  Say("regions of a group of plates to list, the largest; 0 lists all; without it 10",
-                      "每组板列出的区域数，大者在前；0 表示全部；省略时为 10"))
+                  Say("regions of a group of plates to list, the largest; 0 lists all; without it {}",
+                      "每组板列出的区域数，大者在前；0 表示全部；省略时为 {}", job->limit))
       ->type_name("N")
       ->check(IsCount());
   return WithOutput(command, [job](Context& context) { RunDiff(*job, context); });

@@ -12,8 +12,6 @@
 namespace plateconfig {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // A quote that is never closed would swallow the rest of the file.
 constexpr std::size_t kLargestQuotedRow = std::size_t{1} << 20;
 

@@ -1,5 +1,6 @@
 #include "plateconfig/input/json_stream.h"
 
+#include "analysis/text/file_form.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -49,7 +50,6 @@ JsonStream::JsonStream(std::istream& in, const std::string& file, Reporter& repo
 }
 
 void JsonStream::SkipByteOrderMark() {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   std::size_t taken = 0;
   while (taken < kByteOrderMark.size() && Peek() == static_cast<unsigned char>(kByteOrderMark[taken])) {
     in_.get();

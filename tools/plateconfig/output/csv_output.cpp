@@ -2,16 +2,12 @@
 
 #include <algorithm>
 
+#include "analysis/text/file_form.h"
 #include "analysis/text/table_text.h"
 #include "text/gbk.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {
-namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
 
 CsvOutput::CsvOutput(std::ostream& out, const std::vector<std::string>& header) : out_(out) {
   out_ << kByteOrderMark;

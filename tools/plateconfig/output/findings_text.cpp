@@ -21,31 +21,18 @@ std::string Where(const Finding& finding) {
   return finding.place.line == 0 ? "" : Say("line {}", "第 {} 行", finding.place.line);
 }
 
-/// What to write instead, and what the text counts as until then.
+/// What to write instead; empty when nothing can be said.
 std::string Remedy(const Finding& finding) {
-  std::string text;
-  if (finding.fix && !finding.fix->empty()) {
-    text = Say("write \"{}\"", "请写“{}”", ShownText(*finding.fix));
-  } else {
-    text = AdviceOf(finding, CurrentLanguage());
-  }
-  return text;
-}
-
-/// What a text counts as, where the message does not say it.
-std::string UsedAs(const Finding& finding) {
-  const bool isSaid = finding.code.Row().message.english.find("{usedAs}") != std::string_view::npos;
-  if (!finding.usedAs || isSaid) return {};
-  return finding.usedAs->empty() ? Say("; it counts as an empty cell", "；视为空单元格")
-                                 : Say("; it is read as {}", "；读作 {}", ShownText(*finding.usedAs));
+  if (finding.fix && !finding.fix->empty()) return Say("write \"{}\"", "请写“{}”", ShownText(*finding.fix));
+  return AdviceOf(finding, CurrentLanguage());
 }
 
 void WriteFinding(const Finding& finding, std::ostream& out) {
   const std::string where = Where(finding);
   out << "  " << where << (where.empty() ? "" : "  ")
       << WordsOf(finding.code.Row().severity).In(CurrentLanguage()) << ": "
-      << OnOneLine(MessageOf(finding, CurrentLanguage())) << UsedAs(finding) << "  [" << finding.code.Name()
-      << "]\n";
+      << OnOneLine(MessageOf(finding, CurrentLanguage())) << UsedAsOf(finding, CurrentLanguage()) << "  ["
+      << finding.code.Name() << "]\n";
   const std::string remedy = Remedy(finding);
   if (!remedy.empty()) out << "      " << OnOneLine(remedy) << "\n";
 }

@@ -8,6 +8,7 @@
 #include <system_error>
 #include <vector>
 
+#include "analysis/text/file_form.h"
 #include "analysis/text/position_counter.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
@@ -30,8 +31,7 @@ TableFile FromCommandLine(const std::string& path) {
 }
 
 std::string_view WithoutByteOrderMark(std::string_view utf8) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  return utf8.starts_with(kMark) ? utf8.substr(kMark.size()) : utf8;
+  return utf8.starts_with(kByteOrderMark) ? utf8.substr(kByteOrderMark.size()) : utf8;
 }
 
 Finding UnknownRole(const std::string& name, const Place& place) {
