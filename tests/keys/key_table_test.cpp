@@ -42,6 +42,12 @@ TEST(KeyTable, ARangeSaysSomethingWhenItHasTwoBounds) {
   EXPECT_FALSE(Range<Wall>::Says("1_2_3"));
 }
 
+TEST(KeyTable, EachWayOfTakingIntegersHasItsForm) {
+  EXPECT_EQ(FormOf(TakenCells::kNonZero), CellForm::kNonZeroIntegers);
+  EXPECT_EQ(FormOf(TakenCells::kLayerNumbers), CellForm::kLayerNumbers);
+  EXPECT_EQ(FormOf(TakenCells::kFilled), CellForm::kIntegers);
+}
+
 // ---- Lists of records ----
 
 struct Bolt {
