@@ -66,7 +66,7 @@ std::string Fill(std::string_view text, const Finding& finding, Language languag
 
 /// True for a sentence to which nothing is missing, by what no sentence ends with.
 bool IsWhole(std::string_view sentence) {
-  constexpr std::string_view kOpenEnds[] = {" ", "“", "：", "；", "写", "读取"};
+  constexpr std::string_view kOpenEnds[] = {" ", "“", "：", "；", "写", "读取", "的"};
   return !sentence.empty() && std::none_of(std::begin(kOpenEnds), std::end(kOpenEnds),
                                            [&](std::string_view end) { return sentence.ends_with(end); });
 }
