@@ -3,10 +3,17 @@
 // The public face of plateconfig::analysis: what can be said about tables, without the command's
 // dependencies.
 //
-//   CheckReport report = CheckConfiguration(tables, {});          // every mistake in the tables of a
-//   configuration RuleAnalysisEnd end = AnalyseRules(text, rules, {}, raise);   // what a rule table covers,
-//   exactly ConfigurationDifference difference = Compare(before, after, …);  // two configurations by what
-//   they mean
+// Every mistake in the tables of a configuration:
+//
+//   CheckReport report = CheckConfiguration(tables, {});
+//
+// What a rule table covers, exactly:
+//
+//   RuleAnalysisEnd end = AnalyseRules(text, rules, {}, raise);
+//
+// Two configurations by what they mean:
+//
+//   ConfigurationDifference difference = Compare(before, after);
 
 #include "analysis/checks/configuration_check.h"
 #include "analysis/checks/rule_findings.h"

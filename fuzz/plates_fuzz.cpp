@@ -1,13 +1,12 @@
 // Any bytes as a file of plates, CSV or JSON.
-#include <cstdint>
+#include "fuzz/targets.h"
+
 #include <string>
 
 #include "fuzz/companion_run.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const plateconfig::test::SmallConfiguration configuration;
-  const std::string plates(reinterpret_cast<const char*>(data), size);
+void plateconfig::fuzz::FuzzPlates(std::string_view bytes) {
+  static const test::SmallConfiguration configuration;
   for (const char* verb : {"process", "explain"})
-    plateconfig::fuzz::RunInEachForm({verb, "--config", configuration.Path(), "-"}, plates);
-  return 0;
+    RunInEachForm({verb, "--config", configuration.Path(), "-"}, std::string(bytes));
 }

@@ -1,5 +1,6 @@
 // Any bytes as every table of a configuration at once.
-#include <cstdint>
+#include "fuzz/targets.h"
+
 #include <string>
 
 #include "fuzz/companion_run.h"
@@ -12,11 +13,9 @@ constexpr const char* kPlate =
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const plateconfig::fuzz::OneTable configuration;
-  configuration.Write({reinterpret_cast<const char*>(data), size});
-  using plateconfig::fuzz::RunInEachForm;
+void plateconfig::fuzz::FuzzTables(std::string_view bytes) {
+  static const OneTable configuration;
+  configuration.Write(bytes);
   RunInEachForm({"show", "--config", configuration.Path()}, "");
   RunInEachForm({"explain", "--config", configuration.Path(), "-"}, kPlate);
-  return 0;
 }

@@ -10,9 +10,6 @@
 namespace plateconfig {
 namespace {
 
-constexpr int kLastLayer = 256;
-constexpr int kLastColor = 216;
-
 /// Raises `code` with what the cell counts as, and with the repaired text where that is what the column
 /// holds.
 template <typename IsGood>
@@ -77,8 +74,9 @@ bool IsIgnored(const CheckedCell& cell, int number, const Raise& raise) {
   const bool isTaken = isLayer ? number >= 1 && number <= kLastLayer : number != 0;
   if (isTaken || (!isLayer && cell.schema.form != CellForm::kNonZeroIntegers)) return false;
   Finding finding = cell.Finds("list-value-ignored");
-  finding.words = {isLayer ? Word("a number from 1 to 256", "1 到 256 的整数")
-                           : Word("a number other than 0", "非 0 的整数")};
+  const std::string last = std::to_string(kLastLayer);
+  finding.words = {isLayer ? Word("a number from 1 to " + last, "1 到 " + last + " 的整数")
+                           : Word("a number other than 0", "0 以外的整数")};
   raise(finding);
   return true;
 }

@@ -86,9 +86,7 @@ void CheckFlag(FlagLetters letters, const CheckedCell& cell, const Raise& raise)
   if (strict == isYes) return;
   Finding finding = strict ? cell.Finds("cell-flag-letter") : cell.Finds("cell-not-flag");
   finding.usedAs = FlagText(isYes);
-  const std::string folded = FoldedName(*finding.text);
-  if (folded == "y" || folded == "是" || folded == "yes") finding.fix = "Y";
-  if (folded == "n" || folded == "否" || folded == "no") finding.fix = "N";
+  if (const std::optional<bool> meant = MeantYes(*finding.text)) finding.fix = FlagText(*meant);
   raise(finding);
 }
 

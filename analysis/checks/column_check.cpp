@@ -10,17 +10,48 @@
 
 #include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
+#include "rules/rule_table_keys.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
 
-/// Few names as a message lists them.
-std::string Listed(const std::vector<std::string>& names) {
+/// The first few of many names.
+Word FirstOf(const std::vector<std::string>& names) {
   constexpr std::size_t kMost = 3;
-  std::string text;
-  for (std::size_t i = 0; i < std::min(kMost, names.size()); ++i) text += (i == 0 ? "" : ", ") + names[i];
-  return names.size() > kMost ? text + " …" : text;
+  if (names.size() <= kMost) return Enumerated(names);
+  const Word few = Enumerated({names.begin(), names.begin() + kMost});
+  return {few.english + " …", few.chinese + " 等"};
+}
+
+/// What becomes of the list of a column without which no row of it counts.
+Words LossWithout(std::string_view column) {
+  struct Loss {
+    std::string_view column;
+    Words words;
+  };
+  constexpr Loss kLosses[] = {
+      {columns::kLayer, {"the table has no rule row", "没有任何规则行"}},
+      {columns::kParameterName, {"no general parameter is read", "不读取任何通用要求"}},
+      {columns::kProcessName, {"no process is listed", "没有列出任何工艺"}},
+  };
+  const auto known = std::find_if(std::begin(kLosses), std::end(kLosses),
+                                  [&](const Loss& loss) { return loss.column == column; });
+  return known != std::end(kLosses) ? known->words
+                                    : Words{"no row of its list counts", "其列表中的任何一行都不算数"};
+}
+
+/// True for a column in which a row needs a cell to count.
+bool IsNeeded(const ColumnSchema& column) {
+  switch (column.rowRule) {
+    case RowRule::kNone:
+      return false;
+    case RowRule::kRequired:
+    case RowRule::kDecides:
+    case RowRule::kBounds:
+      break;
+  }
+  return true;
 }
 
 bool HasCells(const TableText& table, std::size_t column) {
@@ -91,12 +122,12 @@ void CheckBlankRows(const TableText& table, const Raise& raise) {
 }
 
 /// Of cells below an empty header. Gives the columns that were told.
-std::set<std::size_t> CheckNameless(const TableText& table, const Raise& raise) {
-  std::set<std::size_t> told;
+ToldHeaders CheckNameless(const TableText& table, const Raise& raise) {
+  ToldHeaders told;
   for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
     if (!table.Cells().RawCell(0, column).empty() || !HasCells(table, column)) continue;
     raise(HeaderFinding("column-nameless", table, column));
-    told.insert(column);
+    told[column];
   }
   return told;
 }
@@ -126,7 +157,7 @@ class ColumnCheck {
     }
   }
 
-  std::set<std::size_t> Run() {
+  ToldHeaders Run() {
     bool isForeign = true;
     for (std::size_t column = 0; column < table_.ColumnCount(); ++column) {
       if (CheckHeader(column)) isForeign = false;
@@ -159,14 +190,14 @@ class ColumnCheck {
     const std::string meant = ProbablyMeantName(name, absent_);
     if (!meant.empty()) {
       meant_.insert(meant);
-      told_.insert(column);
+      told_[column];
       // Where the name was probably written wrongly in the process list, it is told there.
       if (!IsProcess(meant) || OddCharacters(meant) <= OddCharacters(name)) RaiseMisspelled(column, meant);
       return true;
     }
     if (absent_.empty() || IsRemarkColumn(name) || !HasCells(table_, column)) return false;
     Finding finding = HeaderFinding("column-unknown", column);
-    finding.words = {Listed(absent_)};
+    finding.words = {FirstOf(absent_)};
     raise_(finding);
     return false;
   }
@@ -174,7 +205,19 @@ class ColumnCheck {
   void RaiseMisspelled(std::size_t column, const std::string& meant) {
     Finding finding = HeaderFinding("column-misspelled", column);
     finding.fix = meant;
+    finding.words = {EffectOfMissing(meant)};
+    told_[column] = meant;
     raise_(finding);
+  }
+
+  /// What is put on where the name of a needed column (UTF-8) is misspelled.
+  Word EffectOfMissing(const std::string& name) const {
+    const auto column =
+        std::find_if(schema_.columns.begin(), schema_.columns.end(),
+                     [&](const ColumnSchema& each) { return GbkToUtf8(each.column) == name; });
+    if (column == schema_.columns.end() || !IsNeeded(*column)) return "";
+    const Word loss = LossWithout(column->column);
+    return {"; without \"" + name + "\" " + loss.english, "；缺少“" + name + "”列，就" + loss.chinese};
   }
 
   /// True for a name that a cell of the table gives.
@@ -187,15 +230,26 @@ class ColumnCheck {
   /// header.
   void CheckPresence(const ColumnSchema& column) {
     if (column.use == ColumnUse::kPlaceholder || table_.Cells().FindColumn(column.column)) return;
-    Finding finding{"column-absent", {table_.Name(), 1, 1}};
+    if (meant_.contains(GbkToUtf8(column.column))) return;
+    const bool takesListAway = IsNeeded(column) && HasListOf(column);
+    Finding finding{takesListAway ? Code("column-required") : Code("column-absent"), {table_.Name(), 1, 1}};
     finding.columnName = GbkToUtf8(column.column);
-    if (meant_.contains(finding.columnName)) return;
-    finding.kin = "column-absent";
+    finding.words = {takesListAway ? Word(LossWithout(column.column)) : ReadsAs(column)};
+    if (!takesListAway) finding.kin = "column-absent";
+    raise_(finding);
+  }
+
+  static Word ReadsAs(const ColumnSchema& column) {
     const std::string value =
         column.whenAbsent.empty() ? std::string() : GbkToUtf8(column.whenAbsent.front());
-    finding.words = {value.empty() ? Word("it reads as empty", "取空值")
-                                   : Word("it reads as " + value, "取 " + value)};
-    raise_(finding);
+    return value.empty() ? Word("it reads as empty", "取空值") : Word("it reads as " + value, "取 " + value);
+  }
+
+  /// Whether the table has another column of the list that the column belongs to.
+  bool HasListOf(const ColumnSchema& column) const {
+    return std::any_of(schema_.columns.begin(), schema_.columns.end(), [&](const ColumnSchema& each) {
+      return each.record == column.record && table_.Cells().FindColumn(each.column);
+    });
   }
 
   void RaiseForeign() {
@@ -205,7 +259,7 @@ class ColumnCheck {
   }
 
   Finding HeaderFinding(Code code, std::size_t column) {
-    told_.insert(column);
+    told_[column];
     return plateconfig::HeaderFinding(code, table_, column);
   }
 
@@ -215,7 +269,7 @@ class ColumnCheck {
   std::set<std::string> read_;       ///< GBK
   std::vector<std::string> absent_;  ///< UTF-8; of `read_` those that the table does not have.
   std::set<std::string> meant_;      ///< UTF-8; absent names that misspelled ones stand for.
-  std::set<std::size_t> told_;       ///< Columns with a finding at their header.
+  ToldHeaders told_;
 };
 
 }  // namespace
@@ -242,11 +296,11 @@ bool IsRemarkColumn(const std::string& name) {
          });
 }
 
-std::set<std::size_t> CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise) {
+ToldHeaders CheckColumns(const TableText& table, const TableSchema& schema, const Raise& raise) {
   const bool isAnyColumnRead =
       std::all_of(schema.columns.begin(), schema.columns.end(),
                   [](const auto& column) { return column.use == ColumnUse::kPlaceholder; });
-  std::set<std::size_t> told = CheckNameless(table, raise);
+  ToldHeaders told = CheckNameless(table, raise);
   CheckLongRows(table, raise);
   if (schema.role != Role::kProcessRules) CheckBlankRows(table, raise);
   if (isAnyColumnRead) {

@@ -106,8 +106,7 @@ class IndexCheck {
   }
 
   void RaiseFlag(Finding finding) {
-    const std::string folded = FoldedName(*finding.text);
-    if (folded == "y" || folded == "是" || folded == "yes") finding.fix = "Y";
+    if (MeantYes(*finding.text) == true) finding.fix = "Y";
     finding.usedAs = "N";
     raise_(finding);
   }

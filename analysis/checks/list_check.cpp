@@ -13,6 +13,7 @@ namespace {
 struct Field {
   const ColumnSchema& schema;
   std::size_t column;
+  std::size_t lastFilledRow;  ///< 0 when every cell is empty.
 };
 
 constexpr Words kIsEmpty = {"is empty", "是空的"};
@@ -62,15 +63,9 @@ class ListCheck {
       case RowRule::kDecides:
         return field.schema.accepts(table_.Cells().Cell(row, field.column));
       case RowRule::kBounds:
-        return row <= LastFilledRow(field);
+        return row <= field.lastFilledRow;
     }
     return true;
-  }
-
-  std::size_t LastFilledRow(const Field& field) const {
-    std::size_t last = table_.RowCount();
-    while (last > 0 && IsEmpty(last, field)) --last;
-    return last;
   }
 
   void RaiseSkipped(std::size_t row, const Field& field) const {
@@ -95,11 +90,17 @@ class ListCheck {
   std::vector<std::size_t> counting_;
 };
 
+std::size_t LastFilledRow(const TableText& table, std::size_t column) {
+  std::size_t last = table.RowCount();
+  while (last > 0 && table.Cells().CellEquals(last, column, "")) --last;
+  return last;
+}
+
 std::vector<Field> FieldsOf(std::size_t record, const TableText& table, const TableSchema& schema) {
   std::vector<Field> fields;
   for (const ColumnSchema& column : schema.columns) {
     const auto at = table.Cells().FindColumn(column.column);
-    if (column.record == record && at) fields.push_back({column, *at});
+    if (column.record == record && at) fields.push_back({column, *at, LastFilledRow(table, *at)});
   }
   return fields;
 }

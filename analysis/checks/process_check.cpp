@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "analysis/cells/cell_check.h"
-#include "analysis/checks/column_check.h"
 #include "analysis/schema/table_schema.h"
 #include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
@@ -29,8 +28,7 @@ const ColumnSchema& ColumnNamed(std::string_view name) {
 }
 
 /// The known name that a text was probably meant to be: the same but for width, script and blanks, a part of
-/// it, or much like it; empty when there is none. `missing` is the one known name that nothing else plays, if
-/// there is just one.
+/// it, or much like it; empty when there is none.
 std::string Meant(const std::string& text, const std::vector<std::string>& known) {
   const std::string folded = FoldedName(text);
   for (const std::string& name : known) {
@@ -201,7 +199,7 @@ bool AsksForParameter(ProcessRule::RuleType type) {
 
 class ProcessCheck {
  public:
-  ProcessCheck(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise)
+  ProcessCheck(const TableText& table, const ToldHeaders& toldHeaders, const Raise& raise)
       : table_(table),
         toldHeaders_(toldHeaders),
         raise_(raise),
@@ -236,8 +234,15 @@ class ProcessCheck {
     }
   }
 
+  /// Whether a header that was probably meant to be this name (UTF-8) is told to be written so.
+  bool IsToldAtHeader(const std::string& name) const {
+    return std::any_of(toldHeaders_.begin(), toldHeaders_.end(),
+                       [&](const auto& header) { return header.second == name; });
+  }
+
   void RaiseWithoutColumn(std::size_t row) {
     Finding finding = CellFinding("process-without-column", table_, row, *names_);
+    if (IsToldAtHeader(*finding.text)) return;
     std::vector<std::string> unread;
     for (std::size_t column = 0; column < table_.ColumnCount(); ++column) {
       if (!read_.contains(table_.Cells().Cell(0, column))) unread.push_back(table_.ColumnName(column));
@@ -275,7 +280,6 @@ class ProcessCheck {
 
   /// A number that no plate ever has.
   void CheckMeaning(std::size_t row, ProcessRule::RuleType type) {
-    constexpr int kLastColor = 216;
     if (FedByOf(type) != FedBy::kColors) return;
     const auto colors = StrictIntegers(Cell(row, parameters_));
     if (!colors) return;
@@ -303,7 +307,7 @@ class ProcessCheck {
   }
 
   const TableText& table_;
-  const std::set<std::size_t>& toldHeaders_;
+  const ToldHeaders& toldHeaders_;
   const Raise& raise_;
   std::optional<std::size_t> names_;
   std::optional<std::size_t> conditions_;
@@ -318,7 +322,7 @@ void CheckParameters(const TableText& table, const RuleTables& tables, const Rai
   ParameterCheck(table, tables, raise).Run();
 }
 
-void CheckProcesses(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise) {
+void CheckProcesses(const TableText& table, const ToldHeaders& toldHeaders, const Raise& raise) {
   ProcessCheck(table, toldHeaders, raise).Run();
 }
 

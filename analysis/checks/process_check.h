@@ -1,7 +1,6 @@
 #pragma once
 
-#include <set>
-
+#include "analysis/checks/column_check.h"
 #include "analysis/findings/finding.h"
 #include "analysis/text/table_text.h"
 #include "rules/rule_tables.h"
@@ -13,6 +12,6 @@ namespace plateconfig {
 /// `tables` is what the library loads from it.
 void CheckParameters(const TableText& table, const RuleTables& tables, const Raise& raise);
 /// `toldHeaders` are columns of whose headers something is said already.
-void CheckProcesses(const TableText& table, const std::set<std::size_t>& toldHeaders, const Raise& raise);
+void CheckProcesses(const TableText& table, const ToldHeaders& toldHeaders, const Raise& raise);
 
 }  // namespace plateconfig

@@ -15,20 +15,9 @@
 #include "analysis/text/folded_name.h"
 #include "rules/rule_table_keys.h"
 #include "text/gbk.h"
-#include "text/utf8_decode.h"
 
 namespace plateconfig {
 namespace {
-
-std::u32string Characters(std::string_view utf8) {
-  std::u32string characters;
-  for (std::size_t at = 0; at < utf8.size();) {
-    const Utf8Character character = DecodeUtf8At(utf8, at);
-    characters += character.value;
-    at += std::max<std::size_t>(character.length, 1);
-  }
-  return characters;
-}
 
 /// True for two texts of which one has one character more, less or another one, or two in the other order; a
 /// digit for a digit is another number and no slip that can be seen.

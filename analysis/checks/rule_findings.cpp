@@ -17,11 +17,12 @@ std::string NumberText(double value) {
   return RangeCell(value, value).substr(0, RangeCell(value, value).find('_'));
 }
 
-/// Row numbers as a sentence lists them.
-std::string Listed(const std::vector<int>& rows) {
-  std::string text;
-  for (const int row : rows) text += (text.empty() ? "" : ", ") + std::to_string(row);
-  return text;
+/// Row numbers as a sentence names them: rows 2, 5.
+Word RowsText(const std::vector<int>& rows) {
+  std::vector<std::string> numbers;
+  for (const int row : rows) numbers.push_back(std::to_string(row));
+  const Word listed = Enumerated(numbers);
+  return {(rows.size() == 1 ? "row " : "rows ") + listed.english, "第 " + listed.chinese + " 行"};
 }
 
 /// Colours as a cell of the table has them.
@@ -44,10 +45,7 @@ class RuleFindings {
     const MaskedRows masked = FindMaskedRows(model_, space_);
     Keep(masked.unconfirmed);
     RaiseMasked(masked);
-    if (!masked.undecided.empty())
-      end_.incomplete.push_back({"rows " + Listed(masked.undecided) +
-                                     " were not fully compared with the rows above them: too many cases",
-                                 "第 " + Listed(masked.undecided) + " 行未能与上面各行完全比较：情况太多"});
+    if (!masked.undecided.empty()) NoteUndecided(masked.undecided);
     if (Wants("row-shared-bound")) RaiseSharedBounds(masked);
     if (Wants("rows-mergeable")) RaiseMergeable();
     if (Wants("gap")) RaiseGaps();
@@ -74,6 +72,14 @@ class RuleFindings {
     return finding;
   }
 
+  void NoteUndecided(const std::vector<int>& rows) {
+    Word text = RowsText(rows);
+    text.english += rows.size() == 1 ? " was not fully compared with the rows above it: too many cases"
+                                     : " were not fully compared with the rows above them: too many cases";
+    text.chinese += "未能与上面各行完全比较：情况太多";
+    end_.incomplete.push_back(text);
+  }
+
   void RaiseMasked(const MaskedRows& masked) {
     for (const NeverMatchingRow& row : masked.neverMatching) {
       Finding finding = RowFinding("row-never-matches", row.row);
@@ -96,9 +102,7 @@ class RuleFindings {
     finding.members.emplace_back("sameText", row.sameText);
     finding.members.emplace_back("witness", WitnessValue(row.witness));
     finding.members.emplace_back("witnessRow", row.witnessRow);
-    const std::string blockers = Listed(row.blockers);
-    finding.words.push_back(row.blockers.size() == 1 ? Word("row " + blockers, "第 " + blockers + " 行")
-                                                     : Word("rows " + blockers, "第 " + blockers + " 行"));
+    finding.words.push_back(RowsText(row.blockers));
     const std::string example = SizesOf(row.witness);
     finding.words.push_back(
         row.sameText ? Word(", with the same texts", "，且文本相同")

@@ -1,6 +1,5 @@
 #include "analysis/checks/table_check.h"
 
-#include <set>
 #include <string>
 
 #include "analysis/cells/cell_check.h"
@@ -45,7 +44,7 @@ bool CheckFile(const GivenTable& given, const TableText& text, const Raise& rais
 }
 
 RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const RuleAnalysis& analysis,
-                           const std::set<std::size_t>& toldHeaders, const Raise& raise) {
+                           const ToldHeaders& toldHeaders, const Raise& raise) {
   const RuleTables tables = LoadRuleTables(ReaderOf(given), ReadConfigFile());
   CheckParameters(text, tables, raise);
   CheckProcesses(text, toldHeaders, raise);
@@ -55,14 +54,16 @@ RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const
 
 }  // namespace
 
+bool CheckFile(const GivenTable& given, const Raise& raise) {
+  if (given.table) return CheckFile(given, TableText(given.name, *given.table), raise);
+  RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
+  return false;
+}
+
 RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise) {
-  if (!given.table) {
-    RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
-    return {};
-  }
+  if (!CheckFile(given, raise)) return {};
   const TableText text(given.name, *given.table);
-  if (!CheckFile(given, text, raise)) return {};
-  const std::set<std::size_t> toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
+  const ToldHeaders toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
   CheckCells(text, SchemaOf(given.role), raise);
   if (given.role == Role::kProcessRules) return CheckRules(given, text, analysis, toldHeaders, raise);
   CheckLists(text, SchemaOf(given.role), raise);

@@ -30,6 +30,10 @@ inline ReadConfigFile ReaderOf(const GivenTable& given) {
 /// nothing.
 RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise);
 
+/// The file as a whole: that it is missing, unreadable or empty, its form, its encoding, its first line. True
+/// when columns can be looked for in it.
+bool CheckFile(const GivenTable& given, const Raise& raise);
+
 /// The names and nothing else: why columns are not found in a table that is not empty.
 void CheckHeader(const GivenTable& given, const Raise& raise);
 

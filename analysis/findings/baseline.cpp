@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -26,6 +27,27 @@ std::string IdentityOf(const Finding& finding) {
 
 bool IsFingerprint(std::string_view text) {
   return text.size() == kDigits && text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
+}
+
+/// Hands over each line without its line end.
+template <typename Take>
+void ForEachLine(std::string_view text, Take take) {
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    take(line);
+  }
+}
+
+/// Of a line that begins with a fingerprint.
+std::optional<AcceptedFinding> AcceptedIn(std::string_view line) {
+  const std::string_view fingerprint = line.substr(0, kDigits);
+  const std::string_view rest = line.substr(fingerprint.size());
+  if (!IsFingerprint(fingerprint) || (!rest.empty() && rest.front() != ' ')) return std::nullopt;
+  const std::size_t begin = std::min(rest.find_first_not_of(' '), rest.size());
+  return AcceptedFinding{std::string(fingerprint), std::string(rest.substr(begin))};
 }
 
 }  // namespace
@@ -62,19 +84,19 @@ std::string WriteBaseline(const std::vector<AcceptedFinding>& accepted) {
   return text;
 }
 
+bool IsBaseline(std::string_view text) {
+  bool isBaseline = true;
+  ForEachLine(text, [&](std::string_view line) {
+    isBaseline = isBaseline && (line.empty() || line.starts_with('#') || AcceptedIn(line).has_value());
+  });
+  return isBaseline;
+}
+
 std::vector<AcceptedFinding> ReadBaseline(std::string_view text) {
   std::vector<AcceptedFinding> accepted;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    const std::string_view fingerprint = line.substr(0, kDigits);
-    const std::string_view rest = line.substr(fingerprint.size());
-    if (!IsFingerprint(fingerprint) || (!rest.empty() && rest.front() != ' ')) continue;
-    const std::size_t begin = std::min(rest.find_first_not_of(' '), rest.size());
-    accepted.push_back({std::string(fingerprint), std::string(rest.substr(begin))});
-  }
+  ForEachLine(text, [&](std::string_view line) {
+    if (auto finding = AcceptedIn(line)) accepted.push_back(std::move(*finding));
+  });
   return accepted;
 }
 

@@ -33,6 +33,9 @@ Comparison CompareWithBaseline(std::vector<Finding> findings, const std::vector<
 /// remarks.
 std::string WriteBaseline(const std::vector<AcceptedFinding>& accepted);
 
+/// Whether a text may be such a file: every line is empty, a remark, or begins with a fingerprint.
+bool IsBaseline(std::string_view text);
+
 /// Nothing but fingerprints counts when it is read back; a line that begins with none is passed over.
 std::vector<AcceptedFinding> ReadBaseline(std::string_view text);
 

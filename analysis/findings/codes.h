@@ -12,19 +12,36 @@
 
 namespace plateconfig {
 
-// Advice that several codes share. {0} is what becomes of the record that the value stands in; tables have
+// Advice that several codes share. {0?} is what becomes of the record that the value stands in; tables have
 // none.
 inline constexpr Words kNoAdvice = {};
-inline constexpr Words kWriteNumber = {"write it like 450 or 12.5{0}", "请写成 450 或 12.5 这样的数字{0}"};
-inline constexpr Words kWriteInteger = {"write it like 12{0}", "请写成 12 这样的整数{0}"};
-inline constexpr Words kWriteIntegers = {"write it like 36_186{0}", "请写成 36_186 这样的形式{0}"};
-inline constexpr Words kWriteNumbers = {"write it like 6_8.5{0}", "请写成 6_8.5 这样的形式{0}"};
+inline constexpr Words kWriteNumber = {"write it like 450 or 12.5{0?}", "请写成 450 或 12.5 这样的数字{0?}"};
+inline constexpr Words kWriteInteger = {"write it like 12{0?}", "请写成 12 这样的整数{0?}"};
+inline constexpr Words kWriteIntegers = {"write it like 36_186{0?}", "请写成 36_186 这样的形式{0?}"};
+inline constexpr Words kWriteNumbers = {"write it like 6_8.5{0?}", "请写成 6_8.5 这样的形式{0?}"};
 inline constexpr Words kWriteRange = {"write it like 10_200", "请写成 10_200 这样的形式"};
 inline constexpr Words kWriteHalfWidth = {"write the half-width {0}", "请改写半角的{0}"};
 inline constexpr Words kWriteComma = {"write a comma behind every entry but the last",
                                       "除最后一项外，每一项后面都要写逗号"};
-inline constexpr Words kIntegersGo = {"whole numbers go from -2147483648 to 2147483647{0}",
-                                      "整数须在 -2147483648 到 2147483647 之间{0}"};
+inline constexpr Words kIntegersGo = {"whole numbers go from -2147483648 to 2147483647{0?}",
+                                      "整数须在 -2147483648 到 2147483647 之间{0?}"};
+
+// The host's layers and colours are numbered from 1 on. The sentences name the last one, as an assertion
+// below makes sure.
+inline constexpr int kLastLayer = 256;
+inline constexpr int kLastColor = 216;
+inline constexpr Words kLayersGo = {"layers are numbers from 1 to 256", "图层号是 1 到 256 的整数"};
+inline constexpr Words kColorsGo = {"colours are numbers from 1 to 216", "颜色号是 1 到 216 的整数"};
+inline constexpr Words kListedColorsGo = {"colours are numbers from 1 to 216, and 0 is any",
+                                          "颜色号是 1 到 216 的整数，0 表示任意颜色"};
+inline constexpr Words kLayerPage = {"The CAD system has the layers 1 to 256.",
+                                     "CAD 系统只有 1 到 256 的图层。"};
+inline constexpr Words kColorPage = {
+    "The colour table of the CAD system has the colours 1 to 216; no face ever has another one.",
+    "CAD 系统的颜色表只有 1 到 216 号颜色，没有任何面会是其他颜色。"};
+inline constexpr Words kListedColorPage = {
+    "The colours of the drawing are numbered from 1 to 216; another number meets no face.",
+    "图中的颜色号为 1 到 216，其他数字不会与任何面相符。"};
 
 // clang-format off
 inline constexpr CodeRow kCodes[] = {
@@ -315,8 +332,8 @@ inline constexpr CodeRow kCodes[] = {
      {"Perhaps the file plays another role, or its header was lost.",
       "也许此文件另有用途，或者表头丢失了。"}},
     {"column-misspelled", Severity::kWarning,
-     {"the column \"{text}\" is not known and is ignored",
-      "未知的列“{text}”，已忽略"},
+     {"the column \"{text}\" is not known and is ignored{0?}",
+      "未知的列“{text}”，已忽略{0?}"},
      kNoAdvice,
      {"Column names are compared byte by byte. A name that is almost that of an absent column means that its values are not read.",
       "列名按字节比较。与所缺的列只差一点的列名，其中的值不会被读取。"}},
@@ -368,6 +385,13 @@ inline constexpr CodeRow kCodes[] = {
       "若不是有意省略，请补上此列"},
      {"An absent column is no mistake: its default is used. It is one if somebody deleted the column by accident.",
       "缺列本身不是错误，会取默认值；如果是误删，就是错误。"}},
+    {"column-required", Severity::kWarning,
+     {"this table lacks the column \"{column}\", so {0}",
+      "此表缺少列“{column}”，因此{0}"},
+     {"add the column, or mend its name",
+      "请补上此列，或改正列名"},
+     {"A row of a list counts only when it has a cell in this column. The other columns of the list are there, but without this one nothing of them is read.",
+      "列表中的一行，只有此列有内容才算数。列表的其他列都在，但缺少此列就什么都读不到。"}},
     {"cell-not-number", Severity::kWarning,
      {"{offending} is not a number",
       "{offending}不是数字"},
@@ -470,17 +494,13 @@ inline constexpr CodeRow kCodes[] = {
     {"layer-out-of-range", Severity::kWarning,
      {"{text} is no layer",
       "{text} 不是图层号"},
-     {"layers are numbers from 1 to 256",
-      "图层号是 1 到 256 的整数"},
-     {"The CAD system has the layers 1 to 256.",
-      "CAD 系统只有 1 到 256 的图层。"}},
+     kLayersGo,
+     kLayerPage},
     {"color-out-of-range", Severity::kWarning,
      {"{text} is no colour",
       "{text} 不是颜色号"},
-     {"colours are numbers from 1 to 216",
-      "颜色号是 1 到 216 的整数"},
-     {"The colour table of the CAD system has the colours 1 to 216; no face ever has another one.",
-      "CAD 系统的颜色表只有 1 到 216 号颜色，没有任何面会是其他颜色。"}},
+     kColorsGo,
+     kColorPage},
     {"cell-reads-as-zero", Severity::kWarning,
      {"the first cell of this column is empty and is read as {usedAs}",
       "此列的第一个单元格是空的，读作 {usedAs}"},
@@ -577,7 +597,7 @@ inline constexpr CodeRow kCodes[] = {
      {"\"{text}\" is not taken into the list",
       "“{text}”不会被列入"},
      {"write {0}",
-      "请写{0}"},
+      "请写 {0}"},
      {"This list takes certain numbers alone; every other cell is passed over.",
       "此列表只收取规定的数字，其他单元格都被跳过。"}},
     {"parameter-unknown", Severity::kWarning,
@@ -732,15 +752,15 @@ inline constexpr CodeRow kCodes[] = {
      {"An empty range accepts every value from 0 to 999999. A row that leaves several conditions empty is taken for one that is meant to catch what the others leave, and is not told.",
       "空的范围接受 0 到 999999 的任何值。有几项条件留空的行多半是有意兜底的，不会提示。"}},
     {"row-never-matches", Severity::kError,
-     {"row {0} accepts no plate at all{1}",
-      "第 {0} 行不接受任何板{1}"},
+     {"row {0} accepts no plate at all{1?}",
+      "第 {0} 行不接受任何板{1?}"},
      {"mend the condition, or delete the row",
       "请改正条件，或删除此行"},
      {"No length, width, thickness, weight, colour or face can meet the conditions of this row.",
       "没有任何尺寸、重量、颜色或面能满足此行的条件。"}},
     {"row-shadowed", Severity::kWarning,
-     {"row {0} never gets a plate, because all of them go to {1} first{2}",
-      "第 {0} 行永远得不到板：{1}先接受了全部{2}"},
+     {"row {0} never gets a plate, because all of them go to {1} first{2?}",
+      "第 {0} 行永远得不到板：{1}先接受了全部{2?}"},
      {"delete the row, or move it above {1}",
       "请删除此行，或移到{1}之前"},
      {"The first row that fits wins. Everything that this row accepts is accepted by rows above it, perhaps by several of them together. The witness is one plate of it, and the row that it gets instead.",
@@ -818,11 +838,11 @@ inline constexpr CodeRow kCodes[] = {
     {"input-not-integer", Severity::kError, {"{offending} is not a whole number", "{offending}不是整数"}, kWriteInteger, {"Colours, layers and counts are whole numbers. The record is passed over.", "颜色、图层和数量都是整数。该条记录被跳过。"}},
     {"input-not-integers", Severity::kError, {"{offending} is not a list of whole numbers", "{offending}不是整数列表"}, kWriteIntegers, {"A list in one cell is joined by the half-width underline. The record is passed over.", "一个单元格内的列表以半角下划线连接。该条记录被跳过。"}},
     {"input-not-numbers", Severity::kError, {"{offending} is not a list of numbers", "{offending}不是数字列表"}, kWriteNumbers, {"A list in one cell is joined by the half-width underline. The record is passed over.", "一个单元格内的列表以半角下划线连接。该条记录被跳过。"}},
-    {"input-not-yes-no", Severity::kError, {"{offending} is neither Y nor N{0}", "{offending}既不是 Y 也不是 N{0}"}, kNoAdvice, {"Whether a feature is there is written Y or N; an empty cell is unknown and counts as no.", "特征的有无写 Y 或 N；空单元格表示未知，按无处理。"}},
-    {"input-number-range", Severity::kError, {"{offending} is out of range{0}", "{offending}数值过大{0}"}, kNoAdvice, {"The number is larger than what can be computed with. The record is passed over.", "数字大到无法计算。该条记录被跳过。"}},
+    {"input-not-yes-no", Severity::kError, {"{offending} is neither Y nor N{0?}", "{offending}既不是 Y 也不是 N{0?}"}, kNoAdvice, {"Whether a feature is there is written Y or N; an empty cell is unknown and counts as no.", "特征的有无写 Y 或 N；空单元格表示未知，按无处理。"}},
+    {"input-number-range", Severity::kError, {"{offending} is out of range{0?}", "{offending}数值过大{0?}"}, kNoAdvice, {"The number is larger than what can be computed with. The record is passed over.", "数字大到无法计算。该条记录被跳过。"}},
     {"input-integer-range", Severity::kError, {"{offending} is out of range", "{offending}超出范围"}, kIntegersGo, {"Whole numbers are kept in 32 bits. The record is passed over.", "整数以 32 位保存。该条记录被跳过。"}},
-    {"input-not-positive", Severity::kError, {"{text} is too small", "{text} 太小"}, {"write a number above 0{0}", "请写大于 0 的数字{0}"}, {"A length, width, thickness or diameter is above 0.", "长度、宽度、厚度和直径都大于 0。"}},
-    {"input-negative", Severity::kError, {"{text} is too small", "{text} 太小"}, {"write 0 or more{0}", "请写 0 或更大的数字{0}"}, {"A weight or a count is never below 0.", "重量和数量不会小于 0。"}},
+    {"input-not-positive", Severity::kError, {"{text} is too small", "{text} 太小"}, {"write a number above 0{0?}", "请写大于 0 的数字{0?}"}, {"A length, width, thickness or diameter is above 0.", "长度、宽度、厚度和直径都大于 0。"}},
+    {"input-negative", Severity::kError, {"{text} is too small", "{text} 太小"}, {"write 0 or more{0?}", "请写 0 或更大的数字{0?}"}, {"A weight or a count is never below 0.", "重量和数量不会小于 0。"}},
     // Inputs in CSV.
     {"input-header-encoding", Severity::kError, {"the header is neither UTF-8 nor GBK", "表头既不是 UTF-8 也不是 GBK"}, {"save the file as CSV in one of them", "请将文件存为其中一种编码的 CSV"}, {"The names of the columns can not be read, and so nothing can.", "列名无法读取，因此整个文件都无法读取。"}},
     {"input-row-encoding", Severity::kError, {"this row is not {0} as the header is; it is passed over. Save the file as {0}", "本行与表头的编码 {0} 不一致，被跳过。请将文件存为 {0}"}, kNoAdvice, {"Two files of different encodings were probably put together.", "多半是把两个编码不同的文件拼在了一起。"}},
@@ -850,28 +870,28 @@ inline constexpr CodeRow kCodes[] = {
     {"input-json-open-object", Severity::kError, {"this object is never closed; what follows it can not be read", "这个对象没有结束，后面的内容无法读取"}, kNoAdvice, {"A brace is missing. What follows belongs to the object, as far as can be seen.", "缺少花括号。后面的内容因此都算在此对象中。"}},
     {"input-json-stray", Severity::kError, {"an object {0} is expected here, not \"{text}\"", "这里应当是一个对象 {0}，而不是“{text}”"}, kNoAdvice, {"Between two objects stand a comma or blanks alone.", "两个对象之间只能有逗号或空白。"}},
     {"input-json-encoding", Severity::kError, {"this object is not UTF-8", "这个对象不是 UTF-8"}, {"save the file as UTF-8", "请将文件存为 UTF-8"}, {"JSON is UTF-8. The object is passed over.", "JSON 用 UTF-8 编码。该对象被跳过。"}},
-    {"input-json-kind", Severity::kError, {"this should be {1}, not {2}{0}", "这里应当是{1}，而不是{2}{0}"}, kNoAdvice, {"The value is of another kind than this member has: a number stands without quotes, a text in them.", "值的类型与此成员不符：数字不加引号，文本要加引号。"}},
+    {"input-json-kind", Severity::kError, {"this should be {1}, not {2}{0?}", "这里应当是{1}，而不是{2}{0?}"}, kNoAdvice, {"The value is of another kind than this member has: a number stands without quotes, a text in them.", "值的类型与此成员不符：数字不加引号，文本要加引号。"}},
     {"input-json-integer-range", Severity::kError, {"{text} is out of range", "{text} 超出范围"}, kIntegersGo, {"Whole numbers are kept in 32 bits. The object is passed over.", "整数以 32 位保存。该对象被跳过。"}},
     {"input-member-unknown", Severity::kWarning, {"the member \"{text}\" is not known and is ignored", "未知的成员“{text}”，已忽略"}, kNoAdvice, {"Its name is almost that of a known member, whose value is then missing. Members with quite other names are remarks.", "成员名与已知的成员只差一点，因此缺少该成员的值。名称完全不同的成员视为备注。"}},
     {"input-member-twice", Severity::kWarning, {"a second member \"{text}\"", "重复的成员“{text}”"}, {"the first one counts", "以第一个为准"}, {"Only the first of two members of one name is read.", "同名的两个成员中只读取第一个。"}},
     // Plates, holes and hole types.
-    {"plate-no-name", Severity::kError, {"the plate has no name{0}", "板没有名称{0}"}, kNoAdvice, {"Results are told apart by the names of the plates.", "结果是按板的名称区分的。"}},
-    {"plate-member-missing", Severity::kError, {"the plate has no \"{text}\"{0}", "此板缺少“{text}”{0}"}, kNoAdvice, {"Sizes, weight and body colour decide which row a plate gets, so none may be missing.", "尺寸、重量和体颜色决定板得到哪一行，缺一不可。"}},
+    {"plate-no-name", Severity::kError, {"the plate has no name{0?}", "板没有名称{0?}"}, kNoAdvice, {"Results are told apart by the names of the plates.", "结果是按板的名称区分的。"}},
+    {"plate-member-missing", Severity::kError, {"the plate has no \"{text}\"{0?}", "此板缺少“{text}”{0?}"}, kNoAdvice, {"Sizes, weight and body colour decide which row a plate gets, so none may be missing.", "尺寸、重量和体颜色决定板得到哪一行，缺一不可。"}},
     {"plate-feature-unknown", Severity::kWarning, {"\"{text}\" is no feature and is ignored", "“{text}”不是特征，已忽略"}, kNoAdvice, {"Features have the names of the conditions in the process list.", "特征的名称就是工艺列表中各类型的名称。"}},
     {"plate-feature-misplaced", Severity::kWarning, {"\"{text}\" belongs into \"{0}\" and is ignored here", "“{text}”应写在“{0}”中，此处已忽略"}, kNoAdvice, {"Features stand in features, processes that somebody orders by hand in customProcesses.", "特征写在 features 中，由人指定的工艺写在 customProcesses 中。"}},
-    {"hole-no-name", Severity::kError, {"the hole has no name{0}", "孔没有名称{0}"}, kNoAdvice, {"Results are told apart by the names of the holes.", "结果是按孔的名称区分的。"}},
+    {"hole-no-name", Severity::kError, {"the hole has no name{0?}", "孔没有名称{0?}"}, kNoAdvice, {"Results are told apart by the names of the holes.", "结果是按孔的名称区分的。"}},
     {"hole-not-group", Severity::kError, {"{offending} is none of 顶 (top), 通 (through) and 底 (bottom)", "{offending}不是 顶、通、底 之一"}, kNoAdvice, {"A segment is entered from the top, goes through, or is entered from the bottom.", "一段孔从顶部加工、贯通，或从底部加工。"}},
-    {"hole-member-missing", Severity::kError, {"\"{text}\" is missing here{0}", "这里缺少“{text}”{0}"}, kNoAdvice, {"A segment has a diameter and a colour; without them it can not be compared with any type.", "每一段都有直径和颜色，否则无法与任何类型比较。"}},
-    {"hole-origin", Severity::kError, {"an origin has three coordinates: [x, y, z]{0}", "原点应有三个坐标：[x, y, z]{0}"}, kNoAdvice, {"The origin is where the segment begins, in millimetres.", "原点是该段的起点，单位为毫米。"}},
+    {"hole-member-missing", Severity::kError, {"\"{text}\" is missing here{0?}", "这里缺少“{text}”{0?}"}, kNoAdvice, {"A segment has a diameter and a colour; without them it can not be compared with any type.", "每一段都有直径和颜色，否则无法与任何类型比较。"}},
+    {"hole-origin", Severity::kError, {"an origin has three coordinates: [x, y, z]{0?}", "原点应有三个坐标：[x, y, z]{0?}"}, kNoAdvice, {"The origin is where the segment begins, in millimetres.", "原点是该段的起点，单位为毫米。"}},
     {"hole-incomplete", Severity::kError, {"the hole \"{text}\" is passed over because not all of its rows can be used", "孔“{text}”有无法使用的行，被跳过"}, kNoAdvice, {"With a segment less it would be another hole.", "少了一段就成了另一种孔。"}},
     {"hole-apart", Severity::kError, {"a hole \"{text}\" stood further up and is passed over whole", "前面已有孔“{text}”，该孔被整个跳过"}, {"the rows of one hole must stand together", "同一个孔的各行必须连在一起"}, {"Rows of one hole follow each other; the same name further down is probably another hole.", "同一个孔的各行相连；下面再次出现同一名称，多半是另一个孔。"}},
-    {"hole-type-no-name", Severity::kError, {"the type has no name{0}", "类型没有名称{0}"}, kNoAdvice, {"The name is the answer that a hole gets.", "名称就是孔得到的结果。"}},
-    {"hole-type-member-missing", Severity::kError, {"the type has no \"{text}\"{0}", "此类型缺少“{text}”{0}"}, kNoAdvice, {"A type without a structure fits no hole.", "没有结构的类型不适合任何孔。"}},
+    {"hole-type-no-name", Severity::kError, {"the type has no name{0?}", "类型没有名称{0?}"}, kNoAdvice, {"The name is the answer that a hole gets.", "名称就是孔得到的结果。"}},
+    {"hole-type-member-missing", Severity::kError, {"the type has no \"{text}\"{0?}", "此类型缺少“{text}”{0?}"}, kNoAdvice, {"A type without a structure fits no hole.", "没有结构的类型不适合任何孔。"}},
     {"hole-type-structure", Severity::kWarning, {"no hole has the structure \"{text}\" of the type {0}", "类型 {0} 的结构“{text}”不对应任何孔"}, {"write the numbers of top, through and bottom segments like 1_1_0", "请将顶、通、底的段数写成 1_1_0 这样的形式"}, {"The structure is compared character by character: three numbers without leading zeros, joined by _.", "结构逐字符比较：三个数字，前面不带 0，以 _ 连接。"}},
     {"hole-type-refuses-all", Severity::kWarning, {"the type {0} refuses every hole: {1} ({2}) has {3} lists for {4} segments", "类型 {0} 不接受任何孔：{1}（{2}）只有 {3} 个列表，而有 {4} 段"}, {"write 0 for any colour", "任意颜色请写 0"}, {"Each segment needs its list of colours; a segment without one is refused.", "每一段都要有自己的颜色列表，没有列表的段不被接受。"}},
     {"hole-type-list-unused", Severity::kWarning, {"the type {0} has no {1} segment, while {2} is stated for one", "类型 {0} 没有{1}段，却写了{2}"}, {"empty the cell, or mend the structure", "请清空此单元格，或改正结构"}, {"A list belongs to a segment of the structure; this one is never looked at, so a digit of the structure is probably wrong.", "每个列表对应结构中的一段；此列表从不使用，多半是结构写错了一位。"}},
     {"hole-type-no-diameters", Severity::kHint, {"the type {0} accepts any diameter of its {1} segments, while all other types list them", "类型 {0} 的{1}接受任意直径，而其他类型都列出了直径"}, {"write the diameters, or 0 for any", "请写出直径，任意直径请写 0"}, {"A group without lists of diameters takes every diameter. Where all other types list theirs, the cell was probably emptied by mistake.", "没有直径列表的组接受任意直径。其他类型都写了直径，此处多半是误删。"}},
-    {"hole-type-color", Severity::kWarning, {"{text} is no colour", "{text} 不是颜色号"}, {"colours are numbers from 1 to 216, and 0 is any", "颜色号是 1 到 216 的整数，0 表示任意颜色"}, {"The colours of the drawing are numbered from 1 to 216; another number meets no face.", "图中的颜色号为 1 到 216，其他数字不会与任何面相符。"}},
+    {"hole-type-color", Severity::kWarning, {"{text} is no colour", "{text} 不是颜色号"}, kListedColorsGo, kListedColorPage},
     {"hole-type-name-twice", Severity::kWarning, {"a second type has the name \"{text}\"; the first stands on line {0}", "第二个名为“{text}”的类型；第一个在第 {0} 行"}, kNoAdvice, {"The name is the answer that a hole gets, so two types of one name can not be told apart; probably a row was pasted twice.", "名称就是孔得到的结果，同名的两个类型无法区分；多半是同一行粘贴了两次。"}},
 };
 // clang-format on
@@ -880,8 +900,8 @@ namespace codes {
 
 /// The place that opens at `text[at]`, without its braces; empty when it is none that a sentence knows.
 constexpr std::string_view PlaceAt(std::string_view text, std::size_t at) {
-  constexpr std::string_view kPlaces[] = {"offending", "text", "column", "usedAs", "fix", "0",
-                                          "1",         "2",    "3",      "4",      "5"};
+  constexpr std::string_view kPlaces[] = {"offending", "text", "column", "usedAs", "fix", "0",  "1",
+                                          "2",         "3",    "4",      "5",      "0?",  "1?", "2?"};
   const std::string_view inside = text.substr(at + 1, text.find('}', at) - at - 1);
   return std::find(std::begin(kPlaces), std::end(kPlaces), inside) == std::end(kPlaces) ? std::string_view()
                                                                                         : inside;
@@ -906,6 +926,23 @@ consteval bool AreWellFormed() {
                      [&](const CodeRow& row) { return match(row.message) && match(row.advice); });
 }
 
+/// True when both languages name the number.
+constexpr bool Names(const Words& words, int number) {
+  std::array<char, 10> digits{};
+  std::size_t begin = digits.size();
+  for (; number > 0; number /= 10) digits[--begin] = static_cast<char>('0' + number % 10);
+  const std::string_view text(digits.data() + begin, digits.size() - begin);
+  return words.english.find(text) != std::string_view::npos &&
+         words.chinese.find(text) != std::string_view::npos;
+}
+
+consteval bool NameTheLast() {
+  constexpr Words kOfColors[] = {kColorsGo, kColorPage, kListedColorsGo, kListedColorPage};
+  return Names(kLayersGo, kLastLayer) && Names(kLayerPage, kLastLayer) &&
+         std::all_of(std::begin(kOfColors), std::end(kOfColors),
+                     [](const Words& words) { return Names(words, kLastColor); });
+}
+
 consteval bool AreUnique() {
   std::array<std::string_view, std::size(kCodes)> names;
   std::transform(std::begin(kCodes), std::end(kCodes), names.begin(),
@@ -919,5 +956,7 @@ consteval bool AreUnique() {
 static_assert(codes::AreWellFormed(),
               "A sentence has a place that does not exist, or one that the other language lacks.");
 static_assert(codes::AreUnique(), "Two rows have one name.");
+static_assert(codes::NameTheLast(),
+              "A sentence about layers or colours names another number than the last one.");
 
 }  // namespace plateconfig

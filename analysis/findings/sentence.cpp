@@ -64,24 +64,9 @@ std::string Fill(std::string_view text, const Finding& finding, Language languag
   return filled;
 }
 
-/// True for a sentence to which nothing is missing, by what no sentence ends with.
-bool IsWhole(std::string_view sentence) {
-  constexpr std::string_view kOpenEnds[] = {" ", "“", "：", "；", "写", "读取", "的"};
-  return !sentence.empty() && std::none_of(std::begin(kOpenEnds), std::end(kOpenEnds),
-                                           [&](std::string_view end) { return sentence.ends_with(end); });
-}
-
 /// True when the message itself says it.
 bool Says(const Finding& finding, std::string_view place) {
   return finding.code.Row().message.english.find(place) != std::string_view::npos;
-}
-
-std::string UsedAs(const Finding& finding, Language language) {
-  constexpr Words kAsEmpty = {"; it counts as an empty cell", "；视为空单元格"};
-  constexpr Words kAs = {"; it is read as ", "；读作 "};
-  if (!finding.usedAs || Says(finding, "{usedAs}")) return {};
-  if (finding.usedAs->empty()) return std::string(kAsEmpty.In(language));
-  return std::string(kAs.In(language)) + ShownText(*finding.usedAs);
 }
 
 std::string Suggestion(const Finding& finding, Language language) {
@@ -101,13 +86,21 @@ std::string AdviceOf(const Finding& finding, Language language) {
   return Fill(finding.code.Row().advice.In(language), finding, language);
 }
 
+std::string UsedAsOf(const Finding& finding, Language language) {
+  constexpr Words kAsEmpty = {"; it counts as an empty cell", "；视为空单元格"};
+  constexpr Words kAs = {"; it is read as ", "；读作 "};
+  if (!finding.usedAs || Says(finding, "{usedAs}")) return {};
+  if (finding.usedAs->empty()) return std::string(kAsEmpty.In(language));
+  return std::string(kAs.In(language)) + ShownText(*finding.usedAs);
+}
+
 std::string OutlineOf(std::string_view text) {
   std::string outline;
   for (std::size_t open; (open = text.find('{')) != std::string_view::npos;) {
+    const std::size_t close = text.find('}', open);
     outline += text.substr(0, open);
-    text.remove_prefix(text.find('}', open) + 1);
-    // What is put on behind a whole sentence, as the case may be, is no part of it.
-    if (!text.empty() || !IsWhole(outline)) outline += "…";
+    if (!text.substr(0, close).ends_with('?')) outline += "…";
+    text.remove_prefix(close + 1);
   }
   return outline.append(text);
 }
@@ -118,7 +111,7 @@ std::string LineOf(const Finding& finding, Language language) {
   line += MessageOf(finding, language);
   const std::string advice = AdviceOf(finding, language);
   if (!advice.empty()) line.append(kSeparator.In(language)).append(advice);
-  return line + UsedAs(finding, language) + Suggestion(finding, language);
+  return line + UsedAsOf(finding, language) + Suggestion(finding, language);
 }
 
 std::string_view NameOf(Severity severity) {
@@ -128,9 +121,9 @@ std::string_view NameOf(Severity severity) {
     case Severity::kWarning:
       return "warning";
     case Severity::kHint:
-      return "hint";
+      break;
   }
-  return {};
+  return "hint";
 }
 
 Words WordsOf(Severity severity) {
@@ -140,9 +133,9 @@ Words WordsOf(Severity severity) {
     case Severity::kWarning:
       return {"warning", "警告"};
     case Severity::kHint:
-      return {"hint", "提示"};
+      break;
   }
-  return {};
+  return {"hint", "提示"};
 }
 
 }  // namespace plateconfig

@@ -1,6 +1,7 @@
 #include "analysis/schema/settings.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "analysis/schema/snapshot.h"
@@ -44,7 +45,9 @@ class OpenTable {
 std::vector<Setting> ColumnWidths(const OpenTable& table, const std::string& path) {
   const ColumnWidthManager widths(path);
   std::vector<Setting> settings;
+  std::set<std::string> listed;
   for (const std::string& name : table.Reader().GetColumnNames()) {
+    if (!listed.insert(name).second) continue;  // A second column of one name is never read.
     ColumnSchema column = SchemaOf(Role::kColumnWidths).columns.front();
     column.column = name;
     settings.push_back({column, {std::to_string(widths.GetColumnWidth(name))}, table.SourceOf(column)});

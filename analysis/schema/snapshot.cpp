@@ -62,22 +62,12 @@ Snapshot ColumnWidths() {
   return snapshot;
 }
 
-/// What a template of the table should name.
-Cells ParameterNames() {
-  Cells names;
-  for (const GeneralParameter& parameter : kGeneralParameters) names.emplace_back(parameter.name);
-  return names;
-}
-
 Snapshot RuleTable() {
   Snapshot snapshot;
   snapshot.WalkRows<kParameterKeys>(std::vector<ParameterRow>());
   snapshot.WalkRows<kProcessListKeys>(std::vector<ProcessRow>());
   snapshot.WalkRows<kRuleRowKeys>(std::vector<RuleRow>());
   snapshot.WalkRows<kProcessTextKeys>(std::vector<ProcessText>());
-  for (ColumnSchema& column : snapshot.columns) {
-    if (column.use == ColumnUse::kParameterNames) column.whenAbsent = ParameterNames();
-  }
   return snapshot;
 }
 
@@ -144,9 +134,9 @@ Snapshot TakeSnapshot(Role role, const std::string* path) {
     case Role::kDwgFolder:
       return FurtherTable(path, &SystemDefault::InitialDwgFolder, WalkDwgFolder);
     case Role::kReplaceContent:
-      return FurtherTable(path, &SystemDefault::InitialReplaceContent, WalkReplaceContent);
+      break;
   }
-  return {};
+  return FurtherTable(path, &SystemDefault::InitialReplaceContent, WalkReplaceContent);
 }
 
 }  // namespace plateconfig

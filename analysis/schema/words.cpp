@@ -43,9 +43,9 @@ Words WordsOf(CellForm form) {
     case CellForm::kExactParameter:
       return {"exactly the parameter's name, or anything else", "与通用要求的名称完全相同，或其他内容"};
     case CellForm::kExactSoftParameter:
-      return {"exactly the soft parameter's name, or anything else", "与软料的名称完全相同，或其他内容"};
+      break;
   }
-  return {};
+  return {"exactly the soft parameter's name, or anything else", "与软料的名称完全相同，或其他内容"};
 }
 
 Words WordsOf(Unit unit) {
@@ -69,9 +69,9 @@ Words WordsOf(Unit unit) {
     case Unit::kRows:
       return {"rows", "行"};
     case Unit::kDensity:
-      return {"g/cm³", "g/cm³"};
+      break;
   }
-  return {};
+  return {"g/cm³", "g/cm³"};
 }
 
 }  // namespace plateconfig

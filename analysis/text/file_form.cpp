@@ -29,7 +29,7 @@ bool IsUtf16(std::string_view bytes) {
 bool IsUtf8(std::string_view bytes) {
   constexpr unsigned char kFirstOfThree = 0xE0;
   const auto beginsThree = [](char c) { return static_cast<unsigned char>(c) >= kFirstOfThree; };
-  return bytes.starts_with("\xEF\xBB\xBF") ||
+  return bytes.starts_with(kByteOrderMark) ||
          (std::any_of(bytes.begin(), bytes.end(), beginsThree) && IsValidUtf8(bytes));
 }
 

@@ -41,14 +41,17 @@ constexpr std::u32string_view kTraditional =
 
 using Pair = std::pair<char32_t, char32_t>;
 
+static_assert(kTraditional.size() % 2 == 0, "each traditional character has its simplified form behind it");
+
 /// The pairs in ascending order.
-constexpr auto kSimplifiedForms = [] {
-  static_assert(kTraditional.size() % 2 == 0, "each traditional character has its simplified form behind it");
+consteval std::array<Pair, kTraditional.size() / 2> SimplifiedForms() {
   std::array<Pair, kTraditional.size() / 2> pairs;
   for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kTraditional[2 * i], kTraditional[2 * i + 1]};
   std::sort(pairs.begin(), pairs.end());
   return pairs;
-}();
+}
+
+constexpr auto kSimplifiedForms = SimplifiedForms();
 
 char32_t Simplified(char32_t c) {
   const auto found = std::lower_bound(kSimplifiedForms.begin(), kSimplifiedForms.end(), Pair{c, 0});
@@ -107,6 +110,16 @@ std::string FoldedName(std::string_view utf8) {
   return folded;
 }
 
+std::u32string Characters(std::string_view utf8) {
+  std::u32string characters;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const Utf8Character character = DecodeUtf8At(utf8, at);
+    characters += character.value;
+    at += std::max<std::size_t>(character.length, 1);
+  }
+  return characters;
+}
+
 std::size_t OddCharacters(std::string_view utf8) {
   std::size_t count = 0;
   for (std::size_t at = 0; at < utf8.size();) {
@@ -125,6 +138,13 @@ std::string FoldedNameWithoutUnit(std::string_view utf8) {
   const std::size_t open = folded.ends_with(')') ? folded.rfind('(') : std::string::npos;
   if (open != std::string::npos && open > 0) folded.erase(open);
   return folded;
+}
+
+std::optional<bool> MeantYes(std::string_view utf8) {
+  const std::string folded = FoldedName(utf8);
+  if (folded == "y" || folded == "是" || folded == "yes") return true;
+  if (folded == "n" || folded == "否" || folded == "no") return false;
+  return std::nullopt;
 }
 
 std::size_t BlankLength(std::string_view utf8, std::size_t at) {

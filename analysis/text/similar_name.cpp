@@ -6,20 +6,9 @@
 #include <numeric>
 
 #include "analysis/text/folded_name.h"
-#include "text/utf8_decode.h"
 
 namespace plateconfig {
 namespace {
-
-std::u32string Characters(std::string_view utf8) {
-  std::u32string characters;
-  for (std::size_t at = 0; at < utf8.size();) {
-    const Utf8Character character = DecodeUtf8At(utf8, at);
-    characters += static_cast<char32_t>(character.value);
-    at += std::max<std::size_t>(character.length, 1);
-  }
-  return characters;
-}
 
 /// Levenshtein's distance: the fewest insertions, deletions and replacements that turn one text into the
 /// other.
@@ -52,6 +41,26 @@ bool IsSlipOf(const std::u32string& name, const std::u32string& meant) {
   };
   return holds(name, meant) || holds(meant, name) || EditDistance(name, meant) == 1 ||
          (name.size() == meant.size() && std::is_permutation(name.begin(), name.end(), meant.begin()));
+}
+
+/// True for a name that leaves characters out of `whole`, but no more than it keeps.
+bool IsShortened(const std::u32string& name, const std::u32string& whole) {
+  if (name.size() < 2 || name.size() * 2 < whole.size()) return false;
+  auto kept = name.begin();
+  for (const char32_t character : whole) {
+    if (kept != name.end() && *kept == character) ++kept;
+  }
+  return kept == name.end();
+}
+
+/// The only one of the names that `folded` shortens; empty when there is none, or several.
+std::string OnlyShortened(std::string_view folded, const std::vector<std::string>& known) {
+  const std::u32string name = Characters(folded);
+  std::vector<std::string> whole;
+  std::copy_if(known.begin(), known.end(), std::back_inserter(whole), [&](const std::string& candidate) {
+    return IsShortened(name, Characters(FoldedName(candidate)));
+  });
+  return whole.size() == 1 ? whole.front() : std::string();
 }
 
 }  // namespace
@@ -113,7 +122,8 @@ std::string ProbablyMeantName(const std::string& name, const std::vector<std::st
       nested.push_back(candidate);
   }
   if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
-  return MostSimilarName(name, {known.begin(), known.end()});
+  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
+  return similar.empty() ? OnlyShortened(folded, known) : similar;
 }
 
 std::string SlippedName(std::string_view name, const std::vector<std::string_view>& missing) {

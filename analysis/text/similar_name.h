@@ -30,7 +30,8 @@ class NearNames {
 };
 
 /// The name among `known` that a header was probably meant to be: the same but for width, case, script,
-/// blanks or a unit; or the only one that it shortens or lengthens; or one that differs in few characters.
+/// blanks or a unit; or the only one that it shortens or lengthens; or one that differs in few characters; or
+/// the only one of which it leaves out some characters inside (模板图层 of 模板所在图层).
 /// Empty when there is none.
 std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known);
 

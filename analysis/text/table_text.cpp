@@ -1,6 +1,7 @@
 #include "analysis/text/table_text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "text/gbk.h"
@@ -29,12 +30,11 @@ std::string Quoted(const std::string& cell) {
 TableText::TableText(std::string shownAs, const Table& table) : name_(std::move(shownAs)), table_(table) {
   if (table.ColumnCount() == 0) return;
   std::size_t line = 1;
-  std::size_t reached = 0;
-  for (std::size_t row = 0; row <= table.RowCount(); ++row) {
+  for (std::size_t row = 0; row < table.RowCount(); ++row) {
     const std::size_t begin = OffsetOf(row, 0);
-    line += CountLineEnds(table.Bytes().substr(reached, begin - reached));
-    reached = begin;
-    lines_.push_back(line);
+    const std::size_t lines = CountLineEnds(table.Bytes().substr(begin, OffsetOf(row + 1, 0) - begin));
+    line += lines;
+    if (lines > 1) lineLeaps_.push_back({row + 1, line});
   }
 }
 
@@ -57,9 +57,18 @@ Place TableText::PlaceOf(std::size_t row, std::size_t column) const {
   return PlaceOfByte(OffsetOf(row, column));
 }
 
+std::size_t TableText::LineOf(std::size_t row) const {
+  const auto behind =
+      std::upper_bound(lineLeaps_.begin(), lineLeaps_.end(), row,
+                       [](std::size_t sought, const RowLine& leap) { return sought < leap.row; });
+  if (behind == lineLeaps_.begin()) return row + 1;
+  const RowLine& leap = *std::prev(behind);
+  return leap.line + (row - leap.row);
+}
+
 std::size_t TableText::RowOfByte(std::size_t offset) const {
   std::size_t low = 0;
-  std::size_t high = lines_.size();
+  std::size_t high = table_.RowCount() + 1;
   while (high - low > 1) {
     const std::size_t middle = (low + high) / 2;
     (OffsetOf(middle, 0) <= offset ? low : high) = middle;
@@ -73,7 +82,7 @@ Place TableText::PlaceOfByte(std::size_t offset) const {
   const std::string_view before = table_.Bytes().substr(rowBegin, offset - rowBegin);
   const std::size_t lineEnd = before.rfind('\n');
   const std::string_view inLine = lineEnd == std::string_view::npos ? before : before.substr(lineEnd + 1);
-  return {name_, lines_[row] + CountLineEnds(before), CountGbkCharacters(inLine) + 1};
+  return {name_, LineOf(row) + CountLineEnds(before), CountGbkCharacters(inLine) + 1};
 }
 
 std::string TableText::CellOfByte(std::size_t offset) const {

@@ -39,13 +39,19 @@ class TableText {
   std::string CellOfByte(std::size_t offset) const;
 
  private:
+  struct RowLine {
+    std::size_t row;
+    std::size_t line;  ///< On which the row begins.
+  };
+
   std::size_t OffsetOf(std::size_t row, std::size_t column) const;
+  std::size_t LineOf(std::size_t row) const;
   /// The last row that begins at the byte or before it.
   std::size_t RowOfByte(std::size_t offset) const;
 
   std::string name_;
   const Table& table_;
-  std::vector<std::size_t> lines_;  ///< The line on which each row begins.
+  std::vector<RowLine> lineLeaps_;  ///< The rows behind those that take several lines; few tables have any.
 };
 
 /// A row as spreadsheet programs write it, with CR LF; a cell is put in quotes where it must be.

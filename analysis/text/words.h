@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace plateconfig {
 
@@ -36,5 +37,15 @@ struct Word {
   std::string english;
   std::string chinese;
 };
+
+/// Names or numbers as a sentence lists them: 2, 5, in Chinese 2、5.
+inline Word Enumerated(const std::vector<std::string>& items) {
+  Word list("", "");
+  for (const std::string& item : items) {
+    list.english += (&item == &items.front() ? "" : ", ") + item;
+    list.chinese += (&item == &items.front() ? "" : "、") + item;
+  }
+  return list;
+}
 
 }  // namespace plateconfig

@@ -1,75 +1,95 @@
-"""Records which test suites reach which line, with gcov: a build of its own, one run of each suite."""
+"""Records with gcov, one run for each test suite, which suites reach which line, and in which objects the line is. Of a function in a
+header every object has a copy, of which the linker takes one."""
 
+import hashlib
 import json
-import pathlib
+import os
 import subprocess
 import time
 
-COVERAGE_FLAGS = "-O0 -g0 --coverage"
+from lines import counted_lines, counters
 
 
 def suites_of(program):
     listed = subprocess.run([program, "--gtest_list_tests"], check=True, capture_output=True, text=True).stdout
-    return [line.split("#")[0].strip().rstrip(".") for line in listed.splitlines() if line and not line.startswith(" ")]
+    names = (line.split("#")[0].strip() for line in listed.splitlines() if not line.startswith(" "))
+    return [name.removesuffix(".") for name in names if name.endswith(".")]
 
 
-def counters(build):
-    return [path for folder in ("src", "analysis") for path in (build / folder).rglob("*.gcda")]
+BYTES_BEFORE_COUNTS = 32  # Ends with the largest of all counts, which differs from run to run.
 
 
-def counted_lines(build, root):
-    """{file: {line: how often it ran}} since the counters were removed, for every line that has code."""
-    counted = {}
-    files = [str(path) for path in counters(build)]
-    if not files:
-        return counted
-    output = subprocess.run(["gcov", "--json-format", "--stdout", "--source-prefix", str(root), "--relative-only", *files],
-                            check=True, capture_output=True, text=True, cwd=build).stdout
-    for document in output.splitlines():
-        for file in json.loads(document)["files"]:
-            lines = counted.setdefault(file["file"], {})
-            for line in file["lines"]:
-                number = line["line_number"]
-                lines[number] = lines.get(number, 0) + line["count"]
-    return counted
+def counts_in(path):
+    return path.read_bytes()[BYTES_BEFORE_COUNTS:]
 
 
-def record(program, build, root):
-    """{"seconds": {suite: its run's time}, "suites": {file: {line: [suites]}}}; a line that no suite reaches has none."""
-    seconds, suites = {}, {}
-    for suite in suites_of(program):
-        for path in counters(build):
+class Recorder:
+    def __init__(self, program, build, root):
+        self._program, self._build, self._root = program, build, root
+        self._idle = {}
+
+    def run(self, tests):
+        """The counters that the tests changed: those that differ from what a run without tests leaves."""
+        for path in counters(self._build):
             path.unlink()
-        start = time.monotonic()
-        subprocess.run([program, f"--gtest_filter={suite}.*"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        seconds[suite] = time.monotonic() - start
-        for file, lines in counted_lines(build, root).items():
-            for line, count in lines.items():
-                reaching = suites.setdefault(file, {}).setdefault(str(line), [])
-                if count > 0:
-                    reaching.append(suite)
-    return {"seconds": seconds, "suites": suites}
+        subprocess.run([self._program, f"--gtest_filter={tests}"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                       env=os.environ | {"LOCPATH": str(self._build / "tests" / "locales")})
+        return [path for path in counters(self._build) if self._idle.get(path) != counts_in(path)]
+
+    def record(self):
+        """{"seconds": {suite: its run's time}, "lines": {file: {line: {"suites": […], "objects": […]}}}}"""
+        self._idle = {path: counts_in(path) for path in self.run("-*")}
+        seconds, lines = {}, {}
+        self._note(lines, None, list(self._idle))
+        for suite in suites_of(self._program):
+            start = time.monotonic()
+            changed = self.run(f"{suite}.*")
+            seconds[suite] = round(time.monotonic() - start, 2)
+            self._note(lines, suite, changed)
+        return {"seconds": seconds, "lines": lines}
+
+    def _note(self, lines, suite, files):
+        for made, file, line, count in counted_lines(files, self._build, self._root):
+            known = lines.setdefault(file, {}).setdefault(str(line), {"suites": [], "objects": []})
+            for kind, what in (("suites", suite), ("objects", made)):
+                if count > 0 and suite and what not in known[kind]:
+                    known[kind].append(what)
 
 
 def load_or_record(kept, program, build, root):
+    """What was recorded with this very program, or else a new record."""
+    digest = hashlib.sha256(program.read_bytes()).hexdigest()
     if kept.is_file():
-        return json.loads(kept.read_text(encoding="utf-8"))
+        recorded = json.loads(kept.read_text(encoding="utf-8"))
+        if recorded["program"] == digest:
+            return recorded
     print("Recording which tests reach which line", flush=True)
-    reach = record(program, build, root)
-    kept.write_text(json.dumps(reach), encoding="utf-8")
-    return reach
+    recorded = Recorder(program, build, root).record() | {"program": digest}
+    kept.write_text(json.dumps(recorded), encoding="utf-8")
+    return recorded
 
 
 class Reach:
-    """Which suites reach a line, the fastest first."""
+    """Which suites reach a line, the fastest first, and which objects have it."""
 
     def __init__(self, recorded):
         self._seconds = recorded["seconds"]
-        self._suites = recorded["suites"]
+        self._lines = recorded["lines"]
+
+    def _at(self, mutant):
+        return self._lines.get(mutant.path, {}).get(str(mutant.line))
 
     def has_code_at(self, mutant):
-        return str(mutant.line) in self._suites.get(mutant.path, {})
+        return self._at(mutant) is not None
+
+    def objects_at(self, mutant):
+        return self._at(mutant)["objects"]
 
     def suites_at(self, mutant):
-        found = self._suites.get(mutant.path, {}).get(str(mutant.line), [])
-        return sorted(found, key=lambda suite: self._seconds[suite])
+        return sorted(self._at(mutant)["suites"], key=lambda suite: self._seconds[suite])
+
+    def all_suites(self):
+        return list(self._seconds)
+
+    def seconds_of(self, suites):
+        return sum(self._seconds[suite] for suite in suites)

@@ -1,8 +1,12 @@
-"""Makes the changes one at a time, builds, runs the tests that reach the changed line, and reports who survived."""
+"""Makes the changes one at a time, runs the tests that reach the changed line, and reports who survived. What was found is kept, so
+that a trial that was stopped goes on where it was."""
 
 import argparse
 import collections
 import concurrent.futures
+import hashlib
+import json
+import os
 import pathlib
 import queue
 import random
@@ -10,12 +14,13 @@ import subprocess
 import sys
 
 from mutants import mutants_of
-from reach import COVERAGE_FLAGS, Reach, load_or_record
+from program import TESTS, Commands, Workshop
+from reach import Reach, load_or_record
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutate"
-SECONDS_A_RUN = 120
 DIED, SURVIVED, NO_MUTANT = "died", "survived", "does not compile"
+FIRST_SECONDS = 2  # The fastest suites that take so long together are tried before the others.
 
 
 def arguments():
@@ -24,18 +29,17 @@ def arguments():
     parser.add_argument("--count", type=int, default=1000, help="so many changes, chosen at random (1000)")
     parser.add_argument("--all", action="store_true", help="every change")
     parser.add_argument("--seed", type=int, default=1, help="another choice of changes")
-    parser.add_argument("--jobs", type=int, default=2, help="so many at once, each with a build of its own (2)")
+    parser.add_argument("--jobs", type=int, default=2, help="so many at once (2)")
     return parser.parse_args()
 
 
-def run(command, **more):
-    return subprocess.run([str(part) for part in command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **more)
-
-
-def must(command):
-    result = run(command)
-    if result.returncode != 0:
-        sys.exit(f"{result.stdout}\nscripts/mutate: this failed: {' '.join(map(str, command))}")
+def build(preset):
+    """The build folder in which the test program now stands."""
+    for command in (["cmake", "--preset", preset], ["cmake", "--build", "--preset", preset, "--target", "plateconfig_tests"]):
+        result = subprocess.run(command, cwd=ROOT, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        if result.returncode != 0:
+            sys.exit(f"{result.stdout}\nscripts/mutate: this failed: {' '.join(command)}")
+    return ROOT / "build" / preset
 
 
 def listed_files(*places):
@@ -44,64 +48,70 @@ def listed_files(*places):
     return [name for name in output.splitlines() if (ROOT / name).is_file()]
 
 
-def write_if_changed(path, data):
-    """A file that stays as it is need not be compiled again."""
-    if path.is_file() and path.read_bytes() == data:
-        return False
-    path.parent.mkdir(parents=True, exist_ok=True)
-    path.write_bytes(data)
-    return True
+def digest(files):
+    return hashlib.sha256(b"\0".join((ROOT / file).read_bytes() for file in files)).hexdigest()[:16]
 
 
-class Tree:
-    """A copy of the sources with a build of its own."""
+class Fates:
+    """What became of each change, kept in a file. A change that was noticed stays so while its file does; whether another test
+    notices a survivor is found out again."""
 
-    def __init__(self, name, flags):
-        self.sources = WORK / name / "sources"
-        self.build = WORK / name / "build"
-        self.program = self.build / "tests" / "plateconfig_tests"
-        self.changed = any([write_if_changed(self.sources / file, (ROOT / file).read_bytes()) for file in listed_files()])
-        must(["cmake", "-S", self.sources, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None", f"-DCMAKE_CXX_FLAGS={flags}",
-              "-DPLATECONFIG_WARNINGS_AS_ERRORS=OFF"])
+    def __init__(self, file):
+        self._file = file
+        self._tests = digest(listed_files("tests"))
+        self._sources = {}
+        self._known = {}
+        for line in file.read_text(encoding="utf-8").splitlines() if file.is_file() else ():
+            kept = json.loads(line)
+            self._known[kept["mutant"], kept["source"]] = kept
 
-    def make(self):
-        return run(["cmake", "--build", self.build, "--target", "plateconfig_tests"]).returncode == 0
+    def _source(self, mutant):
+        return self._sources.setdefault(mutant.path, digest([mutant.path]))
 
-    def must_make(self):
-        print(f"Building {self.build.relative_to(ROOT)}", flush=True)
-        must(["cmake", "--build", self.build, "--target", "plateconfig_tests"])
+    def known(self, mutant):
+        kept = self._known.get((str(mutant), self._source(mutant)))
+        return kept["fate"] if kept and (kept["fate"] != SURVIVED or kept["tests"] == self._tests) else None
 
-    def passes(self, suites):
-        """True when the suites' tests pass; the first failure ends the run, and one that does not end has failed."""
-        suite_filter = ":".join(f"{suite}.*" for suite in suites)
-        try:
-            return run([self.program, f"--gtest_filter={suite_filter}", "--gtest_fail_fast", "--gtest_brief=1"],
-                       timeout=SECONDS_A_RUN).returncode == 0
-        except (subprocess.TimeoutExpired, UnicodeDecodeError):
-            return False
+    def keep(self, mutant, fate):
+        kept = {"mutant": str(mutant), "source": self._source(mutant), "tests": self._tests, "fate": fate}
+        with self._file.open("a", encoding="utf-8") as file:
+            print(json.dumps(kept, ensure_ascii=False), file=file)
 
-    def fate_of(self, mutant, suites):
+
+class Trial:
+    def __init__(self, reach, commands, build, jobs):
+        self._reach = reach
+        self._workshops = queue.SimpleQueue()
+        for number in range(jobs):
+            self._workshops.put(Workshop(WORK / f"workshop-{number}", ROOT, build, commands))
+
+    def must_pass_unchanged(self):
+        """Where a test fails anyway, every change would seem to be noticed."""
+        workshop = self._workshops.get()
+        workshop.take_unchanged()
+        if not self._passes(workshop, self._reach.all_suites()):
+            sys.exit("scripts/mutate: the tests fail without a change")
+        self._workshops.put(workshop)
+
+    def fate_of(self, mutant):
+        suites = self._reach.suites_at(mutant)
         if not suites:
             return SURVIVED
-        path = self.sources / mutant.path
-        text = path.read_text(encoding="utf-8")
-        path.write_text(mutant.applied_to(text), encoding="utf-8")
+        workshop = self._workshops.get()
         try:
-            if not self.make():
+            text = (ROOT / mutant.path).read_text(encoding="utf-8")
+            if not workshop.make(mutant.path, mutant.applied_to(text), self._reach.objects_at(mutant)):
                 return NO_MUTANT
-            return SURVIVED if self.passes(suites) else DIED
+            return SURVIVED if all(self._passes(workshop, some) for some in self._in_two(suites)) else DIED
         finally:
-            path.write_text(text, encoding="utf-8")
+            self._workshops.put(workshop)
 
+    def _in_two(self, suites):
+        first = [suite for at, suite in enumerate(suites) if self._reach.seconds_of(suites[:at + 1]) <= FIRST_SECONDS]
+        return [some for some in (first, suites[len(first):]) if some]
 
-def tests_as_they_reach():
-    tree = Tree("reach", COVERAGE_FLAGS)
-    kept = WORK / "reach.json"
-    if tree.changed:
-        kept.unlink(missing_ok=True)
-    if not kept.is_file():
-        tree.must_make()
-    return Reach(load_or_record(kept, tree.program, tree.build, tree.sources))
+    def _passes(self, workshop, suites):
+        return workshop.passes(suites, 10 + 2 * self._reach.seconds_of(suites))
 
 
 def chosen(options, reach):
@@ -112,26 +122,21 @@ def chosen(options, reach):
     return found
 
 
-def fates(mutants, wanted, jobs, reach):
+def tried(mutants, wanted, jobs, trial, kept):
     """(mutant, fate) until `wanted` changes compiled."""
-    trees = queue.SimpleQueue()
-    for number in range(jobs):
-        tree = Tree(f"worker-{number}", "-O0 -g0")
-        tree.must_make()
-        trees.put(tree)
 
     def judge(mutant):
-        tree = trees.get()
-        try:
-            return mutant, tree.fate_of(mutant, reach.suites_at(mutant))
-        finally:
-            trees.put(tree)
+        fate = kept.known(mutant)
+        if fate is None:
+            fate = trial.fate_of(mutant)
+            kept.keep(mutant, fate)
+        return mutant, fate
 
     made = 0
     remaining = iter(mutants)
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         while made < wanted:
-            batch = [mutant for mutant, _ in zip(remaining, range(min(wanted - made, 4 * jobs)))]
+            batch = [mutant for mutant, _ in zip(remaining, range(min(wanted - made, 8 * jobs)))]
             if not batch:
                 return
             for mutant, fate in pool.map(judge, batch):
@@ -139,25 +144,33 @@ def fates(mutants, wanted, jobs, reach):
                 yield mutant, fate
 
 
+def summary(count):
+    total = count[DIED] + count[SURVIVED]
+    share = 100.0 * count[DIED] / total if total else 0.0
+    return f"{count[DIED]} of {total} changes were noticed ({share:.1f} %), {count[SURVIVED]} were not"
+
+
 def main():
     options = arguments()
+    os.nice(19)
     WORK.mkdir(parents=True, exist_ok=True)
-    reach = tests_as_they_reach()
+    plain, counting = build("debug"), build("coverage")
+    reach = Reach(load_or_record(WORK / "reach.json", counting / TESTS, counting, ROOT))
     mutants = chosen(options, reach)
     if not mutants:
         sys.exit("scripts/mutate: there is nothing to change in " + " ".join(options.places))
+    trial = Trial(reach, Commands(plain), plain, options.jobs)
+    trial.must_pass_unchanged()
     count = collections.Counter()
-    survivors = WORK / "survivors.txt"
-    with survivors.open("w", encoding="utf-8") as report:
-        for mutant, fate in fates(mutants, len(mutants) if options.all else options.count, options.jobs, reach):
+    with (WORK / "survivors.txt").open("w", encoding="utf-8") as report:
+        wanted = len(mutants) if options.all else options.count
+        for mutant, fate in tried(mutants, wanted, options.jobs, trial, Fates(WORK / "fates.jsonl")):
             count[fate] += 1
             if fate == SURVIVED:
                 print(f"survived: {mutant}", flush=True)
                 print(mutant, file=report, flush=True)
-    total = count[DIED] + count[SURVIVED]
-    share = 100.0 * count[DIED] / total if total else 0.0
     print(f"{count[NO_MUTANT]} changes did not compile")
-    print(f"{count[DIED]} of {total} changes were noticed ({share:.1f} %), {count[SURVIVED]} were not")
+    print(summary(count))
 
 
 if __name__ == "__main__":

@@ -19,8 +19,9 @@ struct SignedText {
 };
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\n\v\f\r");
-  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+  const auto isBlank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+  return text.substr(
+      static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isBlank) - text.begin()));
 }
 
 SignedText TakeSign(std::string_view text) {

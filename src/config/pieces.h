@@ -5,6 +5,7 @@
 //
 //   ForEachPiece("36_186", "_", [&](std::string_view piece) { colors.push_back(ParseInt(piece)); });
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -27,6 +28,18 @@ void ForEachPiece(std::string_view text, std::string_view separator, Take take) 
     begin = at += separator.size();
   }
   take(text.substr(begin));
+}
+
+/// Puts the first pieces of `text` into `pieces`; how many there are in the text.
+template <std::size_t most>
+std::size_t TakePieces(std::string_view text, std::string_view separator,
+                       std::array<std::string_view, most>& pieces) {
+  std::size_t count = 0;
+  ForEachPiece(text, separator, [&](std::string_view piece) {
+    if (count < most) pieces[count] = piece;
+    ++count;
+  });
+  return count;
 }
 
 }  // namespace plateconfig

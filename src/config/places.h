@@ -45,7 +45,6 @@ class Places {
     *Room(1) = static_cast<std::uint32_t>(place);
     Keep(1);
   }
-  void RemoveLast() { --size_; }
 
  private:
   void Grow(std::size_t capacity) {

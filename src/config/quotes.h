@@ -3,7 +3,6 @@
 // at the same byte for all.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -34,14 +33,11 @@ inline std::size_t EndOfQuotes(std::string_view bytes, std::size_t begin) {
 inline std::string Unquoted(std::string_view raw) {
   const std::size_t closing = FindClosingQuote(raw, 1);
   if (closing == std::string_view::npos) return std::string(raw);
-  std::string text;
-  text.reserve(raw.size());
-  for (std::string_view inside = raw.substr(1, closing - 1); !inside.empty();) {
-    // Up to the first quote of a pair, and behind the pair again.
-    const std::size_t piece = std::min(inside.find(kQuote), inside.size() - 1) + 1;
-    text.append(inside.substr(0, piece));
-    inside.remove_prefix(std::min(inside.size(), piece + (inside[piece - 1] == kQuote ? 1 : 0)));
-  }
+  std::string text(closing - 1, '\0');
+  char* end = text.data();
+  for (std::size_t at = 1; at < closing; at += raw[at] == kQuote ? 2u : 1u)
+    *end++ = raw[at];  // Of a pair one.
+  text.resize(static_cast<std::size_t>(end - text.data()));
   text.append(raw.substr(closing + 1));
   return text;
 }

@@ -55,3 +55,7 @@ ReadConfigFile plateconfig::ReaderOf(std::shared_ptr<const Table> table) {
   reader.table_ = std::move(table);
   return reader;
 }
+
+const Table& plateconfig::TableOf(const ReadConfigFile& reader) {
+  return *reader.table_;
+}

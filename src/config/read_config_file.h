@@ -19,6 +19,8 @@ class Table;
 
 /// A reader of a table that is in memory already, for those who look at a table and load from it too.
 ReadConfigFile ReaderOf(std::shared_ptr<const Table> table);
+/// The table of a reader, for as long as the reader is neither opened again nor gone.
+const Table& TableOf(const ReadConfigFile& reader);
 }  // namespace plateconfig
 
 /// A configuration table, whole in memory once opened and independent of the file from then on. Nothing
@@ -58,6 +60,7 @@ class PLATECONFIG_API ReadConfigFile {
 
  private:
   friend ReadConfigFile plateconfig::ReaderOf(std::shared_ptr<const plateconfig::Table> table);
+  friend const plateconfig::Table& plateconfig::TableOf(const ReadConfigFile& reader);
 
   std::shared_ptr<const plateconfig::Table> table_;
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 #include <limits>
 #include <new>
 #include <utility>
@@ -38,19 +37,16 @@ std::size_t EndOfQuotesFrom(std::size_t begin, std::string_view bytes, std::size
   return EndOfQuotes(bytes, begin);
 }
 
-/// Spreads names over the slots. Names are short, and the standard's hash of them is a call into its library.
-std::size_t HashOf(std::string_view name) {
-  constexpr std::uint64_t kFactor = 0x9E37'79B9'7F4A'7C15;
-  std::uint64_t hash = name.size();
-  while (!name.empty()) {
-    std::uint64_t piece = 0;
-    const std::size_t length = std::min(name.size(), sizeof piece);
-    std::memcpy(&piece, name.data(), length);
-    hash = (hash ^ piece) * kFactor;
-    hash ^= hash >> 32;
-    name.remove_prefix(length);
+/// The bytes up to the end of the last line that is not blank, without its line feed. No quotes are open
+/// where nothing but line ends follows: those that are never closed open nothing.
+std::string_view WithoutBlankLinesAtTheEnd(std::string_view bytes) {
+  while (bytes.ends_with('\n')) {
+    bytes.remove_suffix(1);
+    const std::string_view line = bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 2));
+    if (line == "\r" || line == "\n\r") bytes.remove_suffix(1);
+    if (!bytes.empty() && !bytes.ends_with('\n')) break;
   }
-  return static_cast<std::size_t>(hash);
+  return bytes;
 }
 
 /// Notes where the cells and lines of a file begin. A class of its own for the compiler's sake: it puts all
@@ -150,46 +146,20 @@ std::optional<Table> Table::Read(const std::string& path) {
 
 Table::Table(FileBytes bytes) : bytes_(std::move(bytes)) {
   FindCells();
-  DropBlankLinesAtTheEnd();
-  HashColumnNames();
+  columnNames_ = CellIndex(ColumnCount(), HeaderCells());
 }
 
 void Table::FindCells() {
   constexpr std::size_t kUsualBytesOfACell = 8;
-  cellBegins_ = Places(kBlock + Bytes().size() / kUsualBytesOfACell);
+  const std::string_view bytes = WithoutBlankLinesAtTheEnd(Bytes());
+  if (bytes.empty()) return;
+  cellBegins_ = Places(kBlock + bytes.size() / kUsualBytesOfACell);
   rowBegins_ = Places(kBlock);
-  CellFinder(Bytes(), cellBegins_, rowBegins_).FindAll();
-}
-
-void Table::DropBlankLinesAtTheEnd() {
-  while (LineCount() > 0 && CellCount(LineCount() - 1) == 1 && RawCell(LineCount() - 1, 0).empty()) {
-    rowBegins_.RemoveLast();
-  }
-}
-
-void Table::HashColumnNames() {
-  if (ColumnCount() == 0) return;
-  // At least half of the slots stay empty, so that a search soon meets an empty one.
-  columnSlots_.assign(std::bit_ceil(2 * ColumnCount()), kNoColumn);
-  for (std::size_t column = 0; column < ColumnCount(); ++column) {
-    const std::string_view raw = RawCell(0, column);
-    const std::size_t at = raw.starts_with(kQuote) ? SlotOfColumn(Unquoted(raw)) : SlotOfColumn(raw);
-    if (columnSlots_[at] == kNoColumn) columnSlots_[at] = static_cast<std::uint32_t>(column);
-  }
-}
-
-std::size_t Table::SlotOfColumn(std::string_view name) const {
-  const std::size_t mask = columnSlots_.size() - 1;
-  std::size_t slot = HashOf(name) & mask;
-  while (columnSlots_[slot] != kNoColumn && !CellEquals(0, columnSlots_[slot], name))
-    slot = (slot + 1) & mask;
-  return slot;
+  CellFinder(bytes, cellBegins_, rowBegins_).FindAll();
 }
 
 std::optional<std::size_t> Table::FindColumn(std::string_view name) const {
-  if (columnSlots_.empty()) return std::nullopt;
-  const std::uint32_t column = columnSlots_[SlotOfColumn(name)];
-  return column == kNoColumn ? std::nullopt : std::optional<std::size_t>(column);
+  return columnNames_.Find(name, HeaderCells());
 }
 
 std::string_view Table::RawCell(std::size_t row, std::size_t column) const {
@@ -205,7 +175,8 @@ std::string_view Table::RawCell(std::size_t row, std::size_t column) const {
 
 std::string Table::Cell(std::size_t row, std::size_t column) const {
   const std::string_view raw = RawCell(row, column);
-  return raw.starts_with(kQuote) ? Unquoted(raw) : std::string(raw);
+  const std::optional<std::string_view> text = TextInPlace(raw);
+  return text ? std::string(*text) : Unquoted(raw);
 }
 
 std::vector<std::string> Table::Column(std::size_t column) const {
@@ -223,16 +194,20 @@ std::vector<std::string> Table::Column(std::size_t column) const {
 }
 
 std::size_t Table::FindInColumn(std::size_t column, std::string_view text) const {
-  for (std::size_t row = 1; row < LineCount(); ++row) {
+  const auto cells = [&](std::size_t at) { return RawCell(at + 1, column); };
+  const auto makeIndex = [&] { return CellIndex(RowCount(), cells); };
+  if (const CellIndex* const index = searchedColumns_.IndexOf(column, makeIndex)) {
+    const std::optional<std::size_t> at = index->Find(text, cells);
+    return at ? *at + 1 : 0;
+  }
+  for (std::size_t row = 1; row <= RowCount(); ++row) {
     if (CellEquals(row, column, text)) return row;
   }
   return 0;
 }
 
 bool Table::CellEquals(std::size_t row, std::size_t column, std::string_view text) const {
-  const std::string_view raw = RawCell(row, column);
-  if (raw.size() < text.size()) return false;  // Quotes only ever make a cell longer.
-  return raw.starts_with(kQuote) ? Unquoted(raw) == text : raw == text;
+  return RawCellEquals(RawCell(row, column), text);
 }
 
 }  // namespace plateconfig

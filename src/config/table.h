@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "config/cell_index.h"
 #include "config/places.h"
 #include "platform/file.h"
 
@@ -49,7 +50,8 @@ class Table {
   /// The texts of a column's cells, one per data row.
   std::vector<std::string> Column(std::size_t column) const;
 
-  /// The first data row, counted from 1, whose cell equals `text`; 0 when there is none.
+  /// The first data row, counted from 1, whose cell equals `text`; 0 when there is none. From
+  /// the second search of a column on, hardly more than the right cell is looked at.
   std::size_t FindInColumn(std::size_t column, std::string_view text) const;
 
   /// True when `Cell(row, column)` equals `text`; copies nothing unless the cell is quoted.
@@ -68,12 +70,9 @@ class Table {
  private:
   std::size_t LineCount() const { return rowBegins_.Size() == 0 ? 0 : rowBegins_.Size() - 1; }
   void FindCells();
-  void DropBlankLinesAtTheEnd();
-  void HashColumnNames();
-  /// The slot that holds the first column of this name, or the empty one where it belongs.
-  std::size_t SlotOfColumn(std::string_view name) const;
-
-  static constexpr std::uint32_t kNoColumn = 0xFFFF'FFFF;
+  auto HeaderCells() const {
+    return [this](std::size_t column) { return RawCell(0, column); };
+  }
 
   FileBytes bytes_;
   // Where each cell begins, and one entry behind the last cell: a cell ends before the separator in front of
@@ -81,9 +80,8 @@ class Table {
   Places cellBegins_;
   // The first cell of each line, and one entry behind the last line.
   Places rowBegins_;
-  // Open addressing over the header cells themselves, of each name the first: a map would copy every name. A
-  // power of two long, or empty without columns.
-  std::vector<std::uint32_t> columnSlots_;
+  CellIndex columnNames_;
+  mutable SearchedColumns searchedColumns_;
 };
 
 }  // namespace plateconfig

@@ -41,9 +41,9 @@ bool ReadFlag(FlagLetters letters, std::string_view cell) {
     case FlagLetters::kNoIfUpperN:
       return cell != "N";
     case FlagLetters::kNoIfN:
-      return cell != "N" && cell != "n";
+      break;
   }
-  return false;
+  return cell != "N" && cell != "n";
 }
 
 std::string FlagText(bool value) {
@@ -59,12 +59,12 @@ CellForm FormOf(FlagLetters letters) {
     case FlagLetters::kNoIfUpperN:
       return CellForm::kFlagNoIfUpperN;
     case FlagLetters::kNoIfN:
-      return CellForm::kFlagNoIfN;
+      break;
   }
-  return {};
+  return CellForm::kFlagNoIfN;
 }
 
-void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken) {
+void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
   for (const std::string& cell : cells) {
     const int number = ParseInt(cell);
     if (IsTaken(taken, cell, number)) list.push_back(number);
@@ -78,9 +78,9 @@ CellForm FormOf(TakenCells taken) {
     case TakenCells::kLayerNumbers:
       return CellForm::kLayerNumbers;
     case TakenCells::kFilled:
-      return CellForm::kIntegers;
+      break;
   }
-  return {};
+  return CellForm::kIntegers;
 }
 
 Cells IntCells(std::span<const int> numbers) {
@@ -103,12 +103,7 @@ std::string JoinInts(const std::vector<int>& numbers) {
 
 std::optional<std::pair<double, double>> SplitRange(std::string_view cell) {
   std::array<std::string_view, 2> bounds;
-  std::size_t count = 0;
-  ForEachPiece(cell, kJoint, [&](std::string_view piece) {
-    if (count < bounds.size()) bounds[count] = piece;
-    ++count;
-  });
-  if (count != bounds.size()) return std::nullopt;
+  if (TakePieces(cell, kJoint, bounds) != bounds.size()) return std::nullopt;
   return std::pair(ParseDouble(bounds[0]), ParseDouble(bounds[1]));
 }
 

@@ -16,6 +16,9 @@ namespace plateconfig {
 /// Cells of one column, top to bottom (GBK).
 using Cells = std::vector<std::string>;
 
+/// The same, of which only a look is wanted: a column, or one cell of a row.
+using CellsView = std::span<const std::string>;
+
 /// What the value of a cell is, for whoever hands it on.
 enum class CellType { kNumber, kInteger, kFlag, kText };
 
@@ -42,7 +45,7 @@ bool ReadFlag(FlagLetters letters, std::string_view cell);
 std::string FlagText(bool value);
 CellForm FormOf(FlagLetters letters);
 
-void AppendTaken(std::vector<int>& list, const Cells& cells, TakenCells taken);
+void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken);
 CellForm FormOf(TakenCells taken);
 Cells IntCells(std::span<const int> numbers);
 

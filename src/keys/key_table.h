@@ -18,6 +18,7 @@
 #include <concepts>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -26,6 +27,7 @@
 #include <vector>
 
 #include "config/read_config_file.h"
+#include "config/table.h"
 #include "keys/kinds.h"
 #include "text/gbk.h"
 
@@ -108,7 +110,7 @@ consteval bool ColumnsAreUnique(const Keys&... keys) {
 }
 
 template <typename AnyKey, typename Record>
-void ReadKey(const AnyKey& key, const Cells& cells, Record& record) {
+void ReadKey(const AnyKey& key, CellsView cells, Record& record) {
   std::visit([&](const auto& kind) { kind.Read(record, cells); }, key.kind);
 }
 
@@ -120,12 +122,14 @@ Cells PrintKey(const AnyKey& key, const Record& record) {
 /// Reads every key from an open table.
 class Loader {
  public:
-  explicit Loader(const ReadConfigFile& table) : table_(table) {}
+  explicit Loader(const ReadConfigFile& reader) : table_(TableOf(reader)) {}
 
   /// Settings of one record, each the first cell of its column or its whole column.
   template <const auto& kKeys, typename Record>
   void Walk(Record& record) const {
-    for (const auto& key : kReadingKeys<kKeys>) ReadKey(key, ColumnOf(key), record);
+    for (const auto& key : kReadingKeys<kKeys>)
+      std::visit([&](const auto& kind) { ReadColumn(kind, table_.FindColumn(key.column), record); },
+                 key.kind);
   }
 
   /// A list of records, one per row that counts; appended to what the list holds. A cell that is missing is
@@ -133,60 +137,65 @@ class Loader {
   template <const auto& kKeys, typename Record>
   void WalkRows(std::vector<Record>& list) const {
     constexpr const auto& keys = kReadingKeys<kKeys>;
-    std::vector<Cells> columns;
-    columns.reserve(std::size(keys));
-    for (const auto& key : keys) columns.push_back(ColumnOf(key));
-    std::size_t rows = 0;
-    for (const Cells& column : columns) rows = std::max(rows, column.size());
-    for (std::size_t row = 0; row < rows; ++row) {
-      if (RowCounts(keys, columns, row)) list.push_back(ReadRow<Record>(keys, columns, row));
+    std::array<Position, std::size(keys)> columns;
+    for (std::size_t i = 0; i < std::size(keys); ++i) columns[i] = table_.FindColumn(keys[i].column);
+    const std::size_t rows = RowsOf(keys, columns);
+    for (std::size_t row = 1; row <= rows; ++row) {
+      if (auto record = ReadRow<Record>(keys, columns, row)) list.push_back(std::move(*record));
     }
   }
 
  private:
-  template <typename AnyKey>
-  Cells ColumnOf(const AnyKey& key) const {
-    Cells cells = table_.GetColumnValue(std::string(key.column));
-    if (key.rowRule == RowRule::kBounds) {
-      while (!cells.empty() && cells.back().empty()) cells.pop_back();
-    }
-    return cells;
+  using Position = std::optional<std::size_t>;
+
+  template <typename AnyKind, typename Record>
+  void ReadColumn(const AnyKind& kind, Position column, Record& record) const {
+    if (!column || table_.RowCount() == 0) return kind.Read(record, {});
+    if constexpr (AnyKind::kIsList) return kind.Read(record, table_.Column(*column));
+    const std::string first = table_.Cell(1, *column);
+    kind.Read(record, {&first, 1});
   }
 
-  template <typename Record, typename Keys>
-  static Record ReadRow(const Keys& keys, const std::vector<Cells>& columns, std::size_t row) {
-    Record record{};
-    if constexpr (KnowsItsLine<Record>)
-      record.lineNumber = static_cast<int>(row) + 2;  // The header is line 1.
-    Cells cell(1);
+  /// How many rows the columns have; none when all are absent.
+  template <typename Keys, typename Columns>
+  std::size_t RowsOf(const Keys& keys, const Columns& columns) const {
+    if (std::none_of(columns.begin(), columns.end(), [](Position column) { return column.has_value(); }))
+      return 0;
+    std::size_t rows = table_.RowCount();
     for (std::size_t i = 0; i < std::size(keys); ++i) {
-      cell.front() = CellAt(columns[i], row);
-      ReadKey(keys[i], cell, record);
+      if (keys[i].rowRule == RowRule::kBounds) rows = std::min(rows, LastFilledRow(columns[i]));
+    }
+    return rows;
+  }
+
+  std::size_t LastFilledRow(Position column) const {
+    if (!column) return 0;
+    std::size_t row = table_.RowCount();
+    while (row > 0 && table_.CellEquals(row, *column, "")) --row;
+    return row;
+  }
+
+  /// The record of a row; nothing when one of its cells lets the row not count.
+  template <typename Record, typename Keys, typename Columns>
+  std::optional<Record> ReadRow(const Keys& keys, const Columns& columns, std::size_t row) const {
+    std::optional<Record> record(std::in_place);
+    if constexpr (KnowsItsLine<Record>)
+      record->lineNumber = static_cast<int>(row) + 1;  // The header is line 1.
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+      const std::string cell = columns[i] ? table_.Cell(row, *columns[i]) : std::string();
+      if (!Allows(keys[i], cell)) return std::nullopt;
+      ReadKey(keys[i], {&cell, 1}, *record);
     }
     return record;
   }
 
-  template <typename Keys>
-  static bool RowCounts(const Keys& keys, const std::vector<Cells>& columns, std::size_t row) {
-    for (std::size_t i = 0; i < std::size(keys); ++i) {
-      if (!ColumnAllows(keys[i], columns[i], row)) return false;
-    }
-    return true;
-  }
-
   template <typename AnyKey>
-  static bool ColumnAllows(const AnyKey& key, const Cells& column, std::size_t row) {
-    if (key.rowRule == RowRule::kNone) return true;
-    if (key.rowRule == RowRule::kBounds) return row < column.size();
-    return std::visit([&](const auto& kind) { return kind.Accepts(CellAt(column, row)); }, key.kind);
+  static bool Allows(const AnyKey& key, const std::string& cell) {
+    if (key.rowRule == RowRule::kNone || key.rowRule == RowRule::kBounds) return true;
+    return std::visit([&](const auto& kind) { return kind.Accepts(cell); }, key.kind);
   }
 
-  static const std::string& CellAt(const Cells& column, std::size_t row) {
-    static const std::string missing;
-    return row < column.size() ? column[row] : missing;
-  }
-
-  const ReadConfigFile& table_;
+  const Table& table_;
 };
 
 }  // namespace plateconfig

@@ -5,8 +5,9 @@
 //
 //   Number{&LabelSettings::textHeight, 3.5}
 //
-// Every kind has these members; `cells` are the column's, top to bottom, and empty when the column is absent
-// or has no rows. What `Print` and `WhenAbsent` give are cells again: reading them back gives the same value.
+// Every kind has these members; `cells` are a list's whole column, top to bottom, and of any other kind one
+// cell. There is none when the column is absent or has no rows. What `Print` and `WhenAbsent` give are cells
+// again: reading them back gives the same value.
 //
 // - `Form()`: what its cells look like.
 // - `kType`, `kIsList`: what a value is, and whether the column is a list.
@@ -57,7 +58,7 @@ enum class EmptyCell {
 };
 
 /// True when the cells say no more than an absent column.
-inline bool IsAbsent(const Cells& cells, EmptyCell emptyCell) {
+inline bool IsAbsent(CellsView cells, EmptyCell emptyCell) {
   return cells.empty() || (emptyCell == EmptyCell::kIsAbsent && cells.front().empty());
 }
 
@@ -70,7 +71,7 @@ struct Number : KindOf<CellType::kNumber> {
   double whenAbsent;
 
   static CellForm Form() { return CellForm::kNumber; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     // Kept: an empty first cell is a cell, and reads as 0.
     record.*field = cells.empty() ? whenAbsent : ParseDouble(cells.front());
   }
@@ -92,7 +93,7 @@ struct Integer : KindOf<CellType::kInteger> {
     return emptyCell == EmptyCell::kCounts ? CellForm::kInteger : CellForm::kIntegerOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = IsAbsent(cells, emptyCell) ? whenAbsent : ParseInt(cells.front());
   }
   Cells Print(const Record& record) const { return {std::to_string(record.*field)}; }
@@ -114,7 +115,7 @@ struct Text : KindOf<CellType::kText> {
     return emptyCell == EmptyCell::kCounts ? CellForm::kText : CellForm::kTextOrAbsent;
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = IsAbsent(cells, emptyCell) ? std::string(whenAbsent) : cells.front();
   }
   Cells Print(const Record& record) const { return {record.*field}; }
@@ -132,7 +133,7 @@ struct Flag : KindOf<CellType::kFlag> {
   FlagLetters letters;
 
   CellForm Form() const { return FormOf(letters); }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = cells.empty() ? whenAbsent : ReadFlag(letters, cells.front());
   }
   Cells Print(const Record& record) const { return {FlagText(record.*field)}; }
@@ -150,7 +151,7 @@ struct IntList : KindOf<CellType::kInteger, true> {
   std::span<const int> whenNone;  ///< Appended to a list that is still empty.
 
   CellForm Form() const { return FormOf(taken); }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     std::vector<int>& list = record.*field;
     // Kept: what is there stays, so that a list grows each time that its table is read.
     AppendTaken(list, cells, taken);
@@ -168,7 +169,7 @@ struct TextList : KindOf<CellType::kText, true> {
   std::vector<std::string> Record::*field;
 
   static CellForm Form() { return CellForm::kTexts; }
-  void Read(Record& record, const Cells& cells) const { record.*field = cells; }
+  void Read(Record& record, CellsView cells) const { (record.*field).assign(cells.begin(), cells.end()); }
   Cells Print(const Record& record) const { return record.*field; }
 };
 
@@ -180,7 +181,7 @@ struct JoinedInts : KindOf<CellType::kText> {
   std::vector<int> Record::*field;
 
   static CellForm Form() { return CellForm::kJoinedIntegers; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
   }
   Cells Print(const Record& record) const { return {JoinInts(record.*field)}; }
@@ -197,7 +198,7 @@ struct Range : KindOf<CellType::kText> {
   static CellForm Form() { return CellForm::kRange; }
   static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
   static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());
     if (!bounds) return;
     record.*minimum = bounds->first;
@@ -208,7 +209,7 @@ struct Range : KindOf<CellType::kText> {
 
 /// What the walkers ask of every kind.
 template <typename Any, typename Record>
-concept KindOfCell = requires(const Any& kind, Record& record, const Cells& cells, const std::string& cell) {
+concept KindOfCell = requires(const Any& kind, Record& record, CellsView cells, const std::string& cell) {
   { kind.Form() } -> std::same_as<CellForm>;
   { Any::kType } -> std::convertible_to<CellType>;
   { Any::kIsList } -> std::convertible_to<bool>;

@@ -16,6 +16,7 @@ HANDLE HandleOf(SystemFile file) {
 /// pieces.
 class LinePieces {
  public:
+  // cppcheck-suppress uninitMemberVar  ; of the bytes only those that were put are written
   explicit LinePieces(HANDLE file) : file_(file) {}
 
   void Add(std::string_view line) {

@@ -1,6 +1,5 @@
 #include "platform/file.h"
 
-#include <algorithm>
 #include <atomic>
 #include <cstring>
 
@@ -31,7 +30,7 @@ class OpenedFile {
 
 std::atomic<std::size_t> failedReads = 0;
 
-constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
+constexpr std::size_t kUnknownCapacity = std::size_t{64} << 10;
 
 std::unique_ptr<char[]> MemoryFor(std::size_t capacity) {
   auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
@@ -52,7 +51,7 @@ std::optional<FileBytes> ReadOpened(const OpenedFile& file) {
   const std::size_t guess = file.Size();
   if (guess > kMostFileBytes) return std::nullopt;
   // One byte more than the size, so that the read which meets the end needs no larger buffer.
-  std::size_t capacity = std::max(guess + 1, kFirstCapacity);
+  std::size_t capacity = guess == 0 ? kUnknownCapacity : guess + 1;
   FileBytes bytes{MemoryFor(capacity), 0};
   while (true) {
     const long long count = file.Read(bytes.data.get() + bytes.size, capacity - bytes.size);

@@ -20,7 +20,7 @@ struct Sizes : KindOf<CellType::kText> {
 
   static CellForm Form() { return CellForm::kRange; }
   static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     if (const auto bounds = SplitRange(cells.front())) record.*field = {bounds->first, bounds->second};
   }
   Cells Print(const Record& record) const {
@@ -37,7 +37,7 @@ struct Exactly : KindOf<CellType::kText> {
     Value value;
   };
 
-  constexpr Exactly(Value Record::*of, CellForm is, Choice exact, Choice opposite)
+  constexpr Exactly(Value Record::*of, CellForm is, const Choice& exact, const Choice& opposite)
       : field(of), form(is), wanted(exact), otherwise(opposite) {}
 
   Value Record::*field;
@@ -48,7 +48,7 @@ struct Exactly : KindOf<CellType::kText> {
   CellForm Form() const { return form; }
   ExactTexts Exact() const { return {wanted.cell, otherwise.cell}; }
   static bool Says(const std::string& cell) { return !cell.empty(); }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = cells.front() == wanted.cell ? wanted.value : otherwise.value;
   }
   Cells Print(const Record& record) const {
@@ -64,7 +64,7 @@ struct Selected : KindOf<CellType::kText> {
   const ConditionText* Record::*field;
 
   static CellForm Form() { return CellForm::kConditionText; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     const ConditionText* const found = FindConditionText(cells.front());
     record.*field = found == nullptr ? &kConditionTexts.front() : found;
   }
@@ -80,7 +80,7 @@ struct Parameter : KindOf<CellType::kText> {
   std::string Record::*field;
 
   static CellForm Form() { return CellForm::kJoinedNumbers; }
-  void Read(Record& record, const Cells& cells) const { record.*field = cells.front(); }
+  void Read(Record& record, CellsView cells) const { record.*field = cells.front(); }
   Cells Print(const Record& record) const { return {record.*field}; }
 };
 

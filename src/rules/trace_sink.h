@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "config/text_buffer.h"
+#include "text/text_buffer.h"
 #include "platform/diagnostic_file.h"
 #include "rules/evaluation.h"
 

@@ -1,8 +1,10 @@
 #include "settings/note_style.h"
 
-#include <vector>
+#include <array>
+#include <string_view>
 
 #include "config/numbers.h"
+#include "config/pieces.h"
 #include "config/text_helpers.h"
 #include "keys/cell_text.h"
 
@@ -25,15 +27,11 @@ std::string Join(const NoteStyleFields& style, ToText toText) {
 }  // namespace
 
 NoteStyleFields ParseNoteStyle(const std::string& cell) {
-  const std::vector<std::string> fields = SplitString(cell, "|");
+  std::array<std::string_view, kFieldCount> fields;
   // Kept: all or nothing. Five good fields give the default font too.
-  if (fields.size() < kFieldCount) return {};
-  return {fields[0],
-          ParseDouble(fields[1]),
-          ParseDouble(fields[2]),
-          ParseDouble(fields[3]),
-          ParseDouble(fields[4]),
-          ParseInt(fields[5])};
+  if (TakePieces(cell, "|", fields) < kFieldCount) return {};
+  return {std::string(fields[0]), ParseDouble(fields[1]), ParseDouble(fields[2]),
+          ParseDouble(fields[3]), ParseDouble(fields[4]), ParseInt(fields[5])};
 }
 
 std::string WriteNoteStyle(const NoteStyleFields& style) {

@@ -17,7 +17,7 @@ struct Style : KindOf<CellType::kText> {
   NoteStyle Record::*field;
 
   static CellForm Form() { return CellForm::kStyle; }
-  void Read(Record& record, const Cells& cells) const {
+  void Read(Record& record, CellsView cells) const {
     record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
   }
   Cells Print(const Record& record) const {

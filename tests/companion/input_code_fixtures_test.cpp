@@ -317,6 +317,23 @@ TEST(InputCodeFixtures, EachCodeIsRaisedByItsBadInputAndNotByItsGoodOne) {
   }
 }
 
+TEST(HoleTypes, OneWithoutDiametersIsToldWhereThreeOthersHaveThemAndNoOtherLacksThem) {
+  const std::string code = "hole-type-no-diameters";
+  const auto codes = [&](const std::string& types) {
+    return CodesIn({code, Input::kHoleTypes, "t.csv", types, types}, types);
+  };
+  const std::string open = "M12,1_1_0,36,36,,14,,\n";
+  const std::string another = "M13,1_1_0,36,36,,14,,\n";
+  const std::string withoutTheGroup = "M14,1_0_0,36,,,14,,\n";
+  const std::string two = kTypes + "M9,1_1_0,36,36,,14,9,\n";
+  const std::string three = two + "M10,1_1_0,36,36,,14,9,\n";
+  EXPECT_THAT(codes(three + open), Contains(code));
+  EXPECT_THAT(codes(With(three, "M8,", open + "M8,")), Contains(code));
+  EXPECT_THAT(codes(two + open), Not(Contains(code)));
+  EXPECT_THAT(codes(two + withoutTheGroup + open), Not(Contains(code)));
+  EXPECT_THAT(codes(three + open + another), Not(Contains(code)));
+}
+
 TEST(InputCodeFixtures, AnIndexThatIsNotThereOrNoFile) {
   EXPECT_THAT(CodesOfIndex(""), Contains("index-missing"));
   EXPECT_THAT(CodesOfIndex(kIndex), Not(Contains("index-missing")));

@@ -182,6 +182,13 @@ TEST_F(HoleMembership, EverySegmentHasAVerdictForItsColorAndItsDiameter) {
   EXPECT_EQ(result.Accuracy(), 5);
 }
 
+TEST_F(HoleMembership, IsTheSameForASinkThatTakesNoStep) {
+  ClassificationSink sink;
+  const Classification result = ClassifyHole(hole_, type_, sink);
+  EXPECT_TRUE(result.Belongs());
+  EXPECT_EQ(result.Accuracy(), 7.5) << "three colours and three diameters";
+}
+
 TEST_F(HoleMembership, AnotherStructureHasNoVerdicts) {
   type_.countKey = "1_1_2";
   VerdictList verdicts;

@@ -5,29 +5,15 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 #include <random>
-#include <string>
 
 #include "holes/hole_type_info.h"
+#include "holes/naive_cut.h"
 #include "support/allocation_count.h"
-#include "support/comma_locale.h"
 
 namespace plateconfig {
 namespace {
-
-/// What CutDecimals stands for, step by step.
-double CutText(double value, int decimals) {
-  const test::ClassicNumbers classic;
-  char text[400];
-  std::snprintf(text, sizeof text, "%.9f", value);
-  std::string kept = text;
-  const std::size_t point = kept.find('.');
-  if (point != std::string::npos) kept = kept.substr(0, point + 1 + static_cast<std::size_t>(decimals));
-  return std::strtod(kept.c_str(), nullptr);  // As atof should read; on Windows it knows no "nan".
-}
 
 /// All that is no number counts as the same: its sign is not printed on every system.
 std::uint64_t Bits(double value) {
@@ -118,7 +104,7 @@ TEST(NumberCut, GivesBitForBitWhatPrintingCuttingAndReadingGive) {
   for (int i = 0; i < 1'000'000; ++i) {
     const double value = numbers.Next();
     const int decimals = i % 3 == 0 ? i / 8 % 13 : 4;
-    ASSERT_EQ(Bits(CutDecimals(value, decimals)), Bits(CutText(value, decimals)))
+    ASSERT_EQ(Bits(CutDecimals(value, decimals)), Bits(test::NaiveCut(value, decimals)))
         << std::hexfloat << value << " cut to " << decimals;
   }
 }

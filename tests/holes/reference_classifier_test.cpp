@@ -2,73 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <random>
 #include <string>
 
 #include "holes/hole_type_info.h"
-#include "support/comma_locale.h"
+#include "holes/naive_classifier.h"
+#include "holes/naive_cut.h"
 #include "support/diagnostics_off.h"
 
 namespace plateconfig {
 namespace {
-
-double NaiveCut(double value) {
-  const test::ClassicNumbers classic;
-  char text[400];
-  std::snprintf(text, sizeof text, "%.9f", value);
-  const std::string whole = text;
-  return std::strtod(whole.substr(0, whole.find('.') + 5).c_str(), nullptr);
-}
-
-struct NaiveAnswer {
-  bool structure;
-  bool belongs;
-  double accuracy;
-};
-
-class NaiveClassifier {
- public:
-  NaiveAnswer Classify(const CombHole& hole, const HoleTypeInfo& type) {
-    char key[80];
-    std::snprintf(key, sizeof key, "%d_%d_%d", int(hole.topHoles.size()), int(hole.throughHoles.size()),
-                  int(hole.bottomHoles.size()));
-    if (type.countKey != key) return {false, false, 0};
-    Group(hole.topHoles, type.topColor, type.topDiameter);
-    Group(hole.throughHoles, type.throughColor, type.throughDiameter);
-    Group(hole.bottomHoles, type.bottomColor, type.bottomDiameter);
-    return {true, belongs_, accuracy_};
-  }
-
- private:
-  void Group(const std::vector<HoleInfo>& segments, std::vector<std::vector<int>> colors,
-             std::vector<std::vector<double>> diameters) {
-    colors.resize(std::max(colors.size(), segments.size()));
-    diameters.resize(std::max(diameters.size(), segments.size()), {0.0});
-    for (std::size_t i = 0; i < segments.size(); ++i) {
-      bool zero = false;
-      bool hit = false;
-      for (int color : colors[i]) zero = zero || color == 0;
-      for (int color : colors[i]) hit = hit || color == segments[i].color;
-      Count(hit, zero, 1);
-      const double diameter = NaiveCut(segments[i].diameter);
-      zero = hit = false;
-      for (double entry : diameters[i]) zero = zero || std::fabs(entry) < 1e-6;
-      for (double entry : diameters[i]) hit = hit || std::fabs(entry - diameter) < 1e-6;
-      Count(hit, zero, 1.5);
-    }
-  }
-
-  void Count(bool hit, bool zero, double points) {
-    if (hit && !zero) accuracy_ += points;
-    if (!hit && !zero) belongs_ = false;
-  }
-
-  bool belongs_ = true;
-  double accuracy_ = 0;
-};
 
 /// Types and holes from a fixed seed. A hole is made to suit its type, then most of the time spoilt a little.
 class RandomPairs {
@@ -103,7 +46,7 @@ class RandomPairs {
       segment.diameter = Diameter();
       segments.push_back(segment);
       colors.push_back({segment.color});
-      diameters.push_back({NaiveCut(segment.diameter)});
+      diameters.push_back({test::NaiveCut(segment.diameter, 4)});
       for (int extra = Below(3); extra > 0; --extra) colors.back().push_back(Below(6));
       for (int extra = Below(3); extra > 0; --extra) diameters.back().push_back(Diameter());
       if (spoil_ && Below(4) == 0) segments.back().color = Below(6);
@@ -129,7 +72,7 @@ TEST(ReferenceClassifier, AgreesOnAHundredThousandHolesAndTypes) {
   int scored = 0;
   for (int i = 0; i < 100'000; ++i) {
     pairs.Next(hole, type);
-    const NaiveAnswer expected = NaiveClassifier().Classify(hole, type);
+    const test::NaiveAnswer expected = test::NaiveClassifier().Classify(hole, type);
     double accuracy = -1;
     ASSERT_EQ(type.IsCombHoleBelongCurrency(hole), expected.structure) << "pair " << i;
     ASSERT_EQ(type.IsCombHoleBelongNormal(hole, accuracy), expected.belongs) << "pair " << i;

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "support/gbk_text.h"
 #include "support/temporary_folder.h"
 
 namespace plateconfig::test {
@@ -30,6 +31,17 @@ TEST(KeyTable, AColumnThatIsListedTwiceIsFoundWhileCompiling) {
   static_assert(!ColumnsAreUnique(kSameColumn, kSameColumn));
 }
 
+struct Wall {
+  double thinnest = 0;
+  double thickest = 0;
+};
+
+TEST(KeyTable, ARangeSaysSomethingWhenItHasTwoBounds) {
+  EXPECT_TRUE(Range<Wall>::Says("10_200"));
+  EXPECT_FALSE(Range<Wall>::Says("10"));
+  EXPECT_FALSE(Range<Wall>::Says("1_2_3"));
+}
+
 // ---- Lists of records ----
 
 struct Bolt {
@@ -43,13 +55,22 @@ constexpr Key<Bolt> kBoltKeys[] = {
     {"数量"_gbk, Integer{&Bolt::count, 9}, Unit::kCount, {"count", "有几个"}},
 };
 
-std::vector<Bolt> LoadBolts(const std::string& table) {
+template <typename Record, const auto& kKeys>
+std::vector<Record> LoadList(const std::string& table) {
   const TemporaryFolder folder;
   ReadConfigFile reader;
   reader.OpenConfigFile(folder.WriteTable("table.csv", table));
-  std::vector<Bolt> bolts;
-  Loader(reader).WalkRows<kBoltKeys>(bolts);
-  return bolts;
+  std::vector<Record> list;
+  Loader(reader).WalkRows<kKeys>(list);
+  return list;
+}
+
+std::vector<Bolt> LoadBolts(const std::string& table) {
+  return LoadList<Bolt, kBoltKeys>(table);
+}
+
+std::vector<Label> LoadLabels(const std::string& table) {
+  return LoadList<Label, kLabelKeys>(table);
 }
 
 TEST(KeyTable, ARowWithoutTheCellThatDecidesIsNoRow) {
@@ -72,6 +93,39 @@ TEST(KeyTable, ARowsCellOfAnAbsentColumnIsAnEmptyCell) {
   const std::vector<Bolt> bolts = LoadBolts("名称\nM6\n");
   ASSERT_EQ(bolts.size(), 1u);
   EXPECT_EQ(bolts[0].count, 0);
+}
+
+TEST(KeyTable, AListOfAbsentColumnsHasNoRecords) {
+  constexpr const char* kOthers = "别的\n1\n2\n";
+  EXPECT_TRUE(LoadLabels(kOthers).empty());
+  EXPECT_EQ(LoadLabels("图层,别的\n,1\n,2\n").size(), 2u);
+}
+
+struct Hook {
+  double x = 0;
+  std::string name;
+};
+
+constexpr Key<Hook> kHookKeys[] = {
+    {"名称"_gbk, Text{&Hook::name}, Unit::kNone, {"name", "名称"}},
+    {"横坐标"_gbk, Number{&Hook::x}, Unit::kMm, {"place", "位置"}, RowRule::kBounds},
+};
+
+std::vector<Hook> LoadHooks(const std::string& table) {
+  return LoadList<Hook, kHookKeys>(table);
+}
+
+TEST(KeyTable, AColumnThatBoundsAListEndsItWithItsLastFilledCell) {
+  const std::vector<Hook> hooks = LoadHooks("名称,横坐标\n甲,1\n乙,\n丙,3\n丁,\n戊,\"\"\n");
+  ASSERT_EQ(hooks.size(), 3u);
+  EXPECT_EQ(hooks[1].x, 0);
+  EXPECT_EQ(hooks[2].name, Gbk("丙"));
+  EXPECT_EQ(hooks[2].x, 3);
+}
+
+TEST(KeyTable, AColumnThatBoundsAListAndIsAbsentOrEmptyEndsItAtOnce) {
+  EXPECT_TRUE(LoadHooks("名称\n甲\n").empty());
+  EXPECT_TRUE(LoadHooks("名称,横坐标\n甲,\n乙,\n").empty());
 }
 
 TEST(NumberText, IsTheShortestThatReadsBack) {

@@ -176,6 +176,21 @@ TEST(PosixFile, OfFourGibibytesIsRefusedWithoutBeingRead) {
   EXPECT_FALSE(ReadConfigFile().OpenConfigFile(path));
 }
 
+/// From this size on the system is asked for large pages, whose borders the memory does not begin at.
+TEST(PosixFile, OfAHundredMebibytesIsReadWhole) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("large", "begin");
+  const std::size_t size = std::size_t{100} << 20;
+  std::filesystem::resize_file(path, size - 3);
+  std::ofstream(path, std::ios::app | std::ios::binary) << "end";
+  const auto read = ReadWholeFile(path);
+  ASSERT_TRUE(read);
+  ASSERT_EQ(read->View().size(), size);
+  EXPECT_TRUE(read->View().starts_with("begin"));
+  EXPECT_TRUE(read->View().ends_with("end"));
+  EXPECT_TRUE(read->View().substr(5, size - 8) == std::string(size - 8, '\0'));
+}
+
 // The address sanitizer ends the program when there is no memory. Each compiler has its own way of telling.
 #if defined(__SANITIZE_ADDRESS__)
 #define HAS_ADDRESS_SANITIZER 1

@@ -67,6 +67,11 @@ TEST(ConditionTexts, ParenthesesAreFullWidthAndTheAmpersandIsNot) {
   EXPECT_EQ(TypeOf("有无通槽&垂直槽（类型１）"), std::nullopt);
 }
 
+TEST(ConditionTexts, ANumberThatIsNoTypeIsFedByHand) {
+  EXPECT_EQ(FedByOf(static_cast<ProcessRule::RuleType>(22)), FedBy::kByHand);
+  EXPECT_EQ(FedByOf(ProcessRule::BlindSpecialSlotColor5), FedBy::kColors) << "21, the last one";
+}
+
 TEST(ConditionTexts, AreComparedInGbk) {
   EXPECT_EQ(FindRuleType("有无圆孔"), std::nullopt) << "UTF-8";
 }

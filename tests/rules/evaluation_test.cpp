@@ -263,6 +263,16 @@ TEST(EvaluationText, CellsOfValidRulesAreJoinedInTheOrderOfTheRules) {
   EXPECT_EQ(Text(tables, {ValidRule("磨平"), ValidRule("钻孔")}), Gbk("磨0.1→钻5"));
 }
 
+TEST(EvaluationText, IsTheSameForASinkThatTakesNoStep) {
+  const RuleTables tables = LoadTexts(
+      "模板所在图层,长度范围,有无型面,钻孔\n"
+      "1,0_50,,不钻\n"
+      "1,0_100,有型面,铣\n"
+      "1,0_100,,钻5\n");
+  EvaluationSink sink;
+  EXPECT_EQ(EvaluatePlate(tables, MakePlate(80), {ValidRule("钻孔")}, sink), Gbk("钻5"));
+}
+
 TEST(EvaluationText, TheRulesNumbersDoNotOrderTheText) {
   const RuleTables tables = LoadTexts(kProcesses, "连接符号\n,\n");
   ProcessRule last(9, ProcessRule::CustomProcess, Gbk("磨平"), "");

@@ -251,9 +251,15 @@ std::vector<Cells> SettingsTables() {
 }
 
 RandomCase MakeRandomCase(Random& random) {
+  Cells table = Table(random);
+  std::string csv = CsvText(table, random);
+  return MakeCaseOf(std::move(table), std::move(csv), random);
+}
+
+RandomCase MakeCaseOf(Cells table, std::string csv, Random& random) {
   RandomCase result;
-  result.table = Table(random);
-  result.csv = CsvText(result.table, random);
+  result.table = std::move(table);
+  result.csv = std::move(csv);
   result.plate = MakePlate(result.table, random);
   for (const ReferenceRule& rule : ReferenceProcessList(result.table)) {
     result.features.push_back(MakeFeature(rule.type, random));

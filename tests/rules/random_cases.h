@@ -50,6 +50,9 @@ struct RandomCase {
 
 RandomCase MakeRandomCase(Random& random);
 
+/// A plate, near the bounds of this table, and what is known of it. The table has a header.
+RandomCase MakeCaseOf(Cells table, std::string csv, Random& random);
+
 /// The table as a file.
 std::string CsvText(const Cells& table, Random& random);
 

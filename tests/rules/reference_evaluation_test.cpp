@@ -16,6 +16,7 @@
 #include "host/body_info.h"
 #include "rules/process_rule_library.h"
 #include "rules/random_cases.h"
+#include "rules/real_case.h"
 #include "rules/reference_evaluator.h"
 #include "rules/rule_tables.h"
 #include "rules/trace_sink.h"
@@ -52,32 +53,6 @@ struct Shares {
     for (const ReferenceRule& rule : rules) ++(rule.valid ? validRules : invalidRules);
   }
 };
-
-void Feed(ProcessRule& rule, const ReferenceFeature& feature) {
-  switch (feature.kind) {
-    case ReferenceFeature::kNothing:
-      return;
-    case ReferenceFeature::kPresent:
-      return rule.SetValue(feature.present);
-    case ReferenceFeature::kColors:
-      return rule.SetValue(feature.colors);
-    case ReferenceFeature::kDiameters:
-      return rule.SetValue(feature.diameters);
-    case ReferenceFeature::kHoleCount:
-      return rule.SetHoleCount(feature.holeCount);
-  }
-}
-
-Plate MeasuredPlate(const ReferencePlate& plate) {
-  const std::set<int> faces(plate.faceColors.begin(), plate.faceColors.end());
-  return {plate.length,
-          plate.width,
-          plate.height,
-          plate.weight,
-          plate.layer,
-          plate.color,
-          {faces.begin(), faces.end()}};
-}
 
 /// Writes the trace and notes the matching line.
 class LineSink : public TraceSink {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <locale>
 #include <map>
 #include <set>
@@ -29,13 +30,19 @@ std::string CellOf(const Cells& table, std::size_t line, std::string_view column
   return "";
 }
 
+bool IsBetween(char byte, int least, int most) {
+  const int value = static_cast<unsigned char>(byte);
+  return least <= value && value <= most;
+}
+
 /// Cuts a text at each "_" that is a character of its own.
 std::vector<std::string> Pieces(const std::string& text) {
   std::vector<std::string> pieces;
   if (text.empty()) return pieces;
   std::string piece;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool isFirstOfTwo = static_cast<unsigned char>(text[i]) > 0x80 && i + 1 < text.size();
+    const bool isFirstOfTwo = IsBetween(text[i], 0x81, 0xFE) && i + 1 < text.size() &&
+                              IsBetween(text[i + 1], 0x40, 0xFE) && text[i + 1] != 0x7F;
     if (isFirstOfTwo) {
       piece += text[i];
       piece += text[++i];
@@ -55,9 +62,15 @@ double Number(const std::string& text) {
   return std::strtod(text.c_str(), nullptr);
 }
 
+int WholeNumber(const std::string& text) {
+  const long number = std::strtol(text.c_str(), nullptr, 10);
+  return static_cast<int>(
+      std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
 std::vector<int> Numbers(const std::string& text) {
   std::vector<int> numbers;
-  for (const std::string& piece : Pieces(text)) numbers.push_back(std::atoi(piece.c_str()));
+  for (const std::string& piece : Pieces(text)) numbers.push_back(WholeNumber(piece));
   return numbers;
 }
 
@@ -267,7 +280,7 @@ void FeedDiameters(ReferenceRule& rule, const std::vector<double>& diameters) {
 }
 
 void FeedHoleCount(ReferenceRule& rule, int count) {
-  const int bound = std::atoi(rule.value.c_str());
+  const int bound = WholeNumber(rule.value);
   if (rule.type == 13) rule.valid = !(count < bound);
   if (rule.type == 14) rule.valid = count >= 1 && count < bound;
 }

@@ -186,9 +186,9 @@ int RunCompanion(const std::vector<std::string>& arguments, const Streams& strea
     return RunCommandLine(arguments, streams);
   } catch (const std::bad_alloc&) {
     // Nothing here asks for memory.
-    streams.err << kProgramName << ": error: "
-                << (CurrentLanguage() == Language::kEnglish ? "there is not enough memory" : "内存不足")
-                << "\n"
+    streams.err << kProgramName
+                << (CurrentLanguage() == Language::kEnglish ? ": error: there is not enough memory\n"
+                                                            : ": 错误: 内存不足\n")
                 << std::flush;
     return kUnusable;
   }

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <map>
 
 #include "analysis/checks/given_tables.h"
@@ -12,6 +13,9 @@ namespace plateconfig {
 namespace {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::Not;
 
 struct Fixture {
@@ -52,6 +56,7 @@ std::vector<Fixture> RuleFixtures() {
       {"column-unknown", rules, With("材质要求", "甲乙丙丁"), kGood},
       {"column-second", rules, With("钻孔\n", "钻孔,钻孔\n"), kGood},
       {"column-absent", rules, With("材质要求", ""), kGood},
+      {"column-required", rules, With("模板所在图层", "备注"), kGood},
       {"cell-not-range", rules, With("100_200", "100-200"), kGood},
       {"range-reversed", rules, With("100_200", "200_100"), kGood},
       {"cell-not-integers", rules, With("190", "19O"), kGood},
@@ -201,6 +206,106 @@ std::vector<Finding> FindingsNamed(std::string_view code, Role role, const std::
   std::vector<Finding> findings = FindingsOf(test::Given(role, table), test::AllCodes());
   std::erase_if(findings, [&](const Finding& finding) { return finding.code.Name() != code; });
   return findings;
+}
+
+std::vector<std::string> MessagesOf(const std::vector<Finding>& findings, Language language) {
+  std::vector<std::string> messages;
+  for (const Finding& finding : findings) messages.push_back(MessageOf(finding, language));
+  return messages;
+}
+
+TEST(NeededColumns, AreToldWithWhatTheTableLosesWithoutThem) {
+  const auto without = [](const std::string& column, Language language) {
+    return MessagesOf(FindingsNamed("column-required", Role::kProcessRules, With(column, "备注")), language);
+  };
+  EXPECT_THAT(without("模板所在图层", Language::kEnglish),
+              ElementsAre("this table lacks the column \"模板所在图层\", so the table has no rule row"));
+  EXPECT_THAT(without("通用要求", Language::kEnglish),
+              ElementsAre("this table lacks the column \"通用要求\", so no general parameter is read"));
+  EXPECT_THAT(without("通用要求", Language::kChinese),
+              ElementsAre("此表缺少列“通用要求”，因此不读取任何通用要求"));
+  EXPECT_THAT(without("排工艺顺序", Language::kEnglish),
+              ElementsAre("this table lacks the column \"排工艺顺序\", so no process is listed"));
+  EXPECT_THAT(MessagesOf(FindingsNamed("column-required", Role::kFrameInfo, "图框信息-左边距\n0.5\n"),
+                         Language::kEnglish),
+              ElementsAre("this table lacks the column \"图框信息-属性名称\", so no row of its list counts"));
+}
+
+TEST(NeededColumns, AreOnlyAHintWhereNothingOfTheirListIsThere) {
+  const std::string table = "模板所在图层,长度范围\n12,100_200\n";
+  EXPECT_THAT(FindingsNamed("column-required", Role::kProcessRules, table), IsEmpty());
+  const auto absent = FindingsNamed("column-absent", Role::kProcessRules, table);
+  EXPECT_EQ(std::count_if(absent.begin(), absent.end(),
+                          [](const Finding& finding) { return finding.columnName == "通用要求"; }),
+            1);
+}
+
+TEST(NeededColumns, AMisspelledOneIsToldWithWhatIsLostBesideItsName) {
+  const auto found =
+      FindingsNamed("column-misspelled", Role::kProcessRules, With("模板所在图层", "模板图层"));
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].fix, "模板所在图层");
+  EXPECT_EQ(MessageOf(found[0], Language::kEnglish),
+            "the column \"模板图层\" is not known and is ignored; without \"模板所在图层\" the table has no "
+            "rule row");
+  EXPECT_EQ(MessageOf(found[0], Language::kChinese),
+            "未知的列“模板图层”，已忽略；缺少“模板所在图层”列，就没有任何规则行");
+  const auto other = FindingsNamed("column-misspelled", Role::kProcessRules, With("长度范围", "长度笵围"));
+  ASSERT_EQ(other.size(), 1u);
+  EXPECT_EQ(MessageOf(other[0], Language::kEnglish), "the column \"长度笵围\" is not known and is ignored");
+}
+
+TEST(ProcessColumns, AHeaderThatIsToldToBeAProcessIsNotToldAtTheProcessTheOtherWayRound) {
+  const std::string table = With("42,钻孔,", "42,CNC粗加工,");
+  const std::string slipped = "cnc粗加工";
+  const std::string bad =
+      table.substr(0, kRuleHeader.size() - 1) + "," + slipped + "\n" + table.substr(kRuleHeader.size());
+  EXPECT_THAT(FindingsNamed("process-without-column", Role::kProcessRules, bad), IsEmpty());
+  const auto header = FindingsNamed("column-misspelled", Role::kProcessRules, bad);
+  ASSERT_EQ(header.size(), 1u);
+  EXPECT_EQ(header[0].fix, "CNC粗加工");
+  // Where the list has the odd spelling, it is the list that is told.
+  const std::string odd = With("42,钻孔,", "42,钻 孔,");
+  const auto list = FindingsNamed("process-without-column", Role::kProcessRules, odd);
+  ASSERT_EQ(list.size(), 1u);
+  EXPECT_EQ(list[0].fix, "钻孔");
+  EXPECT_THAT(FindingsNamed("column-misspelled", Role::kProcessRules, odd), IsEmpty());
+}
+
+TEST(UnknownColumns, NameWhatTheTableLacksAsEachLanguageListsIt) {
+  const std::string table = With("长度范围,宽度范围", "甲,乙");
+  const auto two = FindingsNamed("column-unknown", Role::kProcessRules, table);
+  ASSERT_EQ(two.size(), 1u);
+  EXPECT_EQ(MessageOf(two[0], Language::kEnglish),
+            "the column \"甲\" is not known and is ignored, while this table lacks 长度范围, 宽度范围");
+  EXPECT_EQ(MessageOf(two[0], Language::kChinese), "未知的列“甲”，已忽略；而此表缺少 长度范围、宽度范围");
+}
+
+TEST(RowNumbers, AreListedAsEachLanguageDoes) {
+  // Rows 2 and 3 together take all that row 4 accepts.
+  std::string table = Rules("12,100_200,,,,无型面,无线割,软料（体颜色）,锯,钻",
+                            "12,200_400,,,,无型面,无线割,软料（体颜色）,铣,钻");
+  const std::string last = "有型面,190,,,,";
+  const std::size_t at = table.find(last) + last.size();
+  table.replace(at, table.find('\n', at) - at, "12,150_300,,,,无型面,无线割,软料（体颜色）,磨,钻");
+  const auto found = FindingsNamed("row-shadowed", Role::kProcessRules, table);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_THAT(MessageOf(found[0], Language::kEnglish), HasSubstr("all of them go to rows 2, 3 first"));
+  EXPECT_THAT(MessageOf(found[0], Language::kChinese), HasSubstr("第 2、3 行先接受了全部"));
+}
+
+TEST(ListValues, ThatAreIgnoredAreToldWhatToWrite) {
+  const auto layer = FindingsNamed("list-value-ignored", Role::kLayers, "模板图层\n0\n");
+  ASSERT_EQ(layer.size(), 1u);
+  EXPECT_EQ(AdviceOf(layer[0], Language::kEnglish), "write a number from 1 to 256");
+  EXPECT_EQ(AdviceOf(layer[0], Language::kChinese), "请写 1 到 256 的整数");
+}
+
+TEST(RowLists, RowsCountDownToTheLastFilledCellOfTheirBoundingColumn) {
+  const auto found = FindingsNamed("row-skipped", Role::kLayoutDefaults,
+                                   "表头-X位置比例,表头-显示名称\n0.1,序号\n,名称\n0.3,规格\n,备注\n");
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].cell, "A5");
 }
 
 TEST(LongRows, AreToldOncePerRowUnlessItIsTheHeaderThatIsShort) {

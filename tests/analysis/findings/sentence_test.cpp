@@ -46,11 +46,32 @@ TEST(Sentence, TheOutlineOfATextHasDotsForItsPlacesButForWhatIsPutOnBehindIt) {
   EXPECT_EQ(OutlineOf("rows {1} and {0} could be one row with the range {2}"),
             "rows … and … could be one row with the range …");
   EXPECT_EQ(OutlineOf("{offending}不是数字"), "…不是数字");
-  EXPECT_EQ(OutlineOf("write it like 450 or 12.5{0}"), "write it like 450 or 12.5");
-  EXPECT_EQ(OutlineOf("请写成 12 这样的整数{0}"), "请写成 12 这样的整数");
-  EXPECT_EQ(OutlineOf("请写{0}"), "请写…");
+  EXPECT_EQ(OutlineOf("write it like 450 or 12.5{0?}"), "write it like 450 or 12.5");
+  EXPECT_EQ(OutlineOf("请写成 12 这样的整数{0?}"), "请写成 12 这样的整数");
+  EXPECT_EQ(OutlineOf("{1}先接受了全部{2?}"), "…先接受了全部");
   EXPECT_EQ(OutlineOf("没有索引表；{0}"), "没有索引表；…");
   EXPECT_EQ(OutlineOf("no places"), "no places");
+}
+
+TEST(Sentence, TheOutlineOfASentenceThatEndsWithItsPlaceIsNotCutThere) {
+  EXPECT_EQ(OutlineOf("因为此单元格{1}"), "因为此单元格…");
+  EXPECT_EQ(OutlineOf("却写了{2}"), "却写了…");
+}
+
+TEST(Sentence, WhatIsPutOnStandsInTheMessageWhereThereIsOne) {
+  Finding finding{"input-not-yes-no", {"plates.csv", 3, 12}};
+  finding.text = "x";
+  EXPECT_EQ(MessageOf(finding, Language::kEnglish), "\"x\" is neither Y nor N");
+  finding.words = {{" (it is passed over)", "（被跳过）"}};
+  EXPECT_EQ(MessageOf(finding, Language::kEnglish), "\"x\" is neither Y nor N (it is passed over)");
+  EXPECT_EQ(MessageOf(finding, Language::kChinese), "“x”既不是 Y 也不是 N（被跳过）");
+}
+
+TEST(Sentence, NamesAreListedAsEachLanguageDoes) {
+  EXPECT_EQ(Enumerated({"2", "5", "7"}).In(Language::kEnglish), "2, 5, 7");
+  EXPECT_EQ(Enumerated({"2", "5", "7"}).In(Language::kChinese), "2、5、7");
+  EXPECT_EQ(Enumerated({"2"}).In(Language::kChinese), "2");
+  EXPECT_EQ(Enumerated({}).In(Language::kEnglish), "");
 }
 
 TEST(Sentence, WhatIsEasilyOverlookedInATextIsSaid) {

@@ -53,6 +53,13 @@ TEST_F(SettingDifferencesTest, AColumnWidthThatOneSideLacksIsThatOfAnUnknownColu
               ElementsAre("column-widths 数量: 100 > 60", "column-widths 图号: 80 > 100"));
 }
 
+TEST_F(SettingDifferencesTest, AColumnWidthWhoseColumnComesTwiceDiffersOnceByTheFirst) {
+  const SettingsByRole one = Of(Role::kColumnWidths, "名称\n100\n");
+  const SettingsByRole twice = Of(Role::kColumnWidths, "数量,名称,数量\n60,100,70\n");
+  EXPECT_THAT(Between(one, twice), ElementsAre("column-widths 数量: 100 > 60"));
+  EXPECT_THAT(Between(twice, one), ElementsAre("column-widths 数量: 60 > 100"));
+}
+
 TEST_F(SettingDifferencesTest, ListsDifferByTheirCellsAndRolesComeInTheirOrder) {
   SettingsByRole before = Of(Role::kLayers, "模板图层\n12\n13\n");
   before.merge(Of(Role::kProcessSettings, "连接符号\n+\n"));

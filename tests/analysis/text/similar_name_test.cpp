@@ -1,6 +1,9 @@
 #include "analysis/text/similar_name.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <string_view>
+#include <vector>
 
 namespace plateconfig {
 namespace {
@@ -67,6 +70,14 @@ TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
                             "def",
                             {"abcdef"}),
             "abcdef");
+}
+
+TEST(ProbablyMeantName, MayLeaveOutCharactersInsideOfTheOnlyNameThatHasTheOthers) {
+  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "长度范围"}), "模板所在图层");
+  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "模板二图层号"}), "");
+  EXPECT_EQ(ProbablyMeantName("图模", {"模板所在图层"}), "");        // In another order.
+  EXPECT_EQ(ProbablyMeantName("模层", {"模板所在图层"}), "");        // Two of six are too few.
+  EXPECT_EQ(ProbablyMeantName("模板备图层", {"模板所在图层"}), "");  // One is a stranger.
 }
 
 TEST(SlippedName, OfAShortNameIsFoundWhateverTheHandDid) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "support/gbk_text.h"
 
 namespace plateconfig {
@@ -23,6 +25,14 @@ TEST(TableText, PlacesCountLinesOfTheFileAndCharacters) {
   // The cell in front of it goes on to the third line, where 乙 and its quote stand before the comma.
   EXPECT_EQ(ToString(text.PlaceOf(1, 1)), "表.csv:3:4");
   EXPECT_EQ(ToString(text.PlaceOf(2)), "表.csv:4:1");
+}
+
+TEST(TableText, RowsBehindCellsOfSeveralLinesBeginThatMuchLater) {
+  const Table table = TableOf("a,b\n\"1\n1\"\n2\n\"3\n\n3\",\"x\ny\"\n\n4\n5,\"6\n\"\n");
+  const TableText text("t", table);
+  std::vector<std::size_t> lines;
+  for (std::size_t row = 0; row <= table.RowCount(); ++row) lines.push_back(text.PlaceOf(row).line);
+  EXPECT_EQ(lines, (std::vector<std::size_t>{1, 2, 4, 5, 9, 10, 11}));
 }
 
 TEST(TableText, ACellThatAShortRowLacksStandsWhereItsLastOneDoes) {

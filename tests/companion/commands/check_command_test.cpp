@@ -320,6 +320,32 @@ TEST_F(CheckCommand, AnAcceptedFindingThatNoLongerOccursIsTold) {
   EXPECT_THAT(Check({"--lang", "zh", "--baseline", Path("已接受.txt")}).out, HasSubstr("已接受但不再出现："));
 }
 
+TEST_F(CheckCommand, AFileThatIsNoBaselineIsNeitherReadAsOneNorReplaced) {
+  files_.WriteBytes("笔记.txt", "my notes\n");
+  for (const Strings& further : {Strings{}, Strings{"--update-baseline"}}) {
+    Strings arguments = {"--baseline", Path("笔记.txt")};
+    arguments.insert(arguments.end(), further.begin(), further.end());
+    const CompanionResult run = Check(arguments);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.err,
+                HasSubstr("error: this file is no baseline of plateconfig check and stays as it is\n"));
+  }
+  EXPECT_EQ(Written("笔记.txt"), "my notes\n");
+}
+
+TEST_F(CheckCommand, TextsOfTheTablesDoNotReachTheTerminalRaw) {
+  WriteRules(With(With(kGood, "材质要求,下料,", "材质要求,\033[31m下料,"), ",下料,自定义追加工艺,",
+                  ",\033[31m下料,,"));
+  const CompanionResult run = Check();
+  EXPECT_THAT(run.out, HasSubstr("[31m下料"));
+  EXPECT_THAT(run.out, Not(HasSubstr("\033")));
+}
+
+TEST_F(CheckCommand, PlatesThatNoRuleRowCanTakeAreSaidNotToBeLookedAt) {
+  EXPECT_THAT(RunPlateconfig({"check", "--texts", Path("文字.csv"), "--plates", Path("fehlt.csv")}).out,
+              HasSubstr("the plates were not looked at: there is no rule row to evaluate them with\n"));
+}
+
 TEST_F(CheckCommand, ABaselineThatIsNotThereIsAnErrorThatSaysHowToWriteIt) {
   CompanionResult run = Check({"--baseline", Path("已接受.txt")});
   EXPECT_EQ(run.exitCode, 2);
@@ -327,6 +353,22 @@ TEST_F(CheckCommand, ABaselineThatIsNotThereIsAnErrorThatSaysHowToWriteIt) {
   run = Check({"--update-baseline"});
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_THAT(run.err, HasSubstr("--baseline"));
+}
+
+TEST_F(CheckCommand, CsvHasAQuestionMarkForAByteThatIsNoCharacterSoThatItCanBeGbk) {
+  files_.WriteBytes("规则.csv", With(Gbk(kGood), Gbk("钻到数"), "\xFF" + Gbk("钻到数 ")));
+  const CompanionResult run = Check({"--format", "csv", "-o", Path("报告.csv")});
+  EXPECT_THAT(run.err, IsEmpty());
+  EXPECT_THAT(Written("报告.csv"), HasSubstr("character-not-gbk"));
+  EXPECT_THAT(Written("报告.csv"), HasSubstr(Gbk(",?钻到数 ,")));
+  EXPECT_THAT(Check({"--format", "csv"}).out, HasSubstr(",?钻到数 ,"));
+}
+
+TEST_F(CheckCommand, TheFirstOfManyMissingColumnsAreNamed) {
+  WriteRules("通用要求,通用参数,甲\n软料（体颜色）,12,x\n");
+  EXPECT_THAT(Check({"--lang", "zh"}).out, HasSubstr("、"));
+  EXPECT_THAT(Check({"--lang", "zh"}).out, HasSubstr(" 等  [column-unknown]"));
+  EXPECT_THAT(Check().out, HasSubstr(" …  [column-unknown]"));
 }
 
 // ---- plates and hole types ----

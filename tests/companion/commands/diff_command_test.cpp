@@ -293,7 +293,13 @@ TEST_F(DiffCommand, ASideThatCanNotBeUsedIsAnErrorAndNothingIsCompared) {
   const CompanionResult noTable = Diff({"--format", "json"});
   EXPECT_EQ(noTable.exitCode, 2);
   EXPECT_THAT(noTable.out, IsEmpty());
-  EXPECT_EQ(noTable.err, Path("new") + "/weg.csv: error: this table does not exist\n");
+  EXPECT_THAT(noTable.err, StartsWith(Path("new") + "/weg.csv: error: this table does not exist; "));
+}
+
+TEST_F(DiffCommand, ATableOfAnotherEncodingIsToldBeforeWhatItChanges) {
+  files_.WriteBytes("new/规则.csv", "模板所在图层,长度范围\n12,100_500\n");
+  files_.WriteBytes("new/tables.json", R"({"process-rules": "规则.csv"})");
+  EXPECT_THAT(Diff({}).err, StartsWith(Path("new") + "/规则.csv:1:1: warning: this table is UTF-8, not GBK"));
 }
 
 TEST_F(DiffCommand, AWarningAboutAnInputIsShownOnceAndIsNoDifference) {

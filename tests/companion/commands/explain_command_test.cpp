@@ -122,7 +122,7 @@ TEST_F(ExplainCommand, SpeaksChinese) {
             "  第 4 行符合：慢走丝\n"
             "  各工艺，按文本中的顺序：\n"
             "    下料  自定义追加工艺      不适用：未指定\n"
-            "    钻孔  圆孔颜色 36_186     不适用：板上为 无\n"
+            "    钻孔  圆孔颜色 36_186     不适用：板上没有\n"
             "    线割  有无异型槽          写出：慢走丝（板有此特征）\n"
             "    检测  孔数量大于参数值 3  不适用：没有给出孔数量\n"
             "  之前各行不符合的原因：\n"
@@ -167,10 +167,12 @@ TEST_F(ExplainCommand, JsonOfAMatchHoldsTheRowsBeforeIt) {
     {"condition": "profile", "wanted": false, "colors": [190], "value": [190]}]}])"));
 }
 
-TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNone) {
+TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNoneOnceAndNotForEachPlate) {
   configuration_.Folder().WriteTable("规则.csv", "模板所在图层,长度范围\n");
-  EXPECT_THAT(Explain("板,450,400,90,300,12,12,190,").out,
-              HasSubstr("  no rule row fits: the table has none\n"));
+  const auto result = Explain("板,450,400,90,300,12,12,190,");
+  EXPECT_THAT(result.err, HasSubstr("error: the rule table has no rule row, so no plate is looked at\n"));
+  EXPECT_THAT(result.out, Not(HasSubstr("板:")));
+  EXPECT_EQ(result.exitCode, 2);
 }
 
 TEST_F(ExplainCommand, MistakesAreReportedAndTheOtherPlatesExplained) {
@@ -272,6 +274,25 @@ TEST_F(ExplainCommand, CsvHasARowForEachProcessAndForEachConditionThatFails) {
       out, HasSubstr("镶件,standard input,2,4,written,line 2,width,,,width 80 is 20 below the range 100 to "
                      "400\r\n"));
   EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 1 + 4 + 3 + 4);
+}
+
+TEST_F(ExplainCommand, EveryRowOfCsvHasACellForEachColumn) {
+  // A row that fits and lists no process: nothing refuses the plate, and nothing is written.
+  configuration_.Folder().WriteTable("规则.csv", "模板所在图层,长度范围\n12,1_10\n");
+  const std::string out = Text("板,5,1,1,1,1,1,,", {"--format", "csv"});
+  EXPECT_THAT(out, HasSubstr("\r\n板,standard input,2,2,no text,,,,,\r\n"));
+}
+
+TEST_F(ExplainCommand, CsvHoldsTheTextOfACellAsItStands) {
+  configuration_.Folder().WriteTable("规则.csv",
+                                     "排工艺顺序,排顺序工艺类型,模板所在图层,长度范围,线割\n"
+                                     "线割,有无异型槽,12,1_10,慢\t丝\n");
+  EXPECT_THAT(Text("板,5,1,1,1,1,1,,Y", {"--format", "csv"}),
+              HasSubstr("written: 慢\t丝 (the plate has it)"));
+  EXPECT_THAT(Text("板,5,1,1,1,1,1,,Y", {}), HasSubstr("written: 慢\uFFFD丝 (the plate has it)"));
+  const std::string path = test::ArgumentPath(configuration_.Folder(), "t.csv");
+  EXPECT_THAT(Text("板,5,1,1,1,1,1,,Y", {"--format", "csv", "-o", path}), HasSubstr("1 plate: 1 written"));
+  EXPECT_THAT(test::ReadBytes(configuration_.Folder().Path() / "t.csv"), HasSubstr(test::Gbk("慢\t丝")));
 }
 
 }  // namespace

@@ -66,6 +66,13 @@ class HolesCommand : public testing::Test {
   std::string err_;
 };
 
+TEST_F(HolesCommand, WithoutTypesThatCanBeReadNoHoleIsJudged) {
+  folder_.WriteTable("holes.csv", kHoleHeader + std::string(kScrewHole));
+  RunFiles("fehlt.csv", "holes.csv");
+  EXPECT_THAT(out_, IsEmpty());
+  EXPECT_EQ(exitCode_, 2);
+}
+
 TEST_F(HolesCommand, EveryMatchingTypeIsListedBestFirst) {
   Run("通用,1_1_0,0,0,,0,0,,\n"
       "M8,1_1_0,36,31,,14,9,,\n"

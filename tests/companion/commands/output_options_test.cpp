@@ -3,8 +3,12 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <nlohmann/json.hpp>
+#include <sstream>
 
+#include "plateconfig/companion.h"
 #include "support/companion.h"
+#include "support/gbk_text.h"
 
 namespace plateconfig::test {
 namespace {
@@ -105,6 +109,55 @@ TEST_F(OutputOptions, AVerbWithoutAResultWritesNoFile) {
     EXPECT_EQ(Run(verb, {"-o", Path("b.txt")}).exitCode, 2);
     EXPECT_FALSE(std::filesystem::exists(plates_.Path() / "b.txt")) << verb[0];
   }
+}
+
+TEST_F(OutputOptions, AnErrorWithoutAResultKeepsTheOldFile) {
+  for (const std::string form : {"text", "json", "csv"}) {
+    plates_.WriteBytes("a.txt", "mine");
+    const auto result = RunPlateconfig({"process", "--config", configuration_.Path(), Path("fehlt.csv"),
+                                        "--format", form, "-o", Path("a.txt"), "--force"});
+    EXPECT_EQ(result.exitCode, 2) << form;
+    EXPECT_EQ(ReadBytes(plates_.Path() / "a.txt"), "mine") << form;
+    EXPECT_THAT(result.out, IsEmpty()) << form;
+  }
+}
+
+TEST_F(OutputOptions, AnInputOfTheCommandIsNotReplacedEvenWhenForced) {
+  const std::string before = ReadBytes(plates_.Path() / "板.csv");
+  const auto result =
+      RunPlateconfig({"process", "--config", configuration_.Path(), Path("板.csv"), "-o",
+                      Path("../" + plates_.Path().filename().string() + "/板.csv"), "--force"});
+  EXPECT_THAT(result.err, HasSubstr("error: this file is an input of this command and is not replaced\n"));
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(ReadBytes(plates_.Path() / "板.csv"), before);
+}
+
+TEST_F(OutputOptions, WhatIsNotWrittenIsNotCounted) {
+  plates_.WriteBytes("点.csv", "名称,长度,宽度,厚度,重量,体颜色\n\xF0\x9F\x94\xA9,450,400,90,9,12\n");
+  // A nut and bolt, which GBK lacks.
+  const auto result = RunPlateconfig(
+      {"process", "--config", configuration_.Path(), Path("点.csv"), "--format", "csv", "-o", Path("a.csv")});
+  EXPECT_THAT(result.err, HasSubstr("has no form in GBK"));
+  EXPECT_THAT(result.out, IsEmpty());
+  EXPECT_FALSE(std::filesystem::exists(plates_.Path() / "a.csv"));
+}
+
+TEST_F(OutputOptions, TheFormOfTheVerbItselfCountsForItsFile) {
+  const auto result = RunPlateconfig({"--format", "csv", "check", "--config", configuration_.Path(),
+                                      "--format", "json", "-o", Path("a.json")});
+  EXPECT_NE(result.exitCode, 2) << result.err;
+  EXPECT_TRUE(nlohmann::json::accept(ReadBytes(plates_.Path() / "a.json")));
+}
+
+TEST_F(OutputOptions, ATemplateIsTextOnATerminalAndATableElsewhere) {
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  RunCompanion({"template", "plates", "--config", configuration_.Path()}, {in, out, err, false, true});
+  EXPECT_THAT(out.str(), StartsWith("名称,"));
+  EXPECT_THAT(out.str(), Not(HasSubstr("\r")));
+  EXPECT_THAT(RunPlateconfig({"template", "plates", "--config", configuration_.Path()}).out,
+              StartsWith(Gbk("名称,")));
 }
 
 TEST_F(OutputOptions, TheLastLineOfAFileGoesToTheTerminal) {

@@ -114,9 +114,10 @@ TEST_F(ProcessCommand, ReadsSeveralFilesOneAfterAnother) {
         R"({"name": "B", "length": 450, "width": 400, "thickness": 90, "weight": 9, "color": 12})");
   const auto result =
       RunPlateconfig({"process", "--config", configuration_.Path(), Path("甲.csv"), Path("乙.json")});
-  EXPECT_EQ(result.out, std::string(kTexts) +
-                            "B (line 2): no process of this row applies (plateconfig explain tells why)\n" +
-                            configuration_.LastLine("3 plates: 2 written, 1 without a text"));
+  EXPECT_EQ(result.out,
+            std::string(kTexts) +
+                "B (line 2): no process of this row is written (plateconfig explain tells why)\n" +
+                configuration_.LastLine("3 plates: 2 written, 1 without a text"));
   EXPECT_EQ(result.exitCode, 1) << result.err;
 }
 
@@ -182,7 +183,7 @@ TEST_F(ProcessCommand, AMissingRuleTableIsNamedWithWhatFollows) {
   EXPECT_EQ(result.err, Path("fehlt.csv") +
                             ": error: this table does not exist; the library then has no rule rows and every "
                             "process text is empty; put the file there, or mend its name\n");
-  EXPECT_EQ(result.out, NoRow());
+  EXPECT_EQ(result.out, configuration_.LastLine("0 plates: 0 written"));
   EXPECT_EQ(result.exitCode, 2);
 }
 
@@ -201,7 +202,33 @@ TEST_F(ProcessCommand, ARuleTableInUtf8IsNamedAsSuch) {
   const auto result = RunPlateconfig(
       {"process", "--config", configuration_.Path(), "--process-rules", Path("utf8.csv"), "-"}, kUnfitting);
   EXPECT_THAT(result.err, StartsWith(Path("utf8.csv") + ":1:1: warning: this table is UTF-8, not GBK"));
-  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.err, HasSubstr("error: the rule table has no rule row, so no plate is looked at\n"));
+  EXPECT_EQ(result.out, configuration_.LastLine("0 plates: 0 written"));
+  EXPECT_EQ(result.exitCode, 2);
+}
+
+// The folder 甲 would be active if its flag were Y.
+TEST_F(ProcessCommand, ATitleAboveAHeaderInGbkIsOneMessageThoughItIsAscii) {
+  for (const std::string title : {"2024-05\n", "\n", "sep=,\n"}) {
+    const auto result =
+        RunPlateconfig({"process", "--config", configuration_.Path(), "-"},
+                       title + test::Gbk("名称,长度,宽度,厚度,重量,体颜色\nA板,450,400,90,9,12\n"));
+    EXPECT_EQ(
+        result.err,
+        "standard input:1:1: error: the first line is no header; the column names stand on line 2; delete "
+        "the lines above the column names\n"
+        "standard input: warning: no plate was read from this file\n")
+        << title;
+  }
+}
+
+TEST_F(ProcessCommand, WhatIsWrongWithTheIndexIsToldBeforeItsTablesAreUsed) {
+  const test::TemporaryFolder root;
+  root.WriteTable("config/standard.csv", "文件夹名称,有效配置\n甲,是\n");
+  const test::ScopedVariable variable("TQConfig", test::ArgumentPath(root, ""));
+  const auto folder = RunPlateconfig({"folder"});
+  ASSERT_THAT(folder.err, HasSubstr("warning"));
+  EXPECT_THAT(RunPlateconfig({"process", "-"}, kPlates).err, StartsWith(folder.err));
 }
 
 TEST_F(ProcessCommand, WithoutConfigurationNoPlateIsRead) {

@@ -22,7 +22,7 @@ TEST(SchemaCommand, TextTellsColumnHelpUnitCellsAndDefault) {
 }
 
 TEST(SchemaCommand, KindsAndTheIntroductionAreChineseInChinese) {
-  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out, HasSubstr("; 仅 Y 为是; 缺列时 N\n"));
+  EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out, HasSubstr("；仅 Y 为是；缺列时 N\n"));
   const std::string page = RunPlateconfig({"schema", "--lang", "zh", "--format", "markdown"}).out;
   EXPECT_THAT(page, HasSubstr("斜体的名称代表由用户选定的名称。\n"));
   EXPECT_THAT(page, HasSubstr(" | NX 图层 | 非 0 整数的列表 | "));
@@ -46,12 +46,20 @@ TEST(SchemaCommand, JsonHoldsOneObjectPerColumn) {
 
 TEST(SchemaCommand, AMeaningIsInTheLanguageAskedForWhateverTheFormat) {
   EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh"}).out,
-              HasSubstr("  密度(g/cm): 材料的密度，用来算材料表中的重量 [g/cm³]; 数字; 缺列时 0\n"));
+              HasSubstr("  密度(g/cm): 材料的密度，用来算材料表中的重量 [g/cm³]；数字；缺列时 0\n"));
   EXPECT_THAT(RunPlateconfig({"schema", "--lang", "zh", "--format", "markdown"}).out,
               HasSubstr("| `密度(g/cm)` | 材料的密度，用来算材料表中的重量 | g/cm³ | 数字 | `0` |\n"));
   const Json columns = Json::parse(RunPlateconfig({"schema", "--lang", "zh", "--format", "json"}).out);
   EXPECT_EQ(columns.back()["help"], "换成什么文字；空着的行不算，所以不能把文字删掉");
   EXPECT_EQ(columns.back()["kind"], "text");
+}
+
+TEST(SchemaCommand, RowsHaveNoDefaultWhenTheirColumnIsAbsent) {
+  const Json columns = Json::parse(RunPlateconfig({"schema", "--format", "json"}).out);
+  for (const Json& column : columns) {
+    if (column["rows"] == false) continue;
+    EXPECT_EQ(column["whenAbsent"], Json::array()) << column;
+  }
 }
 
 TEST(SchemaCommand, TheFormatInFrontOfTheVerbCountsToo) {

@@ -61,6 +61,25 @@ INSTANTIATE_TEST_SUITE_P(EveryRole, Template, ::testing::ValuesIn(NamesOf(Roles(
   return name;
 });
 
+/// The roles of a configuration. That of the index leaves it to its keeper to make a row active.
+class ManifestTemplate : public Template {};
+
+TEST_P(ManifestTemplate, ChecksWithoutAWarning) {
+  WriteTemplate();
+  const std::string role(GetParam());
+  const CompanionResult check = RunPlateconfig({"check", "--" + role, ArgumentPath(folder_, "table.csv")});
+  EXPECT_THAT(check.out, HasSubstr("0 errors, 0 warnings, ")) << check.err;
+  EXPECT_THAT(check.out, HasSubstr(" in 1 table, "));
+  EXPECT_EQ(check.exitCode, 0) << check.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryRole, ManifestTemplate, ::testing::ValuesIn(NamesOf(ManifestRoles())),
+                         [](const auto& role) {
+                           std::string name(role.param);
+                           std::replace(name.begin(), name.end(), '-', '_');
+                           return name;
+                         });
+
 /// The roles of the settings classes.
 class SettingsTemplate : public Template {};
 
@@ -124,11 +143,12 @@ TEST_F(OtherTemplate, ColumnWidthsLoadToTheWidthOfAnUnknownColumn) {
   EXPECT_EQ(widths.GetColumnWidth(Gbk("名称")), 100);
 }
 
-TEST_F(OtherTemplate, ProcessSettingsLoadToEmptySettings) {
+TEST_F(OtherTemplate, ProcessSettingsLoadToEmptySettingsAndToALayerThatTheHostHas) {
   const RuleTables tables = LoadRuleTables("", Write("settings.csv", "process-settings"));
   EXPECT_EQ(tables.connectText + tables.textFont, "");
   EXPECT_FALSE(tables.singleLine || tables.outputLineNumber || tables.appendAttribute);
-  EXPECT_EQ(tables.leftMargin + tables.topMargin + tables.textLayer, 0);
+  EXPECT_EQ(tables.leftMargin + tables.topMargin, 0);
+  EXPECT_EQ(tables.textLayer, 1);
 }
 
 TEST_F(OtherTemplate, ProcessRulesHoldOneRealRow) {
@@ -182,7 +202,7 @@ class InputTemplate : public ::testing::Test {
 TEST_F(InputTemplate, PlatesHaveTheColumnsThatTheRulesAskFor) {
   const auto run = RunPlateconfig({"template", "plates", "--config", configuration_.Path()});
   EXPECT_EQ(run.out, Gbk("名称,长度,宽度,厚度,重量,体颜色,面颜色,图层,下料,圆孔颜色,有无异型槽,孔数量\r\n"
-                         "示例板,300,200,60,100,12,,12,Y,36_186,Y,3\r\n"));
+                         "示例板,300,200,60,28.26,12,,12,Y,36_186,Y,3\r\n"));
 }
 
 TEST_F(InputTemplate, TheExamplePlateFitsTheFirstRowAndEveryProcessApplies) {
@@ -191,6 +211,36 @@ TEST_F(InputTemplate, TheExamplePlateFitsTheFirstRowAndEveryProcessApplies) {
   EXPECT_THAT(run.out, HasSubstr("line 2 fits: 锯床下料→钻孔到数→检测外形\n"));
   EXPECT_THAT(run.out, ::testing::Not(HasSubstr("does not apply")));
   EXPECT_THAT(run.err, IsEmpty());
+}
+
+TEST_F(InputTemplate, TheExamplePlateWeighsAsMuchAsSolidSteelUnlessTheRowWantsAnotherWeight) {
+  const auto example = [&](const std::string& weights) {
+    configuration_.Folder().WriteTable("规则.csv",
+                                       "模板所在图层,长度范围,宽度范围,厚度范围,重量范围\n"
+                                       "12,300_300,200_200,40_40," +
+                                           weights + "\n");
+    return RunPlateconfig({"template", "plates", "--config", configuration_.Path()}).out;
+  };
+  EXPECT_THAT(example(""), HasSubstr(",300,200,40,18.84,"));  // 2 400 000 mm³ of 7.85 g/cm³.
+  EXPECT_THAT(example("10_20"), HasSubstr(",300,200,40,18.84,"));
+  EXPECT_THAT(example("50_50"), HasSubstr(",300,200,40,50,"));
+}
+
+TEST_F(InputTemplate, ProcessesThatLookAtOneColumnAllApplyToTheExamplePlate) {
+  configuration_.Folder().WriteTable(
+      "规则.csv",
+      "排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,扩孔,铰孔,点孔\n"
+      "扩孔,圆孔颜色,36_186,12,扩,铰,点\n铰孔,圆孔颜色,186_7,,,,\n点孔,圆孔直径,6_8.5,,,,\n");
+  EXPECT_THAT(RunPlateconfig({"template", "plates", "--config", configuration_.Path()}).out,
+              HasSubstr(",36_186_7"));
+}
+
+TEST_F(InputTemplate, ANumberOfHolesBelowTheLeastIntegerIsNone) {
+  configuration_.Folder().WriteTable("规则.csv",
+                                     "排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,检测\n"
+                                     "检测,孔数量小于参数值,-2147483648,12,检\n");
+  EXPECT_THAT(RunPlateconfig({"template", "plates", "--config", configuration_.Path()}).out,
+              HasSubstr(Gbk("孔数量\r\n示例板,400,300,50,47.1,12,,12,0\r\n")));
 }
 
 TEST_F(InputTemplate, TheExampleHoleBelongsToTheExampleType) {

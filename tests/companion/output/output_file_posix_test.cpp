@@ -47,5 +47,24 @@ TEST(OutputFile, ASymbolicLinkStaysOneAndItsFileIsReplaced) {
   EXPECT_EQ(test::ReadBytes(folder.Path() / "real/a.csv"), "text\n");
 }
 
+TEST(OutputFile, ALinkToAFileThatIsStillToBeMadeStaysOne) {
+  const test::TemporaryFolder folder;
+  fs::create_directory(folder.Path() / "real");
+  const fs::path link = folder.Path() / "a.csv";
+  fs::create_symlink("real/a.csv", link);
+  EXPECT_TRUE(Write(link, IfPresent::kKeep));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(test::ReadBytes(folder.Path() / "real/a.csv"), "text\n");
+}
+
+TEST(OutputFile, TheRightsOfTheFileThatIsReplacedAreKept) {
+  const test::TemporaryFolder folder;
+  folder.WriteBytes("a.csv", "mine");
+  const fs::path file = folder.Path() / "a.csv";
+  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(Write(file, IfPresent::kReplace));
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 }  // namespace
 }  // namespace plateconfig

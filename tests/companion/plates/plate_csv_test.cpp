@@ -72,6 +72,15 @@ TEST(PlateCsv, ReadsEveryKindOfFeature) {
   EXPECT_THAT(features.customProcesses, ElementsAre(test::Gbk("氮化")));
 }
 
+TEST(PlateCsv, AWholeNumberMayHaveNoughtsBehindAPoint) {
+  CsvPlates file(std::string(kHeader) + ",孔数量\n板,450,400,90,127.2,12.0,9.00\n");
+  const auto plates = file.All();
+  ASSERT_EQ(plates.size(), 1u) << file.messages.Text();
+  EXPECT_EQ(plates[0].plate.color, 12);
+  EXPECT_THAT(MessageAbout("孔数量", "9.5"), HasSubstr("\"9.5\" is not a whole number"));
+  EXPECT_THAT(MessageAbout("孔数量", "9."), HasSubstr("\"9.\" is not a whole number"));
+}
+
 TEST(PlateCsv, AnEmptyCellIsAFeatureThatThePlateHasNot) {
   CsvPlates file(std::string(kHeader) +
                  ",图层,面颜色,有无圆孔,圆孔颜色,圆孔直径,孔数量,氮化\n"

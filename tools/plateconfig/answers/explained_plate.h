@@ -14,6 +14,11 @@
 
 namespace plateconfig {
 
+// How many rows that refuse a plate are shown without a wish of the user. Of a plate that fits it is few:
+// what is asked then is mostly its text.
+inline constexpr std::size_t kRowsWhenNoneFits = 10;
+inline constexpr std::size_t kRowsWhenOneFits = 3;
+
 /// What the command line asks for of the rows that refuse a plate.
 struct RefusedRowsView {
   bool showsEveryRefusal = false;

@@ -6,6 +6,7 @@
 #include "analysis/checks/rule_values.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/screen_text.h"
+#include "plateconfig/messages/shown_numbers.h"
 #include "rules/condition_texts.h"
 #include "text/gbk.h"
 
@@ -16,15 +17,15 @@ std::string ShownName(Condition condition) {
   return std::string(WordsOf(condition).In(CurrentLanguage()));
 }
 
-/// Ten digits: enough for every size, and too few for the noise of a subtraction.
-std::string Number(double value) {
-  return fmt::format("{:.10g}", value);
+std::string ListOrNone(const std::vector<int>& numbers) {
+  return numbers.empty() ? Say("none", "无") : ShownList(numbers);
 }
 
-/// Numbers joined as in a table's cell.
-template <typename Item>
-std::string Joined(const std::vector<Item>& items) {
-  return items.empty() ? Say("none", "无") : fmt::format("{}", fmt::join(items, "_"));
+/// What the plate has of numbers that a condition compares.
+template <typename Number>
+std::string HasText(const std::vector<Number>& numbers) {
+  return numbers.empty() ? Say("the plate has none", "板上没有")
+                         : Say("the plate has {}", "板上为 {}", ShownList(numbers));
 }
 
 /// The plate's face colours that are among the row's; both lists in ascending order or not.
@@ -38,21 +39,21 @@ std::vector<int> Common(const std::vector<int>& faces, const std::vector<int>& c
 std::string SizeText(const Refusal& refusal) {
   const bool isBelow = refusal.value < refusal.range.minimum;
   return Say("{0} {1} is {2} {3} the range {4} to {5}", "{0} {1} {3}范围 {4} 到 {5}，相差 {2}",
-             ShownName(refusal.condition), Number(refusal.value), Number(refusal.Miss()),
-             isBelow ? Say("below", "小于") : Say("above", "大于"), Number(refusal.range.minimum),
-             Number(refusal.range.maximum));
+             ShownName(refusal.condition), ShownNumber(refusal.value), ShownNumber(refusal.Miss()),
+             isBelow ? Say("below", "小于") : Say("above", "大于"), ShownNumber(refusal.range.minimum),
+             ShownNumber(refusal.range.maximum));
 }
 
 std::string FacesText(const Refusal& refusal, const Plate& plate) {
   const std::string name = ShownName(refusal.condition);
   if (refusal.isWanted) {
     return Say("{0}: the row wants a face colour of {1}, the plate's faces have {2}",
-               "{0}：此行要求面颜色含 {1} 之一，而板的面颜色为 {2}", name, Joined(refusal.colors),
-               Joined(plate.faceColors));
+               "{0}：此行要求面颜色含 {1} 之一，而板的面颜色为 {2}", name, ListOrNone(refusal.colors),
+               ListOrNone(plate.faceColors));
   }
   return Say("{0}: the row is for plates without it, but the face colour {1} stands for it",
              "{0}：此行只用于无{0}的板，而板有{0}的面颜色 {1}", name,
-             Joined(Common(plate.faceColors, refusal.colors)));
+             ListOrNone(Common(plate.faceColors, refusal.colors)));
 }
 
 void WriteRow(int line, const std::string& text, std::ostream& out) {
@@ -71,9 +72,9 @@ void WritePlate(const PlateInput& input, std::ostream& out) {
   const Plate& plate = input.plate;
   out << OnOneLine(input.name)
       << Say(": {} x {} x {} mm, weight {}, body colour {}, face colours {}, layer {}",
-             "：{} x {} x {} mm，重量 {}，体颜色 {}，面颜色 {}，图层 {}", Number(plate.length),
-             Number(plate.width), Number(plate.height), Number(plate.weight), plate.color,
-             Joined(plate.faceColors), plate.layer)
+             "：{} x {} x {} mm，重量 {}，体颜色 {}，面颜色 {}，图层 {}", ShownNumber(plate.length),
+             ShownNumber(plate.width), ShownNumber(plate.height), ShownNumber(plate.weight), plate.color,
+             ListOrNone(plate.faceColors), plate.layer)
       << "\n";
 }
 
@@ -95,7 +96,7 @@ void WriteProcesses(const ExplainedPlate& plate, int line, std::ostream& out) {
   for (std::size_t i = 0; i < processes.size(); ++i) {
     out << "    " << PaddedTo(nameWidth, OnOneLine(GbkToUtf8(processes[i].name))) << "  "
         << PaddedTo(conditionWidth, ConditionText(plate.list[i])) << "  "
-        << VerdictText(processes[i], line, plate.input.features) << "\n";
+        << OnOneLine(VerdictText(processes[i], line, plate.input.features)) << "\n";
   }
 }
 
@@ -140,9 +141,8 @@ void WriteFit(const ExplainedPlate& plate, int line, std::ostream& out) {
 }
 
 void WriteNoRow(const ExplainedPlate& plate, std::ostream& out) {
-  out << (plate.asked ? Say("  no rule row fits", "  没有符合的规则行")
-          : plate.explanation.RefusedRows().empty()
-              ? Say("  no rule row fits: the table has none", "  没有符合的规则行：表中没有规则行")
+  out << (plate.asked
+              ? Say("  no rule row fits", "  没有符合的规则行")
               : Say("  no rule row fits; the nearest first:", "  没有符合的规则行；最接近的排在最前："))
       << "\n";
 }
@@ -153,7 +153,7 @@ std::string RefusalText(const Refusal& refusal, const Plate& plate) {
   if (refusal.IsSize()) return SizeText(refusal);
   if (refusal.condition != Condition::kMaterial) return FacesText(refusal, plate);
   return Say("{0}: the body colour {1} is none of {2}", "{0}：体颜色 {1} 不在 {2} 之中",
-             ShownName(refusal.condition), plate.color, Joined(refusal.colors));
+             ShownName(refusal.condition), plate.color, ListOrNone(refusal.colors));
 }
 
 std::string FeatureText(ProcessRule::RuleType type, const std::string& process,
@@ -164,11 +164,10 @@ std::string FeatureText(ProcessRule::RuleType type, const std::string& process,
                                              : Say("the plate does not have it", "板没有此特征");
     case FedBy::kColors: {
       const auto colors = features.colors.find(type);
-      return Say("the plate has {}", "板上为 {}",
-                 colors == features.colors.end() ? Say("none", "无") : Joined(colors->second));
+      return HasText(colors == features.colors.end() ? std::vector<int>() : colors->second);
     }
     case FedBy::kDiameters:
-      return Say("the plate has {}", "板上为 {}", Joined(features.diameters));
+      return HasText(features.diameters);
     case FedBy::kCount:
       return features.holeCount ? Say("the plate has {}", "板上为 {}", *features.holeCount)
                                 : Say("nobody counted the holes", "没有给出孔数量");
@@ -183,7 +182,7 @@ std::string VerdictText(const ExplainedProcess& process, int line, const PlateFe
   const std::string feature = FeatureText(process.type, process.name, features);
   switch (process.verdict) {
     case ProcessVerdict::kWritten:
-      return Say("written: {} ({})", "写出：{}（{}）", OnOneLine(GbkToUtf8(process.cell)), feature);
+      return Say("written: {} ({})", "写出：{}（{}）", GbkToUtf8(process.cell), feature);
     case ProcessVerdict::kDoesNotApply:
       return Say("does not apply: {}", "不适用：{}", feature);
     case ProcessVerdict::kNoText:

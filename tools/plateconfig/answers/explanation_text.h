@@ -18,7 +18,8 @@ std::string RefusalText(const Refusal& refusal, const Plate& plate);
 std::string FeatureText(ProcessRule::RuleType type, const std::string& process,
                         const PlateFeatures& features);
 
-/// `written: …`, `does not apply: …` or `applies, but row 43 has no text for it`.
+/// `written: …`, `does not apply: …` or `applies, but row 43 has no text for it`. The text that is written is
+/// the cell as it stands, line breaks and all.
 std::string VerdictText(const ExplainedProcess& process, int line, const PlateFeatures& features);
 
 }  // namespace plateconfig

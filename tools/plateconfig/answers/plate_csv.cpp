@@ -26,28 +26,32 @@ std::string StatusText(PlateStatus status) {
 }
 
 /// What every row of a plate begins with.
-CsvCells Begin(const ExplainedPlate& plate) {
+CsvCells BeginOf(const ExplainedPlate& plate) {
   return {plate.input.name, plate.file, std::to_string(plate.input.position.line),
           LineText(plate.explanation.MatchedLine()), StatusText(plate.Status())};
+}
+
+/// A row whose last cells these are; as many cells as there are columns, whatever it has to say.
+CsvCells RowWith(const ExplainedPlate& plate, const CsvCells& cells) {
+  CsvCells row = BeginOf(plate);
+  row.insert(row.end(), cells.begin(), cells.end());
+  row.resize(ExplanationColumns().size());
+  return row;
 }
 
 CsvCells ProcessCells(const ExplainedPlate& plate, std::size_t i) {
   const ExplainedProcess& process = plate.explanation.Processes()[i];
   const PlateFeatures& features = plate.input.features;
-  CsvCells cells = Begin(plate);
-  cells.insert(cells.end(),
-               {GbkToUtf8(process.name), GbkToUtf8(plate.list[i].condition->text),
-                GbkToUtf8(plate.list[i].parameter), FeatureText(process.type, process.name, features),
-                VerdictText(process, *plate.explanation.MatchedLine(), features)});
-  return cells;
+  return RowWith(plate,
+                 {GbkToUtf8(process.name), GbkToUtf8(plate.list[i].condition->text),
+                  GbkToUtf8(plate.list[i].parameter), FeatureText(process.type, process.name, features),
+                  VerdictText(process, *plate.explanation.MatchedLine(), features)});
 }
 
 CsvCells RefusalCells(const ExplainedPlate& plate, int line, const Refusal& refusal) {
-  CsvCells cells = Begin(plate);
-  cells.insert(cells.end(), {Say("line {}", "第 {} 行", line),
-                             std::string(WordsOf(refusal.condition).In(CurrentLanguage())), "", "",
-                             RefusalText(refusal, plate.input.plate)});
-  return cells;
+  return RowWith(
+      plate, {Say("line {}", "第 {} 行", line), std::string(WordsOf(refusal.condition).In(CurrentLanguage())),
+              "", "", RefusalText(refusal, plate.input.plate)});
 }
 
 }  // namespace
@@ -75,7 +79,7 @@ std::vector<CsvCells> ExplanationCells(const ExplainedPlate& plate) {
   for (const RefusedRow& row : plate.ShownRows()) {
     for (const Refusal& refusal : row.refusals) rows.push_back(RefusalCells(plate, row.lineNumber, refusal));
   }
-  if (rows.empty()) rows.push_back(Begin(plate));
+  if (rows.empty()) rows.push_back(RowWith(plate, {}));
   return rows;
 }
 

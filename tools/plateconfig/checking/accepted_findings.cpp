@@ -14,6 +14,17 @@
 
 namespace plateconfig {
 
+namespace {
+
+/// False, for the caller to hand on.
+bool NoBaseline(const std::string& file, Reporter& reporter) {
+  reporter.Error({file}, Say("this file is no baseline of plateconfig check and stays as it is",
+                             "此文件不是 plateconfig check 的基线文件，保持不变"));
+  return false;
+}
+
+}  // namespace
+
 bool LeaveOutAccepted(const std::string& file, CheckReport& report, Reporter& reporter) {
   const std::optional<std::string> text = ReadAllBytes(PathFromUtf8(file));
   if (!text) {
@@ -21,6 +32,7 @@ bool LeaveOutAccepted(const std::string& file, CheckReport& report, Reporter& re
                                "无法读取此文件；--update-baseline 会写出它"));
     return false;
   }
+  if (!IsBaseline(*text)) return NoBaseline(file, reporter);
   const std::size_t found = report.findings.size();
   Comparison comparison = CompareWithBaseline(std::move(report.findings), ReadBaseline(*text));
   report.accepted = found - comparison.fresh.size();
@@ -33,6 +45,9 @@ bool LeaveOutAccepted(const std::string& file, CheckReport& report, Reporter& re
 }
 
 bool AcceptAll(const std::string& file, CheckReport& report, Reporter& reporter) {
+  const std::filesystem::path path = PathFromUtf8(file);
+  const std::optional<std::string> present = IsPipeOrDevice(path) ? std::nullopt : ReadAllBytes(path);
+  if (present && !IsBaseline(*present)) return NoBaseline(file, reporter);
   const std::vector<std::string> fingerprints = FingerprintsOf(report.findings);
   std::vector<AcceptedFinding> accepted;
   accepted.reserve(fingerprints.size());

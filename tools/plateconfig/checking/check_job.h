@@ -16,7 +16,7 @@ struct CheckJob {
   std::vector<std::string> plateFiles;
   std::vector<std::string> typeFiles;
   std::string format;
-  std::string failOn = "warning";
+  Severity failOn = Severity::kWarning;
   std::vector<std::string> only;
   std::vector<std::string> skip;
   std::vector<std::string> enable;

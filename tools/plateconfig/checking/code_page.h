@@ -8,6 +8,7 @@
 
 namespace plateconfig {
 
+/// The names of all codes, in the order of the table.
 std::vector<std::string> CodeNames();
 
 /// That there is no code of this name, and which was probably meant.

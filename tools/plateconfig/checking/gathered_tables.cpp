@@ -3,8 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "config/configuration_index.h"
-#include "plateconfig/tables/reported_index.h"
 #include "plateconfig/tables/reported_table.h"
 
 namespace plateconfig {
@@ -17,7 +15,7 @@ class Gathering {
 
   GatheredTables Run() {
     reporter_.CollectInto(&gathered_.wayThere);
-    if (options_.folder.empty() && !IsWithoutFolder()) GatherIndex();
+    reporter_.LookAtFiles();
     for (const RoleRow& role : ManifestRoles()) {
       if (!IsWithoutFolder() || options_.tables.contains(role.role)) Gather(role);
     }
@@ -29,13 +27,6 @@ class Gathering {
  private:
   /// Only the tables of the command line, when it names some and no folder.
   bool IsWithoutFolder() const { return options_.folder.empty() && !options_.tables.empty(); }
-
-  void GatherIndex() {
-    const auto root = RootThatIsSet();
-    if (!root) return;
-    RaiseIndexFindings(*root, ReadConfigurationIndex(*root),
-                       [this](Finding finding) { gathered_.wayThere.push_back(std::move(finding)); });
-  }
 
   void Gather(const RoleRow& role) {
     if (const auto file = configuration_.FindOptional(role.role)) {

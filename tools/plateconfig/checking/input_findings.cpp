@@ -22,7 +22,6 @@ const GivenTable* TableOf(Role role, const std::vector<GivenTable>& tables) {
 class InputCheck {
  public:
   InputCheck(const Streams& streams, Reporter& reporter) : streams_(streams), reporter_(reporter) {
-    reporter.LookAtFiles();
     reporter.CollectInto(&findings_);
   }
   ~InputCheck() { reporter_.CollectInto(nullptr); }
@@ -47,9 +46,12 @@ class InputCheck {
   std::vector<Finding> Findings() { return std::move(findings_); }
 
  private:
+  static void CheckHeader(PlateCheck& plates, const std::string& file) {
+    if (InputFileStream header(PathFromUtf8(file)); header) plates.CheckHeader(header, file);
+  }
+
   void CheckPlateFile(PlateCheck& plates, const std::string& file) {
-    if (InputFileStream header(PathFromUtf8(file)); header && !IsPipeOrDevice(PathFromUtf8(file)))
-      plates.CheckHeader(header, file);
+    if (file != "-" && !IsPipeOrDevice(PathFromUtf8(file))) CheckHeader(plates, file);
     const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
       return plates.Read(in, shownAs);
     };
@@ -82,11 +84,15 @@ class InputCheck {
 }  // namespace
 
 std::vector<Finding> InputFindings(const CheckJob& job, const std::vector<GivenTable>& tables,
-                                   bool areRulesReadable, const Streams& streams, Reporter& reporter) {
+                                   CheckReport& report, const Streams& streams, Reporter& reporter) {
   InputCheck check(streams, reporter);
   const GivenTable* const rules = TableOf(Role::kProcessRules, tables);
-  if (rules != nullptr && rules->table != nullptr && areRulesReadable)
+  if (rules != nullptr && rules->table != nullptr && report.ruleRows > 0) {
     check.CheckPlates(job.plateFiles, *rules, TableOf(Role::kProcessSettings, tables));
+  } else if (!job.plateFiles.empty()) {
+    report.incomplete.push_back({"the plates were not looked at: there is no rule row to evaluate them with",
+                                 "没有可用的规则行，因此未检查各板"});
+  }
   check.CheckHoleTypes(job.typeFiles);
   return check.Findings();
 }

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "analysis/checks/check_report.h"
 #include "analysis/checks/table_check.h"
 #include "analysis/findings/finding.h"
 #include "plateconfig/checking/check_job.h"
@@ -12,9 +13,9 @@
 
 namespace plateconfig {
 
-/// Reads plates and hole types and gives what is to be told of them, in the order in which it is met. Plates
-/// are evaluated when `areRulesReadable`: each would only repeat that they are not.
+/// Reads plates and hole types and gives what is to be told of them, in the order in which it is met. Without
+/// a rule row in the tables' `report` each plate would only repeat that; the report says so once instead.
 std::vector<Finding> InputFindings(const CheckJob& job, const std::vector<GivenTable>& tables,
-                                   bool areRulesReadable, const Streams& streams, Reporter& reporter);
+                                   CheckReport& report, const Streams& streams, Reporter& reporter);
 
 }  // namespace plateconfig

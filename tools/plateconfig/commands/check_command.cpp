@@ -39,12 +39,12 @@ class CheckRun {
     report_ = CheckConfiguration(gathered.tables, options_);
     report_.folder = gathered.folder;
     Put(std::move(gathered.wayThere), report_.findings.begin());
-    Put(InputFindings(job_, gathered.tables, report_.ruleRows > 0, context_.streams, context_.reporter),
+    Put(InputFindings(job_, gathered.tables, report_, context_.streams, context_.reporter),
         report_.findings.end());
     if (report_.unconfirmed.empty()) return Finish();
     context_.reporter.Error({"plateconfig"},
                             Say("internal error: a finding was not confirmed by the evaluation",
-                                "内部错误：有一项结论未得到求值确认"));
+                                "内部错误：有一项结论未得到计算的证实"));
   }
 
  private:
@@ -75,7 +75,9 @@ class CheckRun {
   void Finish() {
     if (!job_.baseline.empty() && !ApplyBaseline()) return;
     context_.streams.out << Text();
-    if (Fails()) context_.reporter.CountFinding();
+    const auto fails = [this](const Finding& finding) { return finding.code.Row().severity <= job_.failOn; };
+    if (std::any_of(report_.findings.begin(), report_.findings.end(), fails))
+      context_.reporter.CountFinding();
   }
 
   bool ApplyBaseline() {
@@ -88,6 +90,7 @@ class CheckRun {
     if (isJson) return Indented(ToJson(report_, CurrentLanguage()));
     if (job_.format == "sarif") return Indented(ToSarif(report_, CurrentLanguage()));
     std::ostringstream text;
+    text.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
     if (job_.format == "csv" || (job_.format.empty() && context_.format == Format::kCsv)) {
       WriteFindingsCsv(report_, text);
       return text.str();
@@ -98,15 +101,6 @@ class CheckRun {
 
   static std::string Indented(const Json& json) {
     return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
-  }
-
-  bool Fails() const {
-    const auto counts = [this](Severity severity) {
-      return job_.failOn == "hint" || severity == Severity::kError ||
-             (severity == Severity::kWarning && job_.failOn == "warning");
-    };
-    return std::any_of(report_.findings.begin(), report_.findings.end(),
-                       [&](const Finding& finding) { return counts(finding.code.Row().severity); });
   }
 
   const CheckJob& job_;
@@ -134,11 +128,6 @@ CLI::Validator Domain() {
                "“{}”不是尺寸及其范围；请写成 length=50_800 这样的形式", text);
   };
   return CLI::Validator(check, "");
-}
-std::vector<Role> AllRoles() {
-  std::vector<Role> roles;
-  for (const RoleRow& row : ManifestRoles()) roles.push_back(row.role);
-  return roles;
 }
 /// One of the codes; the list of them all is too long for a message.
 CLI::Validator KnownCode() {
@@ -173,12 +162,7 @@ void AddOutputOptions(CLI::App& command, CheckJob& job) {
                   Say("form of the report: text, json, sarif or csv", "报告格式：text、json、sarif 或 csv"))
       ->check(OneOf({"text", "json", "sarif", "csv"}))
       ->type_name("text|json|sarif|csv");
-  command
-      .add_option(
-          "--fail-on", job.failOn,
-          Say("exit code 1 from this severity on (default: warning)", "从此级别起返回值为 1（默认 warning）"))
-      ->check(OneOf({"error", "warning", "hint"}))
-      ->type_name("error|warning|hint");
+  AddFailOn(command, job.failOn);
 }
 
 void AddSelectionOptions(CLI::App& command, CheckJob& job) {
@@ -213,14 +197,14 @@ void AddSelectionOptions(CLI::App& command, CheckJob& job) {
 Run CheckVerbOptions(CLI::App& command) {
   const auto job = std::make_shared<CheckJob>();
   AddConfigurationOptions(command, AllRoles(), job->configuration);
-  AddFile(command, "--plates", job->plateFiles, Say("plates to evaluate", "要求值的板"));
+  AddFile(command, "--plates", job->plateFiles, Say("plates to evaluate", "要计算工艺文本的板"));
   AddFile(command, "--types", job->typeFiles, Say("hole types to look at", "要检查的孔类型"));
   AddOutputOptions(command, *job);
   AddSelectionOptions(command, *job);
   const Run run = WithOutput(command, [job](Context& context) { RunCheck(*job, context); });
   return [job, run](Context& context) {
     Context own = context;
-    if (job->format == "csv") own.format = Format::kCsv;
+    if (!job->format.empty()) own.format = job->format == "csv" ? Format::kCsv : Format::kText;
     run(own);
   };
 }

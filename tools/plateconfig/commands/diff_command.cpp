@@ -2,7 +2,7 @@
 #include <optional>
 #include <sstream>
 
-#include "config/table.h"
+#include "analysis/checks/table_check.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
@@ -10,7 +10,7 @@
 #include "plateconfig/output/difference_text.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/plates/plate_job.h"
-#include "platform/file.h"
+#include "plateconfig/tables/reported_table.h"
 
 namespace plateconfig {
 namespace {
@@ -32,18 +32,20 @@ class Side {
     TablePaths paths;
     for (const RoleRow& row : ManifestRoles()) {
       const std::optional<TableFile> file = configuration_.FindOptional(row.role);
-      if (file && IsReadable(*file)) paths[row.role] = file->hostPath;
+      if (file && IsReadable(row.role, *file)) paths[row.role] = file->hostPath;
     }
     return paths;
   }
 
  private:
-  bool IsReadable(const TableFile& file) {
-    if (Table::Read(file.hostPath)) return true;
-    reporter_.Error({file.shownAs}, FileExists(file.hostPath)
-                                        ? Say("this table can not be read", "无法读取此表")
-                                        : Say("this table does not exist", "此表不存在"));
-    return false;
+  /// What is wrong with the file as a whole is told: its columns and cells are not what a comparison is
+  /// about.
+  bool IsReadable(Role role, const TableFile& file) {
+    const GivenTable given = GivenFrom(role, file);
+    CheckFile(given, [this](const Finding& finding) {
+      if (finding.code.Row().severity != Severity::kHint) reporter_.Report(finding);
+    });
+    return given.table != nullptr;
   }
 
   ConfigurationOptions options_;
@@ -84,6 +86,7 @@ void ReportUnconfirmed(const RuleRegions& regions, Reporter& reporter) {
 std::string Written(const DifferenceReport& report, Format format) {
   if (format == Format::kJson) return JsonArray::ToText(ToJson(report)) + "\n";
   std::ostringstream out;
+  out.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
   WriteDifference(report, out);
   return out.str();
 }
@@ -127,8 +130,8 @@ Run DiffOptions(CLI::App& command) {
       ->check(NotEmpty());
   command
       .add_option("--limit", job->limit,
-                  Say("regions of a group of plates to list, the largest; 0 lists all; without it 10",
-                      "每组板列出的区域数，大者在前；0 表示全部；省略时为 10"))
+                  Say("regions of a group of plates to list, the largest; 0 lists all; without it {}",
+                      "每组板列出的区域数，大者在前；0 表示全部；省略时为 {}", job->limit))
       ->type_name("N")
       ->check(IsCount());
   return WithOutput(command, [job](Context& context) { RunDiff(*job, context); });

@@ -112,9 +112,11 @@ Run ExplainOptions(CLI::App& command) {
       ->type_name("N")
       ->check(IsCount());
   command
-      .add_option("--rows", job->view.rows,
-                  Say("at most so many rows that do not fit; 0 for all (default: 10, of a plate that fits 3)",
-                      "最多列出的不符合的行数；0 为全部（默认 10，有符合的行时为 3）"))
+      .add_option(
+          "--rows", job->view.rows,
+          Say("at most so many rows that do not fit; 0 for all (default: {}, of a plate that fits {})",
+              "最多列出的不符合的行数；0 为全部（默认 {}，有符合的行时为 {}）", kRowsWhenNoneFits,
+              kRowsWhenOneFits))
       ->type_name("N")
       ->check(IsCount());
   return WithOutput(command, [job](Context& context) { RunExplain(*job, context); });

@@ -103,6 +103,8 @@ class HoleLoop {
 void RunHoles(const HoleJob& job, Context& context) {
   context.reporter.FailOn(job.failOn);
   const std::vector<HoleTypeInput> types = ReadTypeFiles(job, context);
+  // Without a type every hole would only repeat that there is none.
+  if (types.empty() && context.reporter.Result() == kUnusable) return;
   HoleLoop loop(job, types, context);
   for (const std::string& file : job.files) loop.VisitFile(file);
   loop.Finish();

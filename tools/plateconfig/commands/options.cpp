@@ -1,7 +1,10 @@
 #include "plateconfig/commands/options.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <iterator>
 #include <memory>
+#include <sstream>
 #include <utility>
 
 #include "analysis/text/shown_text.h"
@@ -9,10 +12,14 @@
 #include "analysis/text/strict_values.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/csv_output.h"
+#include "plateconfig/output/json_output.h"
 #include "plateconfig/output/output_file.h"
+#include "plateconfig/system/file_kind.h"
 
 namespace plateconfig {
 namespace {
+
+constexpr const char* kOutputOption = "--output";
 
 struct OutputOptions {
   std::string file;  ///< UTF-8; empty is the standard output.
@@ -25,39 +32,85 @@ std::string NotInGbk(const GbkBuffer::Lost& lost) {
       "“{}”没有对应的 GBK（代码页 936）字符，因此不写出此文件；省略 -o 时 CSV 为 UTF-8", lost.character);
 }
 
-/// What `run` writes, on a stream of its own.
-void RunOn(std::ostream& out, const Run& run, Context& context) {
-  const Streams streams{context.streams.in, out, context.streams.err, context.streams.showsProgress};
-  Context inner{streams, context.reporter, context.format, &context.streams.out};
-  run(inner);
-  out.flush();
-}
+/// A run whose result goes into a file. The last line, which counts, is said once the file is written.
+class FileRun {
+ public:
+  FileRun(OutputFile& file, const std::string& name, Context& context)
+      : file_(file), name_(name), context_(context) {}
 
-/// False when a character is lost, which is reported.
-bool RunInGbk(OutputFile& file, const std::string& name, const Run& run, Context& context) {
-  GbkBuffer buffer(file.Stream());
-  std::ostream out(&buffer);
-  RunOn(out, run, context);
-  if (buffer.FirstLost())
-    context.reporter.Error({name, buffer.FirstLost()->line}, NotInGbk(*buffer.FirstLost()));
-  return !buffer.FirstLost();
-}
+  void Do(const Run& run) {
+    const bool isComplete = context_.format == Format::kCsv ? InGbk(run) : On(file_.Stream(), run);
+    if (!isComplete || (IsWithoutResult() && context_.reporter.Result() == kUnusable)) return;
+    if (file_.Finish(context_.reporter)) context_.streams.out << summary_.str();
+  }
+
+ private:
+  bool On(std::ostream& out, const Run& run) {
+    const Streams streams{context_.streams.in, out, context_.streams.err, context_.streams.showsProgress};
+    Context inner{streams, context_.reporter, context_.format, &summary_};
+    run(inner);
+    out.flush();
+    return true;
+  }
+
+  /// False when a character is lost, which is reported.
+  bool InGbk(const Run& run) {
+    GbkBuffer buffer(file_.Stream());
+    std::ostream out(&buffer);
+    out.exceptions(std::ios::badbit);  // No memory for a piece: a stream would go on without it.
+    On(out, run);
+    hasRows_ = buffer.Lines() > 1;
+    if (buffer.FirstLost())
+      context_.reporter.Error({name_, buffer.FirstLost()->line}, NotInGbk(*buffer.FirstLost()));
+    return !buffer.FirstLost();
+  }
+
+  /// Nothing, or only what stands around a result.
+  bool IsWithoutResult() {
+    const std::streamoff length = file_.Stream().tellp();
+    const bool isEmptyArray = context_.format == Format::kJson && length == std::ssize(JsonArray::kEmpty);
+    return length == 0 || isEmptyArray || (context_.format == Format::kCsv && !hasRows_);
+  }
+
+  OutputFile& file_;
+  const std::string& name_;
+  Context& context_;
+  std::ostringstream summary_;
+  bool hasRows_ = false;
+};
 
 void RunInto(const OutputOptions& options, const Run& run, Context& context) {
   const auto file = OutputFile::Open(options.file, options.force ? IfPresent::kReplace : IfPresent::kKeep,
                                      context.reporter);
-  if (!file) return;
-  if (context.format == Format::kCsv) {
-    if (!RunInGbk(*file, options.file, run, context)) return;
-  } else {
-    RunOn(file->Stream(), run, context);
+  if (file) FileRun(*file, options.file, context).Do(run);
+}
+
+/// Whether two paths lead to one file.
+bool IsSameFile(const std::string& path, const std::string& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(PathFromUtf8(path), PathFromUtf8(other), error) && !error;
+}
+
+/// Whether the file is one that another option or argument of the command names.
+bool IsInput(const std::string& file, const CLI::App& command) {
+  for (const CLI::Option* option : command.get_options()) {
+    if (option->check_name(kOutputOption)) continue;
+    const std::vector<std::string> values = option->results();
+    if (std::any_of(values.begin(), values.end(),
+                    [&](const std::string& value) { return IsSameFile(file, value); }))
+      return true;
   }
-  const bool isEmpty = file->Stream().tellp() == std::streampos(0);
-  if (isEmpty && context.reporter.Result() == kUnusable) return;
-  file->Finish(context.reporter);
+  return false;
 }
 
 }  // namespace
+
+std::vector<Role> AllRoles() {
+  std::vector<Role> roles(ManifestRoles().size());
+  std::transform(ManifestRoles().begin(), ManifestRoles().end(), roles.begin(),
+                 [](const RoleRow& row) { return row.role; });
+  return roles;
+}
 
 CLI::Validator OneOf(std::vector<std::string> values) {
   const auto check = [values = std::move(values)](std::string& value) -> std::string {
@@ -132,8 +185,11 @@ Run WithOutput(CLI::App& command, Run run) {
       ->check(NotEmpty())
       ->type_name(Say("FILE", "文件"));
   command.add_flag("--force", options->force, Say("replace a file that exists", "覆盖已有文件"));
-  return [options, run = std::move(run)](Context& context) {
-    options->file.empty() ? run(context) : RunInto(*options, run, context);
+  return [options, &command, run = std::move(run)](Context& context) {
+    if (options->file.empty()) return run(context);
+    if (!IsInput(options->file, command)) return RunInto(*options, run, context);
+    context.reporter.Error({options->file}, Say("this file is an input of this command and is not replaced",
+                                                "此文件是本命令的输入，不予覆盖"));
   };
 }
 

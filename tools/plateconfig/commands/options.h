@@ -24,6 +24,9 @@ CLI::Validator IsCount();
 /// Names as a message or a help text lists them.
 std::string Listed(const std::vector<std::string>& names);
 
+/// Every role that a manifest can name, in their order.
+std::vector<Role> AllRoles();
+
 /// Lists the roles that a verb takes below its options.
 void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
 
@@ -35,7 +38,8 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
 void AddFailOn(CLI::App& command, Severity& severity);
 
 /// Adds -o and --force: what `run` writes goes into the file, as CSV in GBK. Nothing is written when a text
-/// of it has no form in GBK, or when there is an error and no result.
+/// of it has no form in GBK, when there is an error and no result, or when the file is one that the command
+/// reads.
 Run WithOutput(CLI::App& command, Run run);
 
 /// The options of a verb that evaluates plates.

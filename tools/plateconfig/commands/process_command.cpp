@@ -18,7 +18,7 @@ namespace plateconfig {
 namespace {
 
 std::string WithoutText() {
-  return Say("no process of this row applies (plateconfig explain tells why)",
+  return Say("no process of this row is written (plateconfig explain tells why)",
              "此行没有写出工艺（用 plateconfig explain 查看原因）");
 }
 

@@ -29,8 +29,8 @@ void WriteText(const TableSchema& table, std::ostream& out) {
   for (const ColumnSchema& column : table.columns) {
     out << "  " << GbkToUtf8(column.column) << ": " << InWords(column.help);
     if (column.unit != Unit::kNone) out << " [" << InWords(WordsOf(column.unit)) << "]";
-    out << "; " << InWords(WordsOf(column.form));
-    if (!AbsentText(column).empty()) out << "; " << Say("when absent", "缺列时") << " " << AbsentText(column);
+    out << Say("; ", "；") << InWords(WordsOf(column.form));
+    if (!AbsentText(column).empty()) out << Say("; when absent {}", "；缺列时 {}", AbsentText(column));
     out << "\n";
   }
   out << "\n";
@@ -108,6 +108,7 @@ void WriteMarkdownHead(std::ostream& out) {
 
 std::string Written(const std::string& format) {
   std::ostringstream out;
+  out.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
   if (format == "json") {
     JsonArray array(out);
     for (const TableSchema& table : FullSchema()) {

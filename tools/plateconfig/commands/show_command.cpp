@@ -98,6 +98,7 @@ class ShowRun {
   }
 
   void Show() {
+    if (job_.configuration.tables.empty() && !IsFolderUsable()) return;
     for (const RoleRow& row : ManifestRoles()) {
       if (!IsWanted(job_, row.name)) continue;
       const std::optional<TableFile> file = configuration_.FindOptional(row.role);
@@ -107,6 +108,12 @@ class ShowRun {
   }
 
  private:
+  /// Of a folder that can not be used there is nothing but defaults to show.
+  bool IsFolderUsable() {
+    configuration_.FolderName();
+    return configuration_.IsUsable();
+  }
+
   inline static const std::vector<std::string> kColumns = {"用途", "文件", "列",  "序号",
                                                            "值",   "单位", "来源"};
 
@@ -159,12 +166,6 @@ class ShowRun {
 
 void RunShow(const ShowJob& job, Context& context) {
   ShowRun(job, context).Show();
-}
-
-std::vector<Role> AllRoles() {
-  std::vector<Role> roles;
-  for (const RoleRow& row : ManifestRoles()) roles.push_back(row.role);
-  return roles;
 }
 
 std::vector<std::string> AllNames() {

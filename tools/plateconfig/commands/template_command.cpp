@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <string>
 
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
@@ -10,6 +11,7 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/plates/plate_template.h"
 #include "plateconfig/tables/table_template.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
@@ -19,32 +21,41 @@ struct TemplateJob {
   ConfigurationOptions configuration;
 };
 
-void WritePlates(const TemplateJob& job, Context& context) {
-  if (const auto rules = LoadRules(job.configuration, context.reporter))
-    context.streams.out << PlateTemplate(rules->tables);
+std::string Plates(const TemplateJob& job, Context& context) {
+  const auto rules = LoadRules(job.configuration, context.reporter);
+  return rules ? PlateTemplate(rules->tables) : std::string();
 }
 
-void WriteHoles(const TemplateJob&, Context& context) {
-  context.streams.out << HoleTemplate();
+std::string Holes(const TemplateJob&, Context&) {
+  return HoleTemplate();
 }
 
-void WriteHoleTypes(const TemplateJob&, Context& context) {
-  context.streams.out << HoleTypeTemplate();
+std::string HoleTypes(const TemplateJob&, Context&) {
+  return HoleTypeTemplate();
 }
 
 /// What is no table of a configuration.
 struct InputTemplate {
   const char* name;
-  void (*write)(const TemplateJob& job, Context& context);
+  std::string (*make)(const TemplateJob& job, Context& context);
 };
-constexpr InputTemplate kInputs[] = {
-    {"plates", WritePlates}, {"holes", WriteHoles}, {"hole-types", WriteHoleTypes}};
+constexpr InputTemplate kInputs[] = {{"plates", Plates}, {"holes", Holes}, {"hole-types", HoleTypes}};
 
-void RunTemplate(const TemplateJob& job, Context& context) {
+std::string Template(const TemplateJob& job, Context& context) {
   const auto input = std::find_if(std::begin(kInputs), std::end(kInputs),
                                   [&](const InputTemplate& each) { return each.name == job.name; });
-  if (input != std::end(kInputs)) return input->write(job, context);
-  context.streams.out << TableTemplate(SchemaOf(*FindRole(job.name)));
+  return input != std::end(kInputs) ? input->make(job, context)
+                                    : TableTemplate(SchemaOf(*FindRole(job.name)));
+}
+
+/// A file gets the bytes of a table, GBK with CR LF; a terminal takes text.
+void RunTemplate(const TemplateJob& job, Context& context) {
+  std::string text = Template(job, context);
+  if (context.streams.isWatched) {
+    text = GbkToUtf8(text);
+    std::erase(text, '\r');
+  }
+  context.streams.out << text;
 }
 
 std::vector<std::string> TemplateNames() {

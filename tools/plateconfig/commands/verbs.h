@@ -2,9 +2,8 @@
 
 // The verbs of the companion, in the order in which the help lists them. To add one:
 //
-//   1. write commands/check_command.cpp with `Run CheckOptions(CLI::App& command)`: it describes the verb's
-//   options to
-//      the parser and gives what is to be done once they are read;
+//   1. write commands/count_command.cpp with `Run CountOptions(CLI::App& command)`: it describes the options
+//      to the parser and gives what is to be done once they are read;
 //   2. add its row to the table in verbs.cpp.
 
 #include <CLI/App.hpp>

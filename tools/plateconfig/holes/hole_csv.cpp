@@ -3,24 +3,23 @@
 
 #include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/holes/hole_output.h"
-#include "plateconfig/messages/language.h"
+#include "plateconfig/messages/shown_numbers.h"
 
 namespace plateconfig {
 namespace {
 
 using CellsOfRow = std::vector<std::string>;
 
-/// Ten digits: enough for every size, and too few for the noise of a subtraction.
-std::string Number(double value) {
-  return fmt::format("{:.10g}", value);
-}
-
 CellsOfRow HeadingCells(const HoleInput& input) {
   NXOpen::Point3d origin;
   double diameter = 0;
   HoleTypeInfo::GetCombHoleMaxDiameterAndOrigin(input.hole, &origin, &diameter);
-  return {input.name,       StructureKey(input.hole), Number(diameter),
-          Number(origin.X), Number(origin.Y),         Number(origin.Z)};
+  return {input.name,
+          StructureKey(input.hole),
+          ShownNumber(diameter),
+          ShownNumber(origin.X),
+          ShownNumber(origin.Y),
+          ShownNumber(origin.Z)};
 }
 
 }  // namespace
@@ -36,7 +35,8 @@ std::vector<CellsOfRow> HoleCells(const HoleInput& input, const HoleAnswer& answ
   for (std::size_t i = 0; i < answer.accepting.size(); ++i) {
     CellsOfRow cells = HeadingCells(input);
     const TypeVerdict& verdict = answer.accepting[i];
-    cells.insert(cells.end(), {verdict.type->name, Number(verdict.result.Accuracy()), i < tied ? "Y" : "N"});
+    cells.insert(cells.end(),
+                 {verdict.type->name, ShownNumber(verdict.result.Accuracy()), i < tied ? "Y" : "N"});
     rows.push_back(std::move(cells));
   }
   if (rows.empty()) {

@@ -14,8 +14,9 @@ namespace plateconfig {
 void WriteHoleText(const HoleInput& input, const HoleAnswer& answer, bool inFull, std::ostream& out);
 nlohmann::ordered_json HoleToJson(const HoleInput& input, const HoleAnswer& answer, bool inFull);
 
-/// The columns of a CSV result, and the rows of a hole: one for each type that accepts it, one without a type
-/// when none does.
+/// The columns of a CSV result, and the rows of a hole: one for each type that accepts it, the best first, or
+/// one whose type and score are empty cells when none does. Diameter and coordinates are in mm; the score is
+/// the accuracy of the classification; the last cell is Y for a type that shares the best score, else N.
 const std::vector<std::string>& HoleColumns();
 std::vector<std::vector<std::string>> HoleCells(const HoleInput& input, const HoleAnswer& answer);
 

@@ -4,20 +4,11 @@
 #include "plateconfig/holes/hole_output.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/screen_text.h"
+#include "plateconfig/messages/shown_numbers.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
-
-/// Ten digits: enough for every size, and too few for the noise of a subtraction.
-std::string Number(double value) {
-  return fmt::format("{:.10g}", value);
-}
-
-template <typename Item>
-std::string Joined(const std::vector<Item>& items) {
-  return items.empty() ? Say("nothing", "空列表") : fmt::format("{}", fmt::join(items, "_"));
-}
 
 /// What a list says about a value. `list` is null when there is none for this segment.
 template <typename Item>
@@ -25,7 +16,7 @@ std::string VerdictText(Verdict verdict, const std::vector<Item>* list) {
   if (verdict == Verdict::kExplicit) return Say("is listed", "已列出");
   if (verdict == Verdict::kWildcard) return Say("is accepted like any", "任意皆可");
   if (list == nullptr) return Say("has no list", "没有对应的列表");
-  return Say("is none of {}", "不在 {} 之中", Joined(*list));
+  return Say("is none of {}", "不在 {} 之中", list->empty() ? Say("nothing", "空列表") : ShownList(*list));
 }
 
 template <typename List>
@@ -40,7 +31,7 @@ std::string SegmentText(const CombHole& hole, const HoleTypeInfo& type, const Se
   return Say("{0} {1}: colour {2} {3}, diameter {4} {5}", "{0}第 {1} 段：颜色 {2} {3}，直径 {4} {5}",
              names.name.In(CurrentLanguage()), verdict.segment + 1, segment.color,
              VerdictText(verdict.color, ListOf(type.*group.colors, verdict.segment)),
-             Number(segment.diameter),
+             ShownNumber(segment.diameter),
              VerdictText(verdict.diameter, ListOf(type.*group.diameters, verdict.segment)));
 }
 
@@ -50,14 +41,14 @@ void WriteHeading(const HoleInput& input, std::ostream& out) {
   HoleTypeInfo::GetCombHoleMaxDiameterAndOrigin(input.hole, &origin, &diameter);
   out << OnOneLine(input.name)
       << Say(": structure {}, largest diameter {} mm, at {}, {}, {}",
-             "：结构 {}，最大直径 {} mm，位置 {}, {}, {}", StructureKey(input.hole), Number(diameter),
-             Number(origin.X), Number(origin.Y), Number(origin.Z))
+             "：结构 {}，最大直径 {} mm，位置 {}, {}, {}", StructureKey(input.hole), ShownNumber(diameter),
+             ShownNumber(origin.X), ShownNumber(origin.Y), ShownNumber(origin.Z))
       << "\n";
 }
 
 void WriteType(const HoleInput& input, const TypeVerdict& verdict, const std::string& remark, bool inFull,
                std::ostream& out) {
-  out << fmt::format("  {:>5}  ", Number(verdict.result.Accuracy())) << OnOneLine(verdict.type->name)
+  out << fmt::format("  {:>5}  ", ShownNumber(verdict.result.Accuracy())) << OnOneLine(verdict.type->name)
       << remark << "\n";
   if (!inFull) return;
   for (const SegmentVerdict& segment : verdict.segments) {

@@ -1,5 +1,6 @@
 #include "plateconfig/holes/hole_type_reader.h"
 
+#include <array>
 #include <map>
 #include <optional>
 #include <utility>
@@ -14,7 +15,11 @@
 namespace plateconfig {
 namespace {
 
-constexpr int kLastColor = 216;
+/// The types that have segments of a group.
+struct GroupUse {
+  std::size_t types = 0;
+  std::size_t withoutDiameters = 0;
+};
 
 /// Warns of types that can not accept any hole, or others than it looks.
 class TypeCheck {
@@ -24,6 +29,7 @@ class TypeCheck {
       : file_(file), hasColumns_(hasColumns), types_(types), reporter_(reporter) {}
 
   void Run() {
+    CountUses();
     for (const HoleTypeInput& type : types_) {
       CheckName(type);
       const std::vector<std::size_t> counts = SegmentCounts(type.type.countKey);
@@ -36,6 +42,17 @@ class TypeCheck {
   }
 
  private:
+  void CountUses() {
+    for (const HoleTypeInput& input : types_) {
+      const std::vector<std::size_t> counts = SegmentCounts(input.type.countKey);
+      for (std::size_t group = 0; group < counts.size(); ++group) {
+        if (counts[group] == 0) continue;
+        ++uses_[group].types;
+        if ((input.type.*kHoleGroups[group].diameters).empty()) ++uses_[group].withoutDiameters;
+      }
+    }
+  }
+
   void CheckName(const HoleTypeInput& input) {
     const auto [first, isNew] = lines_.emplace(input.name, input.position.line);
     if (!isNew) {
@@ -61,7 +78,7 @@ class TypeCheck {
     CheckColors(input, names, colors);
     if (segments == 0 && !colors.empty()) ReportUnused(input, names, names.colors);
     if (segments == 0 && !diameters.empty()) ReportUnused(input, names, names.diameters);
-    if (segments > 0 && diameters.empty() && IsListedElsewhere(group, input)) {
+    if (segments > 0 && diameters.empty() && IsTheOnlyOpenOne(group)) {
       Report({.code = "hole-type-no-diameters",
               .columnName = ColumnName(names.diameters),
               .words = {ShownText(input.name), names.name}},
@@ -90,17 +107,11 @@ class TypeCheck {
            input);
   }
 
-  /// Whether every other type with segments of the group has diameters for them; among few nothing is usual.
-  bool IsListedElsewhere(std::size_t group, const HoleTypeInput& input) const {
+  /// Whether all types with segments of the group have diameters for them but one; among few nothing is
+  /// usual.
+  bool IsTheOnlyOpenOne(std::size_t group) const {
     constexpr std::size_t kFew = 3;
-    std::size_t others = 0;
-    for (const HoleTypeInput& each : types_) {
-      const std::vector<std::size_t> counts = SegmentCounts(each.type.countKey);
-      if (&each == &input || counts.empty() || counts[group] == 0) continue;
-      if ((each.type.*kHoleGroups[group].diameters).empty()) return false;
-      ++others;
-    }
-    return others >= kFew;
+    return uses_[group].withoutDiameters == 1 && uses_[group].types > kFew;
   }
 
   std::string ColumnName(const FieldNames& names) const {
@@ -116,6 +127,7 @@ class TypeCheck {
   bool hasColumns_;
   const std::vector<HoleTypeInput>& types_;
   Reporter& reporter_;
+  std::array<GroupUse, kHoleGroupCount> uses_{};
   std::map<std::string, std::size_t> lines_;  ///< Of the first type of each name.
 };
 

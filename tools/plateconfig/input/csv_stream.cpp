@@ -12,8 +12,6 @@
 namespace plateconfig {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // A quote that is never closed would swallow the rest of the file.
 constexpr std::size_t kLargestQuotedRow = std::size_t{1} << 20;
 
@@ -32,6 +30,11 @@ std::optional<Code> NoTable(std::string_view line) {
   const std::size_t end = line.find('\r');
   const bool isOneLine = line.find('\n') == kNone && end != kNone && end + 1 < line.size();
   return isOneLine ? std::optional<Code>(Code("input-line-ends")) : std::nullopt;
+}
+
+bool IsAscii(std::string_view bytes) {
+  return std::all_of(bytes.begin(), bytes.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
 bool HasOpenQuote(std::string_view row, std::size_t cell) {
@@ -77,7 +80,6 @@ const CsvRow* CsvStream::ReadHeader() {
     Report({.code = *code}, {});
     return nullptr;
   }
-  if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
   if (!TurnIntoUtf8()) {
     Report({.code = "input-header-encoding"}, {1, 1});
     return nullptr;
@@ -161,6 +163,10 @@ void CsvStream::GiveUp(std::size_t quote) {
 
 /// False for a row that is not in the file's encoding.
 bool CsvStream::TurnIntoUtf8() {
+  if (!isDecided_ && !IsAscii(bytes_)) {
+    isDecided_ = true;
+    if (!IsValidUtf8(bytes_)) encoding_ = Encoding::kGbk;
+  }
   if (encoding_ == Encoding::kUtf8) return IsValidUtf8(bytes_);
   std::optional<std::string> utf8 = TryGbkToUtf8(bytes_);
   if (utf8) bytes_ = std::move(*utf8);

@@ -1,9 +1,9 @@
 #pragma once
 
-// The rows of a long comma-separated file, one at a time, in GBK or UTF-8. The header decides which of the
-// two it is, by strict decoding: UTF-8 when all of it is well-formed UTF-8 (with or without byte order mark),
-// else GBK when all of it is code page 936. Every later row must decode the same way; one that does not is
-// reported and passed over.
+// The rows of a long comma-separated file, one at a time, in GBK or UTF-8. The first row with more than
+// ASCII, which mostly is the header, decides which of the two it is, by strict decoding: UTF-8 when all of it
+// is well-formed UTF-8 (with or without byte order mark), else GBK when all of it is code page 936. Every
+// later row must decode the same way; one that does not is reported and passed over.
 
 #include <cstddef>
 #include <deque>
@@ -64,6 +64,7 @@ class CsvStream {
   Reporter& reporter_;
   std::deque<std::string> pending_;  ///< Lines that were read ahead and not used.
   Encoding encoding_ = Encoding::kUtf8;
+  bool isDecided_ = false;   ///< The encoding is known: a row had more than ASCII.
   std::size_t line_ = 0;     ///< Lines taken so far.
   std::string bytes_;        ///< Of the latest row; what its cells show.
   std::size_t rowLine_ = 0;  ///< The line on which it begins.

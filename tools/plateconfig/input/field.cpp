@@ -24,6 +24,14 @@ CellVerdict ReadLists(std::string_view cell, std::vector<std::vector<Item>>& lis
   return std::nullopt;
 }
 
+/// A whole number, also as a program writes it that knows no others than 12.0.
+std::optional<int> WholeNumber(std::string_view text) {
+  const std::size_t point = text.find('.');
+  const bool isWhole = point != std::string_view::npos && point + 1 < text.size() && StrictNumber(text) &&
+                       text.find_first_not_of('0', point + 1) == std::string_view::npos;
+  return StrictInteger(isWhole ? text.substr(0, point) : text);
+}
+
 }  // namespace
 
 CellVerdict ReadCell(std::string_view text, bool& value) {
@@ -37,7 +45,7 @@ CellVerdict ReadCell(std::string_view text, double& value) {
 }
 
 CellVerdict ReadCell(std::string_view text, int& value) {
-  CellVerdict mistake = Store(StrictInteger(text), text, "input-not-integer", value);
+  CellVerdict mistake = Store(WholeNumber(text), text, "input-not-integer", value);
   if (mistake && IsIntegerOutOfRange(text)) mistake->code = "input-integer-range";
   return mistake;
 }

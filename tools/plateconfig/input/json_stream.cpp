@@ -1,5 +1,6 @@
 #include "plateconfig/input/json_stream.h"
 
+#include "analysis/text/file_form.h"
 #include "plateconfig/input/json_slip.h"
 #include "text/gbk.h"
 
@@ -59,7 +60,6 @@ void JsonStream::GiveUp(Code code, Position position) {
 }
 
 void JsonStream::SkipByteOrderMark() {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   std::size_t taken = 0;
   while (taken < kByteOrderMark.size() && Peek() == static_cast<unsigned char>(kByteOrderMark[taken])) {
     in_.get();

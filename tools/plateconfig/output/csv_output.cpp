@@ -2,16 +2,12 @@
 
 #include <algorithm>
 
+#include "analysis/text/file_form.h"
 #include "analysis/text/table_text.h"
 #include "text/gbk.h"
 #include "text/utf8_decode.h"
 
 namespace plateconfig {
-namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
 
 CsvOutput::CsvOutput(std::ostream& out, const std::vector<std::string>& header) : out_(out) {
   out_ << kByteOrderMark;
@@ -39,7 +35,6 @@ void GbkBuffer::Take(std::string_view utf8) {
 }
 
 void GbkBuffer::TakeCharacter(std::string_view utf8) {
-  if (utf8 == kByteOrderMark) return;
   if (utf8 == "\n") ++line_;
   const auto gbk = TryUtf8ToGbk(utf8);
   if (gbk) out_ << *gbk;

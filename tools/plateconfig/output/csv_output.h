@@ -26,7 +26,7 @@ class CsvOutput {
   std::ostream& out_;
 };
 
-/// Turns what is written in UTF-8 into GBK, without a byte order mark. A character that GBK lacks is
+/// Turns what is written in UTF-8 into GBK. A character that GBK lacks is
 /// remembered, and nothing of the result may then be used.
 class GbkBuffer : public Utf8StreamBuffer {
  public:
@@ -39,6 +39,8 @@ class GbkBuffer : public Utf8StreamBuffer {
   };
   /// The first character without a form in GBK.
   const std::optional<Lost>& FirstLost() const { return lost_; }
+  /// How many lines were ended so far.
+  std::size_t Lines() const { return line_ - 1; }
 
  private:
   void Take(std::string_view utf8);

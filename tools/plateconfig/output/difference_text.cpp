@@ -4,6 +4,8 @@
 
 #include "analysis/checks/rule_values.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
+#include "plateconfig/messages/shown_numbers.h"
 #include "plateconfig/output/setting_value.h"
 #include "text/gbk.h"
 
@@ -58,7 +60,7 @@ std::string Marked(const Pieces& pieces, const std::string& connectText) {
     const std::string piece = OneLine(pieces.texts[i]);
     text += pieces.isCommon[i] || piece.empty() ? piece : "【" + piece + "】";
   }
-  return text.empty() ? Say("no process of this row applies", "此行没有适用的工艺") : text;
+  return text.empty() ? Say("no process of this row is written", "此行没有写出工艺") : text;
 }
 
 std::string Line(const PlateText& text, const std::string& marked) {
@@ -157,7 +159,7 @@ class Writer {
     if (report_.plates.empty()) return;
     BeginPart(Say("plates, with what changed in 【】", "板，【】中为有变化的工艺"));
     for (const ChangedPlate& plate : report_.plates) {
-      out_ << "  " << plate.name << "\n";
+      out_ << "  " << OnOneLine(plate.name) << "\n";
       WriteTexts(plate.texts);
     }
   }
@@ -181,9 +183,6 @@ class Writer {
     }
   }
 
-  /// Ten digits: enough for every bound, and too few to show the next number beside one.
-  static std::string Number(double value) { return fmt::format("{:.10g}", value); }
-
   /// The sizes in which the box does not hold all that an empty cell accepts.
   static std::string SizesText(const Box& box) {
     std::string text;
@@ -197,23 +196,19 @@ class Writer {
 
   static std::string RangeText(const Interval& interval) {
     return interval.high >= kUnboundedMaximum
-               ? Say("from {}", "{} 以上", Number(interval.low))
-               : Say("{} to {}", "{} 到 {}", Number(interval.low), Number(interval.high));
+               ? Say("from {}", "{} 以上", ShownNumber(interval.low))
+               : Say("{} to {}", "{} 到 {}", ShownNumber(interval.low), ShownNumber(interval.high));
   }
 
   static std::string ExampleText(const RuleRegion& region) {
     const Plate& plate = region.witness;
     const std::string features = FeaturesText(region.features);
     return Say("such as {} x {} x {} mm, weight {}, body colour {}",
-               "例如 {} x {} x {} mm，重量 {}，体颜色 {}", Number(plate.length), Number(plate.width),
-               Number(plate.height), Number(plate.weight), plate.color) +
+               "例如 {} x {} x {} mm，重量 {}，体颜色 {}", ShownNumber(plate.length),
+               ShownNumber(plate.width), ShownNumber(plate.height), ShownNumber(plate.weight), plate.color) +
            (plate.faceColors.empty() ? ""
-                                     : Say(", face colours {}", "，面颜色 {}", Joined(plate.faceColors))) +
+                                     : Say(", face colours {}", "，面颜色 {}", ShownList(plate.faceColors))) +
            (features.empty() ? "" : Say(", with {}", "，有 {}", features));
-  }
-
-  static std::string Joined(const std::vector<int>& colors) {
-    return fmt::format("{}", fmt::join(colors, "_"));
   }
 
   static std::string FeaturesText(const PlateFeatures& features) {
@@ -221,12 +216,11 @@ class Writer {
     for (const std::string& process : features.customProcesses) texts.push_back(OneLine(process));
     for (const auto type : features.present) texts.push_back(FeatureName(type));
     for (const auto& [type, colors] : features.colors)
-      texts.push_back(FeatureName(type) + " " + Joined(colors));
+      texts.push_back(FeatureName(type) + " " + ShownList(colors));
     if (!features.diameters.empty())
-      texts.push_back(FeatureName(ProcessRule::RoundHoleDiameter) + " " +
-                      fmt::format("{}", fmt::join(features.diameters, "_")));
+      texts.push_back(FeatureName(ProcessRule::RoundHoleDiameter) + " " + ShownList(features.diameters));
     if (features.holeCount) texts.push_back(fmt::format("{} {}", kHoleCountName, *features.holeCount));
-    return fmt::format("{}", fmt::join(texts, ", "));
+    return fmt::format("{}", fmt::join(texts, Say(", ", "、")));
   }
 
   const DifferenceReport& report_;

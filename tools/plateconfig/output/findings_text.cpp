@@ -7,6 +7,7 @@
 #include "analysis/findings/sentence.h"
 #include "analysis/text/shown_text.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/messages/screen_text.h"
 
 namespace plateconfig {
 namespace {
@@ -20,32 +21,20 @@ std::string Where(const Finding& finding) {
   return finding.place.line == 0 ? "" : Say("line {}", "第 {} 行", finding.place.line);
 }
 
-/// What to write instead, and what the text counts as until then.
+/// What to write instead; empty when nothing can be said.
 std::string Remedy(const Finding& finding) {
-  std::string text;
-  if (finding.fix && !finding.fix->empty()) {
-    text = Say("write \"{}\"", "请写“{}”", ShownText(*finding.fix));
-  } else {
-    text = AdviceOf(finding, CurrentLanguage());
-  }
-  return text;
-}
-
-/// What a text counts as, where the message does not say it.
-std::string UsedAs(const Finding& finding) {
-  const bool isSaid = finding.code.Row().message.english.find("{usedAs}") != std::string_view::npos;
-  if (!finding.usedAs || isSaid) return {};
-  return finding.usedAs->empty() ? Say("; it counts as an empty cell", "；视为空单元格")
-                                 : Say("; it is read as {}", "；读作 {}", ShownText(*finding.usedAs));
+  if (finding.fix && !finding.fix->empty()) return Say("write \"{}\"", "请写“{}”", ShownText(*finding.fix));
+  return AdviceOf(finding, CurrentLanguage());
 }
 
 void WriteFinding(const Finding& finding, std::ostream& out) {
   const std::string where = Where(finding);
   out << "  " << where << (where.empty() ? "" : "  ")
       << WordsOf(finding.code.Row().severity).In(CurrentLanguage()) << ": "
-      << MessageOf(finding, CurrentLanguage()) << UsedAs(finding) << "  [" << finding.code.Name() << "]\n";
+      << OnOneLine(MessageOf(finding, CurrentLanguage())) << UsedAsOf(finding, CurrentLanguage()) << "  ["
+      << finding.code.Name() << "]\n";
   const std::string remedy = Remedy(finding);
-  if (!remedy.empty()) out << "      " << remedy << "\n";
+  if (!remedy.empty()) out << "      " << OnOneLine(remedy) << "\n";
 }
 
 /// Counts what is written of a file, so that one kind of finding does not hide the others.
@@ -68,7 +57,7 @@ class Written {
 
 /// Writes the findings of one file; `end` is behind the last one.
 void WriteFile(const Finding* begin, const Finding* end, std::ostream& out) {
-  out << begin->place.file << "\n";
+  out << OnOneLine(begin->place.file) << "\n";
   Written written;
   for (const Finding* finding = begin; finding != end; ++finding) {
     if (written.Takes(*finding)) WriteFinding(*finding, out);
@@ -102,7 +91,7 @@ std::string NothingFound(const CheckReport& report) {
 void WriteTables(const CheckReport& report, std::ostream& out) {
   out << NothingFound(report) << "\n";
   for (const CheckedTable& table : report.tables)
-    out << "  " << table.file << Say("  {} rows", "  {} 行", table.rows) << "\n";
+    out << "  " << OnOneLine(table.file) << Say("  {} rows", "  {} 行", table.rows) << "\n";
   out << "\n";
 }
 
@@ -117,7 +106,7 @@ void WriteFindings(const CheckReport& report, std::ostream& out) {
     at = next;
   }
   if (report.findings.empty()) WriteTables(report, out);
-  for (const Word& text : report.incomplete) out << text.In(CurrentLanguage()) << "\n";
+  for (const Word& text : report.incomplete) out << OnOneLine(text.In(CurrentLanguage())) << "\n";
   WriteSummary(report, out);
 }
 

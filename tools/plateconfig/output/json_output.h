@@ -3,14 +3,18 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace plateconfig {
 
 /// Writes a JSON array element by element, one a line, so that a long one needs no memory.
 class JsonArray {
  public:
+  /// What is written when there is no element.
+  static constexpr std::string_view kEmpty = "[]\n";
+
   explicit JsonArray(std::ostream& out) : out_(out) {}
-  ~JsonArray() { out_ << (isEmpty_ ? "[]\n" : "\n]\n"); }
+  ~JsonArray() { out_ << (isEmpty_ ? kEmpty : "\n]\n"); }
   JsonArray(const JsonArray&) = delete;
   JsonArray& operator=(const JsonArray&) = delete;
 

@@ -20,11 +20,21 @@ fs::path TemporaryNameFor(fs::path path) {
   return path;
 }
 
-/// The file behind a symbolic link, so that the link stays one; the path itself when it is none.
+/// The file behind a symbolic link, so that the link stays one, also where that file is still to be made; the
+/// path itself when it is none.
 fs::path BehindLinks(const fs::path& path) {
   std::error_code error;
   const fs::path target = fs::canonical(path, error);
-  return error ? path : target;
+  if (!error) return target;
+  const fs::path next = fs::read_symlink(path, error);
+  return error ? path : path.parent_path() / next;
+}
+
+/// Gives the new file the rights of the one that it replaces.
+void KeepRights(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  const fs::file_status status = fs::status(from, error);
+  if (!error && fs::exists(status)) fs::permissions(to, status.permissions(), error);
 }
 
 /// False, with an error reported, when nothing may be written there.
@@ -94,6 +104,7 @@ std::ostream& OutputFile::Stream() {
 bool OutputFile::Finish(Reporter& reporter) {
   if (!place_->stream.Close()) return CanNotBeWritten(path_, reporter);
   if (place_->temporary.empty()) return true;
+  KeepRights(place_->target, place_->temporary);
   if (RenameFile(place_->temporary, place_->target)) return CanNotBeWritten(path_, reporter);
   place_->temporary.clear();
   return true;

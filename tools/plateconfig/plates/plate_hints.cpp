@@ -1,12 +1,11 @@
 #include "plateconfig/plates/plate_hints.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <iterator>
 #include <optional>
 
 #include "analysis/checks/rule_values.h"
+#include "plateconfig/messages/shown_numbers.h"
 #include "rules/rule_table_keys.h"
 #include "text/gbk.h"
 
@@ -46,20 +45,15 @@ struct Contradiction {
   std::string value;
 };
 
-template <typename Item>
-std::string Joined(const std::vector<Item>& items) {
-  return fmt::format("{}", fmt::join(items, "_"));
-}
-
 std::optional<Contradiction> ColorsOf(ProcessRule::RuleType type, const PlateFeatures& features) {
   const auto colors = features.colors.find(type);
   if (colors == features.colors.end() || colors->second.empty()) return std::nullopt;
-  return Contradiction{FeatureName(type), Joined(colors->second)};
+  return Contradiction{FeatureName(type), ShownList(colors->second)};
 }
 
 std::optional<Contradiction> HolesOf(const PlateFeatures& features) {
   if (!features.diameters.empty())
-    return Contradiction{FeatureName(ProcessRule::RoundHoleDiameter), Joined(features.diameters)};
+    return Contradiction{FeatureName(ProcessRule::RoundHoleDiameter), ShownList(features.diameters)};
   if (features.holeCount.value_or(0) > 0)
     return Contradiction{std::string(kHoleCountName), std::to_string(*features.holeCount)};
   return std::nullopt;

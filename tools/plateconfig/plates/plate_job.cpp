@@ -69,6 +69,13 @@ class PlateLoop {
   const PlateVisitor& visit_;
 };
 
+/// Of a table that can not be read that is told already.
+void ReportNoRules(Reporter& reporter) {
+  if (reporter.Result() == kUnusable) return;
+  reporter.Error({"plateconfig"}, Say("the rule table has no rule row, so no plate is looked at",
+                                      "规则表没有规则行，因此不计算任何板"));
+}
+
 }  // namespace
 
 std::optional<LoadedRules> LoadRules(const ConfigurationOptions& options, Reporter& reporter) {
@@ -102,6 +109,7 @@ void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabular
 
 void VisitPlates(const PlateJob& job, const RuleTables& tables, const Streams& streams, Reporter& reporter,
                  const PlateVisitor& visit) {
+  if (tables.ruleRows.empty()) return ReportNoRules(reporter);
   PlateLoop loop(job, tables, reporter, visit);
   const auto read = [&](std::istream& in, const std::string& shownAs, Progress& progress) {
     return loop.Read(in, shownAs, progress);

@@ -45,7 +45,8 @@ void VisitPlateFiles(const std::vector<std::string>& files, const PlateVocabular
                      const Streams& streams, Reporter& reporter,
                      const std::function<void(const PlateInput& plate)>& visit);
 
-/// Visits the plates of a job that are wanted. Mistakes of other plates are not told.
+/// Visits the plates of a job that are wanted. Mistakes of other plates are not told. Without a rule row no
+/// plate is visited, which is an error: each of them would only repeat it.
 void VisitPlates(const PlateJob& job, const RuleTables& tables, const Streams& streams, Reporter& reporter,
                  const PlateVisitor& visit);
 

@@ -4,12 +4,12 @@
 #include <map>
 #include <vector>
 
-#include <fmt/format.h>
-
 #include "analysis/rules/explanation.h"
 #include "analysis/rules/witness.h"
 #include "analysis/text/table_text.h"
 #include "config/numbers.h"
+#include "config/text_helpers.h"
+#include "plateconfig/messages/shown_numbers.h"
 #include "plateconfig/plates/plate_fields.h"
 #include "rules/condition_texts.h"
 #include "text/gbk.h"
@@ -23,17 +23,24 @@ struct Sample {
   std::string cell;
 };
 
-std::string Joined(const std::vector<int>& colors) {
-  std::string text;
-  for (const int color : colors) text += (text.empty() ? "" : "_") + std::to_string(color);
-  return text;
-}
-
 /// A size that the range accepts, or `otherwise` where it accepts none.
-std::string SizeIn(const SizeRange& range, double otherwise) {
+double SizeIn(const SizeRange& range, double otherwise) {
   const bool isOpen = range == SizeRange();
   const double size = isOpen ? otherwise : RoundNumber({range.minimum, range.maximum});
-  return fmt::format("{:.10g}", range.Accepts(size) ? size : otherwise);
+  return range.Accepts(size) ? size : otherwise;
+}
+
+struct PlateSizes {
+  double length;
+  double width;
+  double height;
+};
+
+/// That of solid steel in kg, unless the row wants another one.
+double WeightIn(const SizeRange& range, const PlateSizes& sizes) {
+  constexpr double kSteel = 7.85e-6;  // kg/mm³
+  const double weight = sizes.length * sizes.width * sizes.height * kSteel;
+  return range.Accepts(weight) ? weight : SizeIn(range, weight);
 }
 
 /// The first colour that stands for each wish of the row.
@@ -55,14 +62,15 @@ int BodyColor(const RuleTables& tables, const RuleRow& row) {
 /// The cells of the columns that every plate has.
 std::map<std::string, std::string> BaseCells(const RuleTables& tables) {
   const RuleRow row = tables.ruleRows.empty() ? RuleRow() : tables.ruleRows.front();
+  const PlateSizes sizes = {SizeIn(row.length, 400), SizeIn(row.width, 300), SizeIn(row.height, 50)};
   return {{"名称", "示例板"},
-          {"长度", SizeIn(row.length, 400)},
-          {"宽度", SizeIn(row.width, 300)},
-          {"厚度", SizeIn(row.height, 50)},
-          {"重量", SizeIn(row.weight, 47.1)},
+          {"长度", ShownNumber(sizes.length)},
+          {"宽度", ShownNumber(sizes.width)},
+          {"厚度", ShownNumber(sizes.height)},
+          {"重量", ShownNumber(WeightIn(row.weight, sizes))},
           {"图层", std::to_string(row.layer)},
           {"体颜色", std::to_string(BodyColor(tables, row))},
-          {"面颜色", Joined(FaceColors(tables, row))}};
+          {"面颜色", ShownList(FaceColors(tables, row))}};
 }
 
 /// Required columns first.
@@ -81,6 +89,13 @@ std::vector<Sample> BaseColumns(const RuleTables& tables) {
   return samples;
 }
 
+/// How many holes a condition on their number wants.
+int HoleCount(const ProcessRow& row) {
+  const int count = std::max(0, ParseInt(row.parameter));
+  const bool isBelow = row.condition->type == ProcessRule::HoleCountBelow;
+  return isBelow && count > 0 ? count - 1 : count;
+}
+
 /// With the condition's own parameter as the cell the process applies; of a count below it, one less does.
 Sample FeatureColumn(const ProcessRow& row) {
   const std::string parameter = GbkToUtf8(row.parameter);
@@ -91,25 +106,42 @@ Sample FeatureColumn(const ProcessRow& row) {
     case FedBy::kDiameters:
       return {GbkToUtf8(row.condition->text), parameter};
     case FedBy::kCount:
-      return {std::string(kHoleCountName),
-              std::to_string(std::max(0, ParseInt(row.parameter) -
-                                             (row.condition->type == ProcessRule::HoleCountBelow ? 1 : 0)))};
+      return {std::string(kHoleCountName), std::to_string(HoleCount(row))};
     case FedBy::kByHand:
       break;
   }
   return {GbkToUtf8(row.name), "Y"};
 }
 
+bool HoldsList(const ProcessRow& row) {
+  const FedBy fedBy = FedByOf(row.condition->type);
+  return fedBy == FedBy::kColors || fedBy == FedBy::kDiameters;
+}
+
+/// The numbers of both cells, each once.
+std::string Merged(const std::string& cell, const std::string& other) {
+  std::vector<std::string> numbers = SplitString(cell, "_");
+  for (const std::string& number : SplitString(other, "_")) {
+    if (std::find(numbers.begin(), numbers.end(), number) == numbers.end()) numbers.push_back(number);
+  }
+  return ShownList(numbers);
+}
+
+/// Several processes may look at one column: a list takes the numbers of them all, of other cells the first
+/// process decides.
+void AddFeature(const ProcessRow& row, std::vector<Sample>& samples) {
+  Sample sample = FeatureColumn(row);
+  const auto known = std::find_if(samples.begin(), samples.end(),
+                                  [&](const Sample& each) { return each.column == sample.column; });
+  if (known == samples.end()) return samples.push_back(std::move(sample));
+  if (HoldsList(row)) known->cell = Merged(known->cell, sample.cell);
+}
+
 }  // namespace
 
 std::string PlateTemplate(const RuleTables& tables) {
   std::vector<Sample> samples = BaseColumns(tables);
-  for (const ProcessRow& row : ProcessListOf(tables)) {
-    Sample sample = FeatureColumn(row);
-    const bool isNew = std::none_of(samples.begin(), samples.end(),
-                                    [&](const Sample& each) { return each.column == sample.column; });
-    if (isNew) samples.push_back(std::move(sample));
-  }
+  for (const ProcessRow& row : ProcessListOf(tables)) AddFeature(row, samples);
   std::vector<std::string> header;
   std::vector<std::string> cells;
   for (const Sample& sample : samples) {

@@ -33,8 +33,8 @@ std::streamsize FileBuffer::xsgetn(char* bytes, std::streamsize count) {
 }
 
 FileBuffer::int_type FileBuffer::overflow(int_type byte) {
-  RefuseIfAsked(FileOperation::kWrite);
-  return std::filebuf::overflow(byte);
+  // Closing calls this too, where nothing may be thrown.
+  return IsRefused(FileOperation::kWrite) ? traits_type::eof() : std::filebuf::overflow(byte);
 }
 
 std::streamsize FileBuffer::xsputn(const char* bytes, std::streamsize count) {

@@ -11,6 +11,7 @@ struct Streams {
   std::ostream& out;
   std::ostream& err;
   bool showsProgress = false;  ///< Somebody watches `err`, and `out` goes elsewhere.
+  bool isWatched = false;      ///< `out` is a terminal.
 };
 
 }  // namespace plateconfig

@@ -5,6 +5,7 @@ namespace {
 
 constexpr std::size_t kEnoughToPassOn = 4096;
 constexpr std::size_t kLongestCharacter = 4;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
@@ -48,7 +49,11 @@ void Utf8StreamBuffer::Add(std::string_view text) {
 
 int Utf8StreamBuffer::sync() {
   const std::size_t length = CompleteUtf8Length(pending_);
-  if (length > 0) sink_(std::string_view(pending_).substr(0, length));
+  if (length == 0) return 0;
+  const bool hasMark = isAtBegin_ && pending_.starts_with(kByteOrderMark);
+  const std::size_t begin = hasMark ? kByteOrderMark.size() : 0;
+  isAtBegin_ = false;
+  if (length > begin) sink_(std::string_view(pending_).substr(begin, length - begin));
   pending_.erase(0, length);
   return 0;
 }

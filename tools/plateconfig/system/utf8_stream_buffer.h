@@ -18,7 +18,8 @@ namespace plateconfig {
 std::size_t CompleteUtf8Length(std::string_view text);
 
 /// Gathers what is written and passes it to the sink on a flush and whenever a few thousand bytes are there.
-/// The bytes of an unfinished character wait for the rest of it.
+/// The bytes of an unfinished character wait for the rest of it. A byte order mark at the begin is for files
+/// of UTF-8 and is not passed on.
 class Utf8StreamBuffer : public std::streambuf {
  public:
   using Sink = std::function<void(std::string_view utf8)>;
@@ -35,6 +36,7 @@ class Utf8StreamBuffer : public std::streambuf {
 
   Sink sink_;
   std::string pending_;
+  bool isAtBegin_ = true;
 };
 
 }  // namespace plateconfig

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <vector>
 
+#include "analysis/text/file_form.h"
 #include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
@@ -16,6 +17,7 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/console.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/tables/reported_index.h"
 #include "platform/file.h"
 #include "text/gbk.h"
 
@@ -29,8 +31,7 @@ TableFile FromCommandLine(const std::string& path) {
 }
 
 std::string_view WithoutByteOrderMark(std::string_view utf8) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  return utf8.starts_with(kMark) ? utf8.substr(kMark.size()) : utf8;
+  return utf8.starts_with(kByteOrderMark) ? utf8.substr(kByteOrderMark.size()) : utf8;
 }
 
 /// The role that a name was probably meant to be: almost its own, or what the keepers call its table, as it
@@ -159,7 +160,9 @@ bool Configuration::FindFolder() {
                                          "没有设置 {}，也没有用 --config 指定配置文件夹", kRootVariable));
     return false;
   }
-  const std::string active = ReadConfigurationIndex(*root).activeFolder + "\\";
+  const ConfigurationIndex index = ReadConfigurationIndex(*root);
+  ReportIndex(*root, index, reporter_);
+  const std::string active = index.activeFolder + "\\";
   folder_ = {active, ShownPath(active)};
   return true;
 }

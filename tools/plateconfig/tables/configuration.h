@@ -52,8 +52,8 @@ class Configuration {
 
   /// The folder, UTF-8, with a separator at its end; empty when there is none.
   const std::string& FolderName();
-  /// The folder whose manifest was read, UTF-8, without a separator at its end; empty when none was looked
-  /// for.
+  /// The folder whose manifest was looked for, UTF-8, without a separator at its end, whether it could be
+  /// read or not; empty when none was.
   std::string FolderThatWasRead() const;
   /// Whether the manifest could be read.
   bool IsUsable() const { return isUsable_; }

@@ -15,7 +15,7 @@ void RaiseIndexFindings(const std::string& root, const ConfigurationIndex& index
 
 void ReportIndex(const std::string& root, const ConfigurationIndex& index, Reporter& reporter) {
   RaiseIndexFindings(root, index, [&](const Finding& finding) {
-    if (finding.code.Row().severity != Severity::kHint) reporter.Report(finding);
+    if (finding.code.Row().severity != Severity::kHint || reporter.LooksAtFiles()) reporter.Report(finding);
   });
 }
 
