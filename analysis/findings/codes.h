@@ -20,6 +20,9 @@ inline constexpr Words kWriteInteger = {"write it like 12{0?}", "请写成 12 �
 inline constexpr Words kWriteIntegers = {"write it like 36_186{0?}", "请写成 36_186 这样的形式{0?}"};
 inline constexpr Words kWriteNumbers = {"write it like 6_8.5{0?}", "请写成 6_8.5 这样的形式{0?}"};
 inline constexpr Words kWriteRange = {"write it like 10_200", "请写成 10_200 这样的形式"};
+inline constexpr Words kWriteHalfWidth = {"write the half-width {0}", "请改写半角的{0}"};
+inline constexpr Words kWriteComma = {"write a comma behind every entry but the last",
+                                      "除最后一项外，每一项后面都要写逗号"};
 inline constexpr Words kIntegersGo = {"whole numbers go from -2147483648 to 2147483647{0?}",
                                       "整数须在 -2147483648 到 2147483647 之间{0?}"};
 
@@ -49,6 +52,20 @@ inline constexpr CodeRow kCodes[] = {
      kNoAdvice,
      {"The folder is named by --config, or by the index below TQConfig.",
       "此文件夹由 --config 或 TQConfig 下的索引表指定。"}},
+    {"manifest-missing", Severity::kError,
+     {"this manifest, which says what file plays which role, does not exist",
+      "没有此清单（它说明各个文件的用途）"},
+     {"plateconfig init {0} writes it",
+      "运行 plateconfig init {0} 即可写出"},
+     {"A configuration folder holds a file tables.json; without it nothing tells which table is which. plateconfig init finds the roles by the columns.",
+      "配置文件夹中应有文件 tables.json，否则无法知道哪张表作什么用。plateconfig init 按列名找出各表的用途。"}},
+    {"manifest-ending", Severity::kError,
+     {"this manifest has the ending .txt, which Windows often hides, and so is not found",
+      "此清单的扩展名是 .txt（Windows 常常不显示扩展名），因此找不到清单"},
+     {"rename it to tables.json",
+      "请改名为 tables.json"},
+     {"An editor adds .txt when a file is saved as a text document; choose \"All files\" as its type.",
+      "用记事本保存时，保存类型选“文本文档”就会加上 .txt；请选“所有文件”。"}},
     {"manifest-unreadable", Severity::kError,
      {"this manifest, which says what file plays which role, can not be read",
       "无法读取此清单（它说明各个文件的用途）"},
@@ -65,8 +82,7 @@ inline constexpr CodeRow kCodes[] = {
     {"manifest-full-width", Severity::kError,
      {"{text} is a full-width character, which JSON does not know",
       "{text} 是全角字符，JSON 不认识"},
-     {"write {fix}",
-      "请写 {fix}"},
+     kWriteHalfWidth,
      {"A Chinese keyboard writes quotes, colons and commas full-width. Between the texts JSON takes the half-width ones alone.",
       "中文输入法会输入全角的引号、冒号和逗号；在文本之外，JSON 只认半角的。"}},
     {"manifest-comma-last", Severity::kError,
@@ -76,6 +92,12 @@ inline constexpr CodeRow kCodes[] = {
       "请删除此逗号"},
      {"JSON has commas between entries alone; the last one has none. Without a manifest that can be read nothing is checked.",
       "JSON 只在各项之间写逗号，最后一项之后没有。清单无法读取时，其他内容都不检查。"}},
+    {"manifest-comma-missing", Severity::kError,
+     {"a comma is missing here, behind {text}",
+      "此处缺少逗号，在 {text} 之后"},
+     kWriteComma,
+     {"JSON has a comma behind every entry but the last. Without a manifest that can be read nothing is checked.",
+      "JSON 中除最后一项外，每一项后面都有逗号。清单无法读取时，其他内容都不检查。"}},
     {"manifest-no-object", Severity::kError,
      {"the manifest should be an object {0}",
       "清单应当是一个对象 {0}"},
@@ -835,9 +857,13 @@ inline constexpr CodeRow kCodes[] = {
     {"input-column-twice", Severity::kWarning, {"a second column \"{column}\"", "重复的列“{column}”"}, {"the first one counts", "以第一列为准"}, {"Only the first of two columns of one name is read.", "同名的两列中只读取第一列。"}},
     {"input-column-absent", Severity::kHint, {"there is no column \"{column}\"; it reads as empty", "没有列“{column}”，按空值读取"}, kNoAdvice, {"Without this column nothing says it; every record has an empty cell there.", "没有此列就没有任何说明，相当于每条记录的这一格都为空。"}},
     {"input-empty", Severity::kWarning, {"nothing was read from this file", "没有从此文件读到任何内容"}, kNoAdvice, {"A file without a record was probably saved by mistake, or another one is meant.", "没有记录的文件多半是误存，或者指定错了文件。"}},
-    {"input-missing", Severity::kError, {"this file can not be opened", "无法打开此文件"}, kNoAdvice, {"Nothing is there under this name, or it may not be read.", "此名称下没有文件，或没有读取权限。"}},
+    {"input-missing", Severity::kError, {"this file does not exist or can not be opened", "此文件不存在或无法打开"}, kNoAdvice, {"Nothing is there under this name, or it may not be read.", "此名称下没有文件，或没有读取权限。"}},
     // Inputs in JSON.
     {"input-json-syntax", Severity::kError, {"this is not JSON here: \"{text}\"", "这里不符合 JSON 语法：“{text}”"}, kNoAdvice, {"A comma or a quote is missing, or is one too many. The reading goes on with the next object.", "缺少或多出了逗号、引号等。从下一个对象继续读取。"}},
+    {"input-json-full-width", Severity::kError, {"{text} is a full-width character, which JSON does not know", "{text} 是全角字符，JSON 不认识"}, kWriteHalfWidth, {"A Chinese keyboard writes quotes, colons and commas full-width. Between the texts JSON takes the half-width ones alone. The reading goes on with the next object.", "中文输入法会输入全角的引号、冒号和逗号；在文本之外，JSON 只认半角的。从下一个对象继续读取。"}},
+    {"input-json-comma-last", Severity::kError, {"a comma stands behind the last entry", "最后一项之后多了一个逗号"}, {"delete the comma", "请删除此逗号"}, {"JSON has commas between entries alone; the last one has none. The reading goes on with the next object.", "JSON 只在各项之间写逗号，最后一项之后没有。从下一个对象继续读取。"}},
+    {"input-json-comma-missing", Severity::kError, {"a comma is missing here, behind {text}", "此处缺少逗号，在 {text} 之后"}, kWriteComma, {"JSON has a comma behind every entry but the last. The reading goes on with the next object.", "JSON 中除最后一项外，每一项后面都有逗号。从下一个对象继续读取。"}},
+    {"input-json-utf16", Severity::kError, {"this file is UTF-16, but JSON is UTF-8", "此文件是 UTF-16，而 JSON 用 UTF-8"}, {"save it as UTF-8", "请存为 UTF-8"}, {"An editor calls it \"Unicode\" or \"UTF-16 LE\" when a file is saved. Nothing of it can be read.", "保存文件时，记事本把它叫作“Unicode”或“UTF-16 LE”。其中的内容无法读取。"}},
     {"input-json-number", Severity::kError, {"this number is too large: {text}", "数值过大：{text}"}, kNoAdvice, {"The number is larger than what can be computed with.", "数字大到无法计算。"}},
     {"input-json-depth", Severity::kError, {"the values are nested too deeply", "嵌套层数过多"}, kNoAdvice, {"Nobody writes such a file by hand; it was probably produced wrongly.", "手工不会写出这样的文件，多半是生成有误。"}},
     {"input-json-end", Severity::kError, {"the JSON ends here too early", "JSON 在此处过早结束"}, kNoAdvice, {"The file was cut off, or a bracket is missing at its end.", "文件被截断，或末尾缺少括号。"}},

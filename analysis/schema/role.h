@@ -42,8 +42,9 @@ struct RoleRow {
   Role role;
   std::string_view name;  ///< As the manifest and the options have it.
   WhenUnreadable whenUnreadable;
-  bool isAlwaysRead;  ///< A constructor reads it: without a file it counts as one that is missing.
-  Words title;        ///< One sentence on what its table holds.
+  bool isAlwaysRead;             ///< A constructor reads it: without a file it counts as one that is missing.
+  Words title;                   ///< One sentence on what its table holds.
+  std::string_view chineseName;  ///< What its keepers call the table, and mostly its file; UTF-8.
 };
 
 /// All roles, the index first, in the order of `Role`.

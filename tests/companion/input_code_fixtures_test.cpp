@@ -81,6 +81,10 @@ std::vector<Fixture> PlateFixtures() {
       {"input-row-encoding", Input::kPlates, "p.csv", kPlates + test::Gbk("乙,300,200,50,20,12,,,,\n"),
        kPlates + "乙,300,200,50,20,12,,,,\n"},
       Json("input-json-syntax", "300,", "300;"),
+      Json("input-json-full-width", "\"length\":", "\"length\"："),
+      Json("input-json-comma-last", "true}", "true,}"),
+      Json("input-json-comma-missing", "300,", "300"),
+      {"input-json-utf16", Input::kPlates, "p.json", "\xFF\xFE" + kPlate, kPlate},
       Json("input-json-number", "300", "1e999"),
       Json("input-json-open-object", "}}", "}"),
       Json("input-json-encoding", "甲", "\xFF"),
@@ -169,6 +173,7 @@ std::vector<Fixture> ManifestFixtures() {
       manifest("manifest-encoding", "规则", "\xFF"),
       manifest("manifest-full-width", ": \"规则", "：\"规则"),
       manifest("manifest-comma-last", ".csv\"}", ".csv\", }"),
+      manifest("manifest-comma-missing", ".csv\", ", ".csv\" "),
       manifest("manifest-no-object", kManifest, "[]"),
       manifest("manifest-role-unknown", "bom", "bomb"),
       manifest("manifest-file-kind", "\"清单.csv\"", "5"),
@@ -357,10 +362,11 @@ TEST(InputCodeFixtures, AFolderOrAManifestThatIsNotThere) {
   };
   EXPECT_THAT(codesOf("没有"), Contains("config-folder-missing"));
   files.WriteBytes("配置/x", "");
-  EXPECT_THAT(codesOf("配置"), Contains("manifest-unreadable"));
-  EXPECT_THAT(codesOf("配置"), Not(Contains("config-folder-missing")));
-  files.WriteBytes("配置/tables.json", "{}");
-  EXPECT_THAT(codesOf("配置"), Not(Contains("manifest-unreadable")));
+  EXPECT_THAT(codesOf("配置"), AllOf(Contains("manifest-missing"), Not(Contains("config-folder-missing"))));
+  files.WriteBytes("配置/tables.json/x", "");
+  EXPECT_THAT(codesOf("配置"), AllOf(Contains("manifest-unreadable"), Not(Contains("manifest-missing"))));
+  files.WriteBytes("好/tables.json", "{}");
+  EXPECT_THAT(codesOf("好"), AllOf(Not(Contains("manifest-unreadable")), Not(Contains("manifest-missing"))));
 }
 
 TEST(InputCodeFixtures, AFileOfTypesThatIsNotThereOrEmpty) {
@@ -378,10 +384,25 @@ TEST(InputCodeFixtures, AFileOfTypesThatIsNotThereOrEmpty) {
   EXPECT_THAT(codesOf("full.csv"), AllOf(Not(Contains("input-empty")), Not(Contains("input-missing"))));
 }
 
+TEST(InputCodeFixtures, AManifestThatIsNotThereOrHasAnotherEnding) {
+  const auto codesOf = [](const char* name) {
+    const test::TemporaryFolder files;
+    files.WriteBytes(name, kManifest);
+    return CodesOfReport(
+        test::RunPlateconfig({"check", "--config", test::ArgumentPath(files, ""), "--format", "json"}).out);
+  };
+  EXPECT_THAT(codesOf("other.json"), AllOf(Contains("manifest-missing"), Not(Contains("manifest-ending"))));
+  EXPECT_THAT(codesOf("tables.json.txt"),
+              AllOf(Contains("manifest-ending"), Not(Contains("manifest-missing"))));
+  EXPECT_THAT(codesOf("tables.json"),
+              AllOf(Not(Contains("manifest-ending")), Not(Contains("manifest-missing"))));
+}
+
 TEST(InputCodeFixtures, TogetherWithThoseOfTablesTheyAreEveryCode) {
   std::set<std::string, std::less<>> covered = test::CodesWithTableFixtures();
   covered.insert({"index-missing", "index-unreadable", "root-ends-in-config", "config-folder-missing",
-                  "manifest-unreadable", "input-empty", "input-missing"});
+                  "manifest-unreadable", "manifest-missing", "manifest-ending", "input-empty",
+                  "input-missing"});
   for (const Fixture& fixture : AllFixtures()) covered.insert(fixture.code);
   for (const CodeRow& row : kCodes) EXPECT_TRUE(covered.contains(row.name)) << row.name;
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <new>
 
+#include "analysis/text/folded_name.h"
 #include "config/text_helpers.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
@@ -130,6 +131,16 @@ bool HasFormat(const Verb& verb, const std::string& format) {
   return format.empty() || std::find(formats.begin(), formats.end(), format) != formats.end();
 }
 
+/// The form that the ending of the output's name asks for; empty when it asks for none, or when the verb has
+/// been told a form of its own.
+std::string FormatOfEnding(const CLI::App& verb) {
+  const CLI::Option* own = verb.get_option_no_throw("--format");
+  const CLI::Option* output = verb.get_option_no_throw("--output");
+  if ((own != nullptr && own->count() > 0) || output == nullptr || output->count() == 0) return {};
+  const std::string name = FoldedName(output->results().front());
+  return name.ends_with(".csv") ? "csv" : name.ends_with(".json") ? "json" : "";
+}
+
 std::string NoSuchFormat(const Verb& verb, const std::string& format) {
   return Say("{} does not write {}; it writes {}", "{} 不能输出 {}，只能输出 {}", verb.name, format,
              Listed(SplitString(std::string(verb.formats), " ")));
@@ -143,11 +154,10 @@ void ReportFailedRead(Reporter& reporter) {
 }
 
 void RunVerb(const CommandLine& line, const Streams& streams, Reporter& reporter) {
-  if (!HasFormat(*line.verb, line.format))
-    return reporter.Error({kProgramName}, NoSuchFormat(*line.verb, line.format));
-  const Format format = line.format == "json"  ? Format::kJson
-                        : line.format == "csv" ? Format::kCsv
-                                               : Format::kText;
+  const std::string name =
+      line.format.empty() ? FormatOfEnding(*line.app.get_subcommands().front()) : line.format;
+  if (!HasFormat(*line.verb, name)) return reporter.Error({kProgramName}, NoSuchFormat(*line.verb, name));
+  const Format format = name == "json" ? Format::kJson : name == "csv" ? Format::kCsv : Format::kText;
   const std::size_t failedReads = FailedReads();
   Context context{streams, reporter, format, format == Format::kText ? &streams.out : nullptr};
   line.run(context);

@@ -19,16 +19,15 @@ std::string Heading(const std::string& group) {
   return "\n" + Say("{}:", "{}：", group) + "\n";
 }
 
-/// Arguments without a name on the command line are called what they hold: FILE.
-std::string PlaceholderOf(const CLI::Option* option) {
-  return option->get_type_name().empty() ? option->get_name(true, false) : option->get_type_name();
-}
-
 bool MayRepeat(const CLI::Option* option) {
   return option->get_expected_max() >= CLI::detail::expected_max_vector_size;
 }
 
 }  // namespace
+
+std::string PlaceholderOf(const CLI::Option* option) {
+  return option->get_type_name().empty() ? option->get_name(true, false) : option->get_type_name();
+}
 
 HelpFormat::HelpFormat() {
   label("REQUIRED", Say("(required)", "（必需）"));

@@ -21,4 +21,7 @@ class HelpFormat : public CLI::Formatter {
   std::string make_subcommands(const CLI::App* app, CLI::AppFormatMode mode) const override;
 };
 
+/// What an option's value is called in the help; arguments without a name on the command line go by it: FILE.
+std::string PlaceholderOf(const CLI::Option* option);
+
 }  // namespace plateconfig

@@ -6,6 +6,7 @@
 #include "analysis/text/similar_name.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
+#include "plateconfig/help_format.h"
 #include "plateconfig/messages/language.h"
 
 namespace plateconfig {
@@ -101,23 +102,51 @@ std::string WrongCount(const CLI::App& app, const CLI::ParseError& error, const 
   return repeated ? Say("{} is given more than once", "{} 重复出现", repeated->get_name()) : error.what();
 }
 
+/// What an option is for, of the help's description that goes into the particulars.
+std::string InShort(const std::string& description) {
+  std::size_t end = description.size();
+  for (const char* separator : {":", ";", "：", "；"}) end = std::min(end, description.find(separator));
+  return description.substr(0, end);
+}
+
+std::string Forgotten(const CLI::Option* option) {
+  const std::string what = InShort(option->get_description());
+  if (option->get_positional())
+    return Say("the argument {} is missing: {}", "缺少参数：{}（{}）", PlaceholderOf(option), what);
+  return Say("the option {} {} is missing: {}", "缺少选项：{} {}（{}）", option->get_name(),
+             PlaceholderOf(option), what);
+}
+
 std::string Missing(const CLI::App& app, const CLI::ParseError& error) {
   if (app.get_subcommands().empty())
     return Say("a verb is missing: one of {}", "缺少命令，应为 {} 之一", Listed(VerbNames()));
   const CLI::Option* option = FirstThat(OptionsOf(app), IsForgotten);
-  return option ? Say("{} is required", "缺少必需的 {}", option->get_name()) : error.what();
+  return option ? Forgotten(option) : error.what();
+}
+
+/// Of a value that an option's own check refuses, in the words of the check. The parser puts the option's
+/// name in front, which nobody knows of an argument that has none on the command line.
+std::string Refused(const CLI::App& app, const std::string& complaint) {
+  const CLI::Option* argument = FirstThat(OptionsOf(app), [&](const CLI::Option* option) {
+    return option->get_positional() && complaint.starts_with(option->get_name() + ": ");
+  });
+  return argument ? PlaceholderOf(argument) + complaint.substr(argument->get_name().size()) : complaint;
 }
 
 std::string Mistake(const CLI::App& app, const CLI::ParseError& error, const Arguments& arguments) {
   const auto is = [&](CLI::ExitCodes kind) { return error.get_exit_code() == static_cast<int>(kind); };
   const bool lacksSomething = is(CLI::ExitCodes::RequiredError);
   const Arguments extras = app.remaining(true);
+  // The value behind an unknown option is taken for an argument, which its check then refuses.
+  const auto unknown = std::find_if(extras.begin(), extras.end(),
+                                    [](const std::string& extra) { return extra.starts_with('-'); });
+  if (is(CLI::ExitCodes::ValidationError) && unknown != extras.end()) return Unexpected(app, *unknown);
   const bool lacksVerb = lacksSomething && app.get_subcommands().empty();
   if (!extras.empty() && (lacksVerb || is(CLI::ExitCodes::ExtrasError)))
     return Unexpected(app, extras.front());
   if (lacksSomething) return Missing(app, error);
   if (is(CLI::ExitCodes::ArgumentMismatch)) return WrongCount(app, error, arguments);
-  return error.what();  // A value that an option's own check refuses, in the words of the check.
+  return Refused(app, error.what());
 }
 
 }  // namespace

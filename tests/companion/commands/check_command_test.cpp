@@ -83,7 +83,7 @@ class CheckCommand : public ::testing::Test {
 TEST_F(CheckCommand, ACleanRunSaysWhatWasChecked) {
   const CompanionResult run = Check();
   EXPECT_EQ(run.out, "nothing found; checked:\n  " + Path("规则.csv") +
-                         "  2 rows\n\n0 errors, 0 warnings, 0 hints in 1 tables, 2 rule rows, 2 processes\n");
+                         "  2 rows\n\n0 errors, 0 warnings, 0 hints in 1 table, 2 rule rows, 2 processes\n");
   EXPECT_THAT(run.err, IsEmpty());
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_EQ(Check({"--lang", "zh"}).out,
@@ -97,7 +97,7 @@ TEST_F(CheckCommand, AFindingIsTwoLinesBelowItsFileAndTheLastLineCounts) {
             Path("规则.csv") +
                 "\n  K3  warning: \"有\" is not exactly \"有型面\" and counts as its opposite; it is read as "
                 "无型面  [wish-unknown]\n      write \"有型面\"\n\n"
-                "0 errors, 1 warnings, 0 hints in 1 tables, 2 rule rows, 2 processes\n");
+                "0 errors, 1 warning, 0 hints in 1 table, 2 rule rows, 2 processes\n");
   EXPECT_EQ(Check({"--lang", "zh"}).out,
             Path("规则.csv") +
                 "\n  K3  警告: “有”与“有型面”不完全相同，因此视为相反的要求；读作 无型面  [wish-unknown]\n"
@@ -289,10 +289,10 @@ TEST_F(CheckCommand, AcceptedFindingsAreSilentNewOnesAreTold) {
   const Strings baseline = {"--baseline", Path("已接受.txt")};
   CompanionResult run = Check({baseline[0], baseline[1], "--update-baseline"});
   EXPECT_EQ(run.exitCode, 0);
-  EXPECT_THAT(run.out, StartsWith("nothing found but 1 accepted findings; checked:\n"));
+  EXPECT_THAT(run.out, StartsWith("nothing found but 1 accepted finding; checked:\n"));
   run = Check(baseline);
   EXPECT_EQ(run.exitCode, 0);
-  EXPECT_THAT(run.out, StartsWith("nothing found but 1 accepted findings; checked:\n"));
+  EXPECT_THAT(run.out, StartsWith("nothing found but 1 accepted finding; checked:\n"));
   WriteRules(With(kWarned, "12,100_500", "12,100-500"));
   run = Check(baseline);
   EXPECT_EQ(run.exitCode, 1);
@@ -420,11 +420,11 @@ std::string SaidOfManifest(const std::string& manifest, const std::string& langu
 TEST(CheckManifest, AFullWidthSignIsNamedWithItsHalfWidthForm) {
   EXPECT_EQ(SaidOfManifest("{“bom\": \"b.csv\"}", "en"),
             "  line 1  error: “ is a full-width character, which JSON does not know  [manifest-full-width]\n"
-            "      write \"\"\"\n");
+            "      write the half-width quote \"\n");
   EXPECT_EQ(SaidOfManifest("{\n\"bom\"： \"b.csv\"}", "zh"),
-            "  第 2 行  错误: ： 是全角字符，JSON 不认识  [manifest-full-width]\n      请写“:”\n");
+            "  第 2 行  错误: ： 是全角字符，JSON 不认识  [manifest-full-width]\n      请改写半角的冒号 :\n");
   EXPECT_EQ(SaidOfManifest("{\"bom\": \"b.csv\"，\n\"texts\": \"t.csv\"}", "zh"),
-            "  第 1 行  错误: ， 是全角字符，JSON 不认识  [manifest-full-width]\n      请写“,”\n");
+            "  第 1 行  错误: ， 是全角字符，JSON 不认识  [manifest-full-width]\n      请改写半角的逗号 ,\n");
 }
 
 TEST(CheckManifest, ACommaBehindTheLastEntryIsToldAtItsPlace) {

@@ -221,8 +221,8 @@ TEST_F(DiffCommand, TheLimitIsOneOfRegionsOfAGroupAndWhatIsLeftOutIsSaid) {
   const Json limited = DiffAsJson({"--limit", "1"});
   ASSERT_EQ(limited["regions"].size(), 1U);
   EXPECT_EQ(limited["regions"][0]["oldRow"], 2);  // 150 mm are more than 200 to 300.
-  EXPECT_EQ(limited["incomplete"], Json({"body colour 12, no profile, no wire cutting: 1 more regions are "
-                                         "not listed; --limit 0 lists all"}));
+  EXPECT_EQ(limited["incomplete"], Json({"body colour 12, no profile, no wire cutting: 1 more region not "
+                                         "listed; --limit 0 lists all"}));
   EXPECT_EQ(DiffAsJson({"--limit", "0"})["regions"].size(), 2U);
   EXPECT_THAT(Diff({"--limit", "-1"}).err, HasSubstr("\"-1\" is no whole number from 0 on"));
 }
@@ -232,7 +232,7 @@ TEST_F(DiffCommand, TheTextSaysFirstHowManyPlatesChangeAndMarksTheProcess) {
   const CompanionResult result = Diff({"--plates", "-"}, kPlates);
   EXPECT_EQ(result.out,
             "this edit changes 1 of 3 plates\n"
-            "different: 0 settings, 1 rule rows, 1 regions of plates\n"
+            "different: 0 settings, 1 rule row, 1 region of plates\n"
             "\n"
             "rule rows\n"
             "  line 2 changed\n"
@@ -256,7 +256,7 @@ TEST_F(DiffCommand, TheTextSaysFirstHowManyPlatesChangeAndMarksTheProcess) {
 TEST_F(DiffCommand, TheTextOfSettingsRowsAndPlatesWithoutARow) {
   WriteRules("new", With(kRows, "13,200_300,软料（体颜色）,锯,钻到数", ",,,,"));
   WriteSettings("new", "-,N");
-  EXPECT_THAT(Diff().out, StartsWith("different: 1 settings, 1 rule rows, 1 regions of plates\n"
+  EXPECT_THAT(Diff().out, StartsWith("different: 1 setting, 1 rule row, 1 region of plates\n"
                                      "\n"
                                      "settings\n"
                                      "  process-settings  连接符号\n"
@@ -314,7 +314,7 @@ TEST_F(DiffCommand, AWarningAboutAnInputIsShownOnceAndIsNoDifference) {
 TEST_F(DiffCommand, APlateWithAMistakeIsReportedOnceAndTheOthersAreCompared) {
   const CompanionResult result =
       Diff({"--plates", "-"}, "名称,长度,宽度,厚度,重量,体颜色\n甲,x,40,10,1,12\n乙,50,40,10,1,12\n");
-  EXPECT_EQ(result.out, "this edit changes 0 of 1 plates\nno difference\n");
+  EXPECT_EQ(result.out, "this edit changes 0 of 1 plate\nno difference\n");
   EXPECT_THAT(result.err, StartsWith("standard input:2:3: error: B2: "));
   EXPECT_EQ(result.exitCode, 2);
 }
@@ -339,7 +339,7 @@ TEST_F(DiffCommand, WrongValuesOfOptionsAreToldAndNothingIsCompared) {
   }
   const CompanionResult oneFolder = RunPlateconfig({"diff", Path("old")});
   EXPECT_EQ(oneFolder.exitCode, 2);
-  EXPECT_THAT(oneFolder.err, HasSubstr("new"));
+  EXPECT_THAT(oneFolder.err, HasSubstr("DIR is missing: configuration folder as it is now"));
 }
 
 TEST_F(DiffCommand, TheTextSaysFirstThatNoPlateChanges) {
@@ -348,7 +348,7 @@ TEST_F(DiffCommand, TheTextSaysFirstThatNoPlateChanges) {
   const CompanionResult result =
       Diff({"--plates", "-"}, "名称,长度,宽度,厚度,重量,体颜色,有无圆孔\n甲,50,40,10,1,12,N\n");
   EXPECT_THAT(result.out, StartsWith("this edit changes "));
-  EXPECT_THAT(result.out, HasSubstr("different: 1 settings, 1 rule rows, 0 regions of plates\n"));
+  EXPECT_THAT(result.out, HasSubstr("different: 1 setting, 1 rule row, 0 regions of plates\n"));
   EXPECT_EQ(result.exitCode, 1);
 }
 

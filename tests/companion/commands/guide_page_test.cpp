@@ -22,7 +22,7 @@ std::string Guide() {
 }
 
 TEST(GuidePage, ItsExamplesGiveWhatItShows) {
-  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/guide.zh.md", "zh"), 5);
+  EXPECT_EQ(test::RunPage(PLATECONFIG_DOCS_DIR "/guide.zh.md", "zh"), 10);
 }
 
 TEST(GuidePage, NamesEveryRoleOfTheManifestAndEveryConditionText) {

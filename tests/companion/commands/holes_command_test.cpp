@@ -298,7 +298,7 @@ TEST_F(HolesCommand, WithoutTypesThereIsNothingToDo) {
 TEST_F(HolesCommand, AFileThatIsNotThereIsAnError) {
   folder_.WriteTable("types.csv", std::string(kTypeHeader) + "M8,1_1_0,36,31,,14,9,,\n");
   RunFiles("types.csv", "missing.csv");
-  EXPECT_EQ(err_, "missing.csv: error: this file can not be opened\n");
+  EXPECT_EQ(err_, "missing.csv: error: there is no such file\n");
   EXPECT_EQ(exitCode_, 2);
 }
 

@@ -75,6 +75,34 @@ TEST_F(OutputOptions, CsvGoesIntoAFileAsGbkAndOntoTheOutputAsUtf8) {
   }
 }
 
+TEST_F(OutputOptions, TheEndingOfTheNameSaysTheForm) {
+  for (const auto& verb : EveryVerb()) {
+    if (verb[0] == "diff" || verb[0] == "schema" || verb[0] == "template") continue;
+    Run(verb, {"--format", "csv", "-o", Path("said.csv"), "--force"});
+    Run(verb, {"-o", Path("ending.CSV"), "--force"});
+    EXPECT_EQ(ReadBytes(plates_.Path() / "ending.CSV"), ReadBytes(plates_.Path() / "said.csv")) << verb[0];
+    Run(verb, {"-o", Path("ending.json"), "--force"});
+    EXPECT_EQ(ReadBytes(plates_.Path() / "ending.json"), Run(verb, {"--format", "json"}).out) << verb[0];
+  }
+}
+
+TEST_F(OutputOptions, AFormThatIsSaidCountsMoreThanTheEnding) {
+  for (const auto& verb : EveryVerb()) {
+    if (verb[0] == "template") continue;
+    Run(verb, {"--format", "text", "-o", Path("a.csv"), "--force"});
+    Run(verb, {"-o", Path("a.txt"), "--force"});
+    EXPECT_EQ(ReadBytes(plates_.Path() / "a.csv"), ReadBytes(plates_.Path() / "a.txt")) << verb[0];
+  }
+}
+
+TEST_F(OutputOptions, AnEndingThatTheVerbHasNoFormForIsRefused) {
+  const std::string config = configuration_.Path();
+  EXPECT_EQ(RunPlateconfig({"diff", config, config, "-o", Path("d.csv")}).err,
+            "plateconfig: error: diff does not write csv; it writes text, json\n");
+  EXPECT_FALSE(std::filesystem::exists(plates_.Path() / "d.csv"));
+  EXPECT_EQ(RunPlateconfig({"template", "bom", "-o", Path("b.json")}).exitCode, 2);
+}
+
 TEST_F(OutputOptions, AVerbWithoutAResultWritesNoFile) {
   for (const auto& verb : {std::vector<std::string>{"process", "--config", Path("none"), Path("板.csv")},
                            {"check", "--config", Path("none")}}) {

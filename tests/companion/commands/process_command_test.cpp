@@ -127,7 +127,7 @@ TEST_F(ProcessCommand, AFileThatCanNotBeReadDoesNotStopTheOthers) {
   const auto result = RunPlateconfig(
       {"process", "--config", configuration_.Path(), Path("missing.csv"), Path("folder"), Path("甲.csv")});
   EXPECT_EQ(result.out, Texts());
-  EXPECT_EQ(result.err, Path("missing.csv") + ": error: this file can not be opened\n" + Path("folder") +
+  EXPECT_EQ(result.err, Path("missing.csv") + ": error: there is no such file\n" + Path("folder") +
                             ": error: this is a folder, not a file\n");
   EXPECT_EQ(result.exitCode, 2);
 }
@@ -326,9 +326,8 @@ TEST_F(ProcessCommand, RepeatedMessagesAreCountedInsteadOfShown) {
   for (int i = 0; i < 25; ++i) plates += "板" + std::to_string(i) + ",x,400,90,9,12\n";
   const auto result = Process({"-"}, plates);
   EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 22);  // And: no plate was read.
-  EXPECT_THAT(
-      result.err,
-      ::testing::EndsWith("standard input: 5 more messages of this kind are not shown: input-not-number\n"));
+  EXPECT_THAT(result.err, ::testing::EndsWith(
+                              "standard input: 5 more messages of this kind not shown: input-not-number\n"));
   EXPECT_EQ(result.exitCode, 2);
 }
 

@@ -217,7 +217,7 @@ TEST_F(ShowCommand, CsvHasARowForEachValue) {
 TEST_F(ShowCommand, TheLastLineCountsSettingsAndTables) {
   Configure("{}");
   const std::string path = ArgumentPath(folder_, "");
-  EXPECT_THAT(Show({"bom"}).out, ::testing::EndsWith("\n1 settings of 1 tables; configuration " +
+  EXPECT_THAT(Show({"bom"}).out, ::testing::EndsWith("\n1 setting of 1 table; configuration " +
                                                      path.substr(0, path.size() - 1) + "\n"));
 }
 

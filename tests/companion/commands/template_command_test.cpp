@@ -69,7 +69,7 @@ TEST_P(ManifestTemplate, ChecksWithoutAWarning) {
   const std::string role(GetParam());
   const CompanionResult check = RunPlateconfig({"check", "--" + role, ArgumentPath(folder_, "table.csv")});
   EXPECT_THAT(check.out, HasSubstr("0 errors, 0 warnings, ")) << check.err;
-  EXPECT_THAT(check.out, HasSubstr(" in 1 tables, "));
+  EXPECT_THAT(check.out, HasSubstr(" in 1 table, "));
   EXPECT_EQ(check.exitCode, 0) << check.err;
 }
 

@@ -129,8 +129,9 @@ TEST(Usage, EveryVerbNamesWhatItRequires) {
   for (const Verb& verb : Verbs()) {
     const Words complete = Complete(verb);
     if (complete.size() == 1) continue;
-    EXPECT_THAT(Complaint({verb.name}), ::testing::EndsWith(" is required"));
-    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}), HasSubstr("错误: 缺少必需的 "));
+    EXPECT_THAT(Complaint({verb.name}), HasSubstr(" is missing: "));
+    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}),
+                MatchesRegex("plateconfig: 错误: 缺少(参数|选项)：.+（.+）"));
   }
 }
 
@@ -204,13 +205,45 @@ TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
             "plateconfig: error: a verb is missing: one of folder, init, check, process, explain, diff, "
             "holes, show, schema, template");
-  EXPECT_EQ(Complaint({"process"}), "plateconfig: error: plates is required");
-  EXPECT_EQ(Complaint({"holes", "a.csv"}), "plateconfig: error: --types is required");
+  EXPECT_EQ(Complaint({"process"}), "plateconfig: error: the argument FILE is missing: plates");
+  EXPECT_EQ(Complaint({"holes", "a.csv"}),
+            "plateconfig: error: the option --types FILE is missing: hole types");
   EXPECT_EQ(Complaint({"process", "--config"}), "plateconfig: error: the value behind --config is missing");
   EXPECT_EQ(Complaint({"folder", "more"}), "plateconfig: error: \"more\" is one argument too many");
   EXPECT_EQ(Complaint({"--format", "json", "folder", "--format", "text"}),
             "plateconfig: error: --format is given more than once");
   EXPECT_EQ(Complaint({"show", "--config", ""}), "plateconfig: error: --config: the value is empty");
+}
+
+TEST(Usage, AnArgumentIsCalledWhatTheHelpCallsIt) {
+  EXPECT_EQ(Complaint({"diff", "old"}),
+            "plateconfig: error: the argument DIR is missing: configuration folder as it is now");
+  EXPECT_EQ(Complaint({"--lang", "zh", "diff", "旧"}),
+            "plateconfig: 错误: 缺少参数：文件夹（修改后的配置文件夹）");
+  EXPECT_THAT(Complaint({"--lang", "zh", "template"}), HasSubstr("缺少参数：用途（"));
+  EXPECT_EQ(Complaint({"--lang", "zh", "holes", "孔.csv"}),
+            "plateconfig: 错误: 缺少选项：--types 文件（孔类型）");
+  EXPECT_THAT(Complaint({"show", "foo"}), HasSubstr("error: ROLE: \"foo\" is none of column-widths, "));
+  EXPECT_THAT(Complaint({"--lang", "zh", "show", "foo"}), HasSubstr("错误: 用途: “foo”不是 column-widths, "));
+}
+
+TEST(Usage, TheValueBehindAnUnknownOptionIsNoArgument) {
+  EXPECT_THAT(Complaint({"show", "--fail-on", "hint", "--config", "cfg"}),
+              HasSubstr("error: there is no option --fail-on"));
+  EXPECT_THAT(Complaint({"template", "--foo", "bar"}), HasSubstr("error: there is no option --foo"));
+}
+
+TEST(Usage, AnEmptyNameOfAnInputIsRefused) {
+  const std::string empty = ": the value is empty";
+  EXPECT_EQ(Complaint({"process", ""}), "plateconfig: error: FILE" + empty);
+  EXPECT_EQ(Complaint({"explain", "a.csv", ""}), "plateconfig: error: FILE" + empty);
+  EXPECT_EQ(Complaint({"holes", "--types", "a.csv", ""}), "plateconfig: error: FILE" + empty);
+  EXPECT_EQ(Complaint({"holes", "--types", "", "a.csv"}), "plateconfig: error: --types" + empty);
+  EXPECT_EQ(Complaint({"check", "--plates", ""}), "plateconfig: error: --plates" + empty);
+  EXPECT_EQ(Complaint({"check", "--types", ""}), "plateconfig: error: --types" + empty);
+  EXPECT_EQ(Complaint({"diff", "old", "new", "--plates", ""}), "plateconfig: error: --plates" + empty);
+  EXPECT_EQ(Complaint({"show", "--bom", ""}), "plateconfig: error: --bom" + empty);
+  EXPECT_EQ(Complaint({"--lang", "zh", "process", ""}), "plateconfig: 错误: 文件: 值为空");
 }
 
 TEST(Usage, TheLastArgumentIsMissingItsValueOnlyWhenItIsNoValueItself) {
@@ -234,7 +267,7 @@ TEST(Usage, AWrongCommandLineIsToldInChineseToo) {
   EXPECT_EQ(RunPlateconfig({"--lang", "zh", "folde"}).err,
             "plateconfig: 错误: 没有命令“folde”；是否应为“folder”？\n用 plateconfig --help 查看用法\n");
   EXPECT_EQ(RunPlateconfig({"process", "--lang", "zh"}).err,
-            "plateconfig: 错误: 缺少必需的 plates\n用 plateconfig process --help 查看用法\n");
+            "plateconfig: 错误: 缺少参数：文件（板）\n用 plateconfig process --help 查看用法\n");
   EXPECT_EQ(Complaint({"--lang", "zh", "folder", "--format", "xml"}),
             "plateconfig: 错误: --format: “xml”不是 text, json, csv 之一");
 }

@@ -220,5 +220,42 @@ TEST(JsonStream, AFirstByteOfAMarkAloneIsNoMark) {
   EXPECT_THAT(file.messages.Text(), StartsWith("f.json:1:1: error: an object"));
 }
 
+TEST(JsonStream, ASlipInsideAnObjectIsToldAsWhatItIsAndTheNextObjectIsRead) {
+  JsonFile file("[{\"n\"：\"甲\"},\n {\"n\": \"乙\",},\n {\"n\": \"丙\" \"m\": 1},\n {\"n\": \"丁\"}]");
+  EXPECT_THAT(file.All(), ElementsAre("丁"));
+  EXPECT_EQ(
+      file.messages.Text(),
+      "f.json:1:6: error: ： is a full-width character, which JSON does not know; write the half-width colon "
+      ":\n"
+      "f.json:2:11: error: a comma stands behind the last entry; delete the comma\n"
+      "f.json:3:11: error: a comma is missing here, behind \"丙\"; write a comma behind every entry but the "
+      "last\n");
+}
+
+TEST(JsonStream, AFullWidthSignBetweenObjectsOrInsteadOfABraceIsNamed) {
+  JsonFile comma("[{\"n\": \"甲\"}，{\"n\": \"乙\"}]");
+  EXPECT_THAT(comma.All(), ElementsAre("甲", "乙"));
+  EXPECT_THAT(comma.messages.Text(), StartsWith("f.json:1:12: error: ， is a full-width character"));
+  JsonFile brace("[{\"n\": \"甲\"｝]");
+  EXPECT_THAT(brace.All(), IsEmpty());
+  EXPECT_THAT(brace.messages.Text(), StartsWith("f.json:1:11: error: ｝ is a full-width character"));
+}
+
+TEST(JsonStream, Utf16IsNamedOnceAndNothingIsRead) {
+  const std::string plain = "[{\"n\": 1}]";
+  std::string little;
+  std::string big;
+  for (const char c : plain) {
+    little += {c, '\0'};
+    big += {'\0', c};
+  }
+  for (const std::string& bytes : {"\xFF\xFE" + little, "\xFE\xFF" + big, little, big, little.substr(2)}) {
+    JsonFile file(bytes);
+    EXPECT_THAT(file.All(), IsEmpty());
+    EXPECT_EQ(file.messages.Text(),
+              "f.json: error: this file is UTF-16, but JSON is UTF-8; save it as UTF-8\n");
+  }
+}
+
 }  // namespace
 }  // namespace plateconfig

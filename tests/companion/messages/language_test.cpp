@@ -60,5 +60,15 @@ TEST_F(LanguageTest, TheLocaleDecidesTheSystemsLanguage) {
 
 #endif
 
+TEST(Language, ACountHasItsNounInEnglishAlone) {
+  SetLanguage(Language::kEnglish);
+  EXPECT_EQ(Counted(0, "table"), "0 tables");
+  EXPECT_EQ(Counted(1, "table"), "1 table");
+  EXPECT_EQ(Counted(2, "process"), "2 processes");
+  SetLanguage(Language::kChinese);
+  EXPECT_EQ(Counted(1, "table"), "1");
+  SetLanguage(Language::kEnglish);
+}
+
 }  // namespace
 }  // namespace plateconfig

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
+
 #include "support/companion.h"
 
 namespace plateconfig {
@@ -144,7 +146,68 @@ TEST(Configuration, AMissingManifestIsAnErrorOnce) {
   EXPECT_FALSE(configuration.FindOptional(Role::kTexts));
   EXPECT_EQ(messages.Text(), options.folder +
                                  "tables.json: error: this manifest, which says what file plays which role, "
-                                 "can not be read\n");
+                                 "does not exist; plateconfig init " +
+                                 options.folder.substr(0, options.folder.size() - 1) + " writes it\n");
+}
+
+TEST(Configuration, AFolderWithABlankIsQuotedForTheCommandLine) {
+  const test::TemporaryFolder files;
+  files.WriteBytes("my tables/x", "");
+  test::Messages messages;
+  ConfigurationOptions options;
+  options.folder = ArgumentPath(files, "my tables");
+  Configuration(options, messages.reporter).FindOptional(Role::kBom);
+  EXPECT_THAT(messages.Text(), HasSubstr("plateconfig init \"" + options.folder + "\" writes it"));
+}
+
+TEST(Configuration, AManifestWithAHiddenEndingIsNamed) {
+  const test::TemporaryFolder files;
+  files.WriteBytes("tables.json.txt", R"({"bom": "a.csv"})");
+  test::Messages messages;
+  ConfigurationOptions options;
+  options.folder = ArgumentPath(files, "");
+  Configuration(options, messages.reporter).FindOptional(Role::kBom);
+  EXPECT_THAT(messages.Text(),
+              StartsWith(options.folder + "tables.json.txt: error: this manifest has the ending"));
+  EXPECT_THAT(messages.Text(), HasSubstr("rename it to tables.json\n"));
+}
+
+TEST(Configuration, AManifestThatIsThereAndNoFileCanNotBeRead) {
+  const test::TemporaryFolder files;
+  files.WriteBytes("tables.json/x", "");
+  test::Messages messages;
+  ConfigurationOptions options;
+  options.folder = ArgumentPath(files, "");
+  Configuration(options, messages.reporter).FindOptional(Role::kBom);
+  EXPECT_THAT(messages.Text(), HasSubstr("can not be read"));
+}
+
+TEST(Configuration, ARoleInOtherLettersOrByTheNameOfItsTableIsAnsweredWithTheRole) {
+  for (const auto& [name, role] : std::map<std::string, std::string>{{"BOM", "bom"},
+                                                                     {"Process_Rules", "process-rules"},
+                                                                     {"工艺规则", "process-rules"},
+                                                                     {"系统设置.csv", "system-settings"},
+                                                                     {"列宽.CSV", "column-widths"}}) {
+    Folder folder("{\"" + name + "\": \"a.csv\"}");
+    folder.configuration.FindOptional(Role::kBom);
+    EXPECT_THAT(folder.messages.Text(), HasSubstr("did you mean \"" + role + "\"?")) << name;
+  }
+}
+
+TEST(Configuration, AForgottenCommaIsToldAtTheEndOfItsLine) {
+  Folder folder("{\n  \"bom\": \"a.csv\"\n  \"texts\": \"b.csv\"\n}");
+  folder.configuration.FindOptional(Role::kBom);
+  EXPECT_EQ(folder.messages.Text(), folder.manifestPath +
+                                        ":2:17: error: a comma is missing here, behind \"a.csv\"; write a "
+                                        "comma behind every entry but the last\n");
+}
+
+TEST(Configuration, AFullWidthQuoteIsToldByItsName) {
+  Folder folder("{“bom”: \"a.csv\"}");
+  folder.configuration.FindOptional(Role::kBom);
+  EXPECT_EQ(folder.messages.Text(), folder.manifestPath +
+                                        ":1:2: error: “ is a full-width character, which JSON does not know; "
+                                        "write the half-width quote \"\n");
 }
 
 TEST(Configuration, WithoutFolderTheVariableLeadsToTheActiveOne) {

@@ -150,7 +150,10 @@ void AddCodes(CLI::App& command, const char* option, std::vector<std::string>& c
 
 void AddFile(CLI::App& command, const char* option, std::vector<std::string>& files,
              const std::string& help) {
-  command.add_option(option, files, help)->type_name(Say("FILE", "文件"))->allow_extra_args(false);
+  command.add_option(option, files, help)
+      ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
+      ->allow_extra_args(false);
 }
 
 void AddOutputOptions(CLI::App& command, CheckJob& job) {

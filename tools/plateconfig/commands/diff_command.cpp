@@ -126,7 +126,8 @@ Run DiffOptions(CLI::App& command) {
       .add_option("--plates", job->plateFiles,
                   Say("plates whose texts are compared: CSV or JSON files; - reads standard input",
                       "要比较工艺文本的板：CSV 或 JSON 文件；- 表示标准输入"))
-      ->type_name(Say("FILE", "文件"));
+      ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty());
   command
       .add_option("--limit", job->limit,
                   Say("regions of a group of plates to list, the largest; 0 lists all; without it {}",

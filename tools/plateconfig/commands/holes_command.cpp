@@ -119,6 +119,7 @@ Run HolesOptions(CLI::App& command) {
                   Say("hole types: a CSV file (GBK or UTF-8) or a JSON file; may be given several times",
                       "孔类型：CSV 文件（GBK 或 UTF-8）或 JSON 文件；可重复使用"))
       ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
       ->allow_extra_args(false)
       ->required();
   command.add_flag("--explain", job->explains,
@@ -129,6 +130,7 @@ Run HolesOptions(CLI::App& command) {
                   Say("combined holes: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
                       "组合孔：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
       ->required();
   AddFailOn(command, job->failOn);
   return WithOutput(command, [job](Context& context) { RunHoles(*job, context); });

@@ -1,122 +1,54 @@
 // `init`: the manifest of a folder of tables, its roles found by the columns of the tables.
 
-#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <memory>
-#include <optional>
 #include <system_error>
 
 #include "analysis/schema/table_schema.h"
-#include "analysis/text/strict_values.h"
-#include "config/table.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
+#include "plateconfig/holes/hole_fields.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/screen_text.h"
 #include "plateconfig/output/json_output.h"
 #include "plateconfig/output/output_file.h"
-#include "plateconfig/system/console.h"
+#include "plateconfig/plates/plate_fields.h"
 #include "plateconfig/system/file_kind.h"
+#include "plateconfig/tables/configuration.h"
+#include "plateconfig/tables/found_roles.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr const char* kManifestName = "tables.json";
 
 struct InitJob {
   std::string folder;  ///< UTF-8
 };
 
-/// A table of the folder with the roles that its columns fit best.
-struct FoundTable {
-  std::string name;         ///< UTF-8
-  std::vector<Role> roles;  ///< More than one when they fit equally well.
-  bool isGuess = false;     ///< No column says so.
-};
-
-std::string Utf8Name(const fs::path& path) {
-  const std::u8string name = path.filename().u8string();
-  return {name.begin(), name.end()};
-}
-
-/// How many columns of the role the table has.
-std::size_t Fit(const Table& table, Role role) {
-  const std::vector<ColumnSchema>& columns = SchemaOf(role).columns;
-  return static_cast<std::size_t>(
-      std::count_if(columns.begin(), columns.end(), [&](const ColumnSchema& column) {
-        return column.use != ColumnUse::kPlaceholder && table.FindColumn(column.column).has_value();
-      }));
-}
-
-/// The roles that share the best fit; none when no column is known.
-std::vector<Role> BestRoles(const Table& table) {
-  std::vector<Role> best;
-  std::size_t most = 1;
-  for (const RoleRow& row : ManifestRoles()) {
-    const std::size_t fit = Fit(table, row.role);
-    if (fit < most) continue;
-    if (fit > most) best.clear();
-    most = fit;
-    best.push_back(row.role);
+/// A file of records: it has the columns without which none can be read.
+template <typename Record>
+OtherKind FileOf(const Words& name, const RecordKind<Record>& records) {
+  OtherKind kind{name, {}};
+  for (const Field<Record>& field : records.fields) {
+    if (field.need == Need::kRequired && !field.names.column.empty())
+      kind.columns.emplace_back(field.names.column);
   }
-  return best;
+  return kind;
 }
 
-/// A table of column widths has columns of any name, and numbers below them.
-bool HasNumbersOnly(const Table& table) {
-  if (table.RowCount() == 0) return false;
-  for (std::size_t column = 0; column < table.ColumnCount(); ++column) {
-    if (!StrictInteger(table.Cell(1, column))) return false;
-  }
-  return true;
+OtherKind IndexTable() {
+  OtherKind kind{{"the index of configurations", "配置索引表"}, {}};
+  for (const ColumnSchema& column : SchemaOf(Role::kIndex).columns)
+    kind.columns.push_back(GbkToUtf8(column.column));
+  return kind;
 }
 
-FoundTable Found(const std::string& name, const std::optional<Table>& table) {
-  FoundTable found{name, table ? BestRoles(*table) : std::vector<Role>()};
-  found.isGuess = found.roles.empty() && table && HasNumbersOnly(*table);
-  if (found.isGuess) found.roles = {Role::kColumnWidths};
-  return found;
-}
-
-std::vector<FoundTable> TablesOf(const fs::path& folder, std::error_code& error) {
-  std::vector<FoundTable> tables;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    const std::string name = Utf8Name(entry.path());
-    if (!name.ends_with(".csv") && !name.ends_with(".CSV")) continue;
-    const std::u8string path = entry.path().u8string();
-    const auto table = Table::Read(HostPathFromUtf8(std::string(path.begin(), path.end())));
-    tables.push_back(Found(name, table));
-  }
-  std::sort(tables.begin(), tables.end(),
-            [](const FoundTable& a, const FoundTable& b) { return a.name < b.name; });
-  return tables;
-}
-
-/// The roles that only one table can play, of those whose columns fit no other role.
-std::map<Role, std::string> OnlyChoices(const std::vector<FoundTable>& tables) {
-  std::map<Role, std::string> certain;
-  for (const FoundTable& table : tables) {
-    if (table.roles.size() != 1 || table.isGuess) continue;
-    const auto rivals = std::count_if(tables.begin(), tables.end(),
-                                      [&](const FoundTable& other) { return other.roles == table.roles; });
-    if (rivals == 1) certain[table.roles.front()] = table.name;
-  }
-  return certain;
-}
-
-/// Which table plays a role for certain. A role that has its table is none for the others, which may decide
-/// them too.
-std::map<Role, std::string> Certain(std::vector<FoundTable> tables) {
-  std::map<Role, std::string> certain;
-  for (std::map<Role, std::string> more = OnlyChoices(tables); !more.empty(); more = OnlyChoices(tables)) {
-    certain.merge(more);
-    for (FoundTable& table : tables)
-      std::erase_if(table.roles, [&](const Role role) { return certain.contains(role); });
-  }
-  return certain;
+/// What else a keeper has in the folder of the tables.
+std::vector<OtherKind> OtherKinds() {
+  return {FileOf({"a file of plates", "板文件"}, PlateFields(PlateVocabulary({}))),
+          FileOf({"a file of combined holes", "组合孔文件"}, SegmentFields()),
+          FileOf({"a file of hole types", "孔类型文件"}, HoleTypeFields()), IndexTable()};
 }
 
 std::string Manifest(const std::map<Role, std::string>& files) {
@@ -125,31 +57,7 @@ std::string Manifest(const std::map<Role, std::string>& files) {
   return json.dump(2) + "\n";
 }
 
-std::string RoleNames(const std::vector<Role>& roles) {
-  std::vector<std::string> names;
-  names.reserve(roles.size());
-  for (const Role role : roles) names.emplace_back(NameOf(role));
-  return Listed(names);
-}
-
-/// What is left to the user.
-void WriteDoubts(const std::vector<FoundTable>& tables, const std::map<Role, std::string>& certain,
-                 Context& context) {
-  std::ostream& out = context.streams.out;
-  for (const FoundTable& table : tables) {
-    const bool isCertain = std::any_of(certain.begin(), certain.end(),
-                                       [&](const auto& entry) { return entry.second == table.name; });
-    if (isCertain) continue;
-    context.reporter.CountFinding();
-    out << "  " << OnOneLine(table.name) << ": "
-        << (table.roles.empty()
-                ? Say("no column of any role", "没有任何用途的列")
-                : Say("may be {}; add it by hand", "可能是 {}；请手工加入", RoleNames(table.roles)))
-        << "\n";
-  }
-}
-
-void WriteSummary(const std::map<Role, std::string>& certain, Context& context) {
+void WriteFound(const std::map<Role, std::string>& certain, Context& context) {
   for (const auto& [role, file] : certain)
     context.streams.out << "  " << NameOf(role) << ": " << OnOneLine(file) << "\n";
   std::vector<std::string> missing;
@@ -160,26 +68,42 @@ void WriteSummary(const std::map<Role, std::string>& certain, Context& context) 
     context.streams.out << Say("without a table: {}", "未指定表的用途：{}", Listed(missing)) << "\n";
 }
 
-void RunInit(const InitJob& job, Context& context) {
-  const fs::path folder = PathFromUtf8(job.folder);
+/// What is left to the user, and what is left out because it is no table.
+void WriteLeftOut(const std::vector<LeftOutFile>& files, Context& context) {
+  for (const LeftOutFile& file : files) {
+    if (file.isDoubtful) context.reporter.CountFinding();
+    context.streams.out << "  " << Say("{}: {}", "{}：{}", OnOneLine(file.name), file.why) << "\n";
+  }
+}
+
+/// False, with an error, when there is no such folder.
+bool IsFolder(const std::string& name, Reporter& reporter) {
   std::error_code error;
-  if (!fs::is_directory(folder, error))
-    return context.reporter.Error({job.folder}, Say("this folder does not exist", "此文件夹不存在"));
-  const std::string path =
-      job.folder + (job.folder.ends_with('/') || job.folder.ends_with('\\') ? "" : "/") + kManifestName;
-  const std::vector<FoundTable> tables = TablesOf(folder, error);
-  const std::map<Role, std::string> certain = Certain(tables);
-  if (certain.empty())
+  const std::filesystem::path path = PathFromUtf8(name);
+  if (std::filesystem::is_directory(path, error)) return true;
+  reporter.Error({name}, std::filesystem::exists(path, error)
+                             ? FileInsteadOfFolder()
+                             : Say("this folder does not exist", "此文件夹不存在"));
+  return false;
+}
+
+void RunInit(const InitJob& job, Context& context) {
+  if (!IsFolder(job.folder, context.reporter)) return;
+  const FoundRoles found = FindRoles(PathFromUtf8(job.folder), OtherKinds());
+  if (found.certain.empty()) {
+    WriteLeftOut(found.leftOut, context);
     return context.reporter.Error({job.folder},
                                   Say("no table here has the columns of a role, so there is nothing to write",
                                       "此处没有一个表具有任何用途的列，因此没有可写的内容"));
+  }
+  const std::string path = ManifestIn(job.folder);
   const auto file = OutputFile::Open(path, IfPresent::kMustNotExist, context.reporter);
   if (!file) return;
-  file->Stream() << Manifest(certain);
+  file->Stream() << Manifest(found.certain);
   if (!file->Finish(context.reporter)) return;
   context.streams.out << OnOneLine(path) << "\n";
-  WriteSummary(certain, context);
-  WriteDoubts(tables, certain, context);
+  WriteFound(found.certain, context);
+  WriteLeftOut(found.leftOut, context);
 }
 
 }  // namespace

@@ -159,6 +159,7 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
         .add_option_function<std::string>(
             "--" + std::string(NameOf(role)), take,
             Say("this table instead of the configuration's own", "用此表代替配置中的表"))
+        ->check(NotEmpty())
         ->type_name(Say("FILE", "文件"));
   }
 }
@@ -179,7 +180,8 @@ Run WithOutput(CLI::App& command, Run run) {
   const auto options = std::make_shared<OutputOptions>();
   command
       .add_option("-o,--output", options->file,
-                  Say("write the result to this file (CSV: in GBK)", "将结果写入此文件（CSV 为 GBK 编码）"))
+                  Say("write the result to this file; its ending .csv or .json says the form (CSV: in GBK)",
+                      "将结果写入此文件；扩展名 .csv、.json 决定格式（CSV 为 GBK 编码）"))
       ->check(NotEmpty())
       ->type_name(Say("FILE", "文件"));
   command.add_flag("--force", options->force, Say("replace a file that exists", "覆盖已有文件"));
@@ -204,6 +206,7 @@ void AddPlateOptions(CLI::App& command, PlateJob& job) {
                   Say("plates: a CSV file (GBK or UTF-8) or a JSON file; - reads standard input",
                       "板：CSV 文件（GBK 或 UTF-8）或 JSON 文件；- 表示标准输入"))
       ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
       ->required();
   AddFailOn(command, job.failOn);
 }

@@ -148,7 +148,8 @@ class ShowRun {
   }
 
   void WriteSummary() {
-    std::string line = Say("{} settings of {} tables", "{} 项设置，{} 个表", settings_, tables_);
+    std::string line =
+        Say("{} of {}", "{} 项设置，{} 个表", Counted(settings_, "setting"), Counted(tables_, "table"));
     const std::string folder = configuration_.FolderThatWasRead();
     if (!folder.empty()) line += Say("; configuration {}", "；配置 {}", OnOneLine(folder));
     *context_.summary << line << "\n";

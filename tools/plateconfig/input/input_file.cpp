@@ -40,7 +40,11 @@ void VisitInput(const InputFile& file, const Streams& streams, Reporter& reporte
     return reporter.Error({name}, Say("this is a folder, not a file", "这是文件夹，不是文件"));
   }
   InputFileStream in(path);
-  if (!in) return reporter.Error({name}, Say("this file can not be opened", "无法打开此文件"));
+  if (!in) {
+    return reporter.Error({name}, std::filesystem::exists(path, error)
+                                      ? Say("this file can not be opened", "无法打开此文件")
+                                      : Say("there is no such file", "此文件不存在"));
+  }
   const auto size = std::filesystem::file_size(path, error);
   Visit({in, name, error ? 0 : static_cast<std::size_t>(size), file.nothingRead}, streams, reporter, read);
 }

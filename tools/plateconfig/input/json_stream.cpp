@@ -1,6 +1,7 @@
 #include "plateconfig/input/json_stream.h"
 
 #include "analysis/text/file_form.h"
+#include "plateconfig/input/json_slip.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
@@ -10,6 +11,9 @@ namespace {
 constexpr std::size_t kLargestObject = std::size_t{16} << 20;
 
 constexpr int kEnd = std::istream::traits_type::eof();
+
+constexpr JsonSlipCodes kSlips = {"input-json-full-width", "input-json-comma-last",
+                                  "input-json-comma-missing"};
 
 bool IsBlank(char c) {
   return std::string_view(" \t\r\n").find(c) != std::string_view::npos;
@@ -47,6 +51,12 @@ class Nesting {
 JsonStream::JsonStream(std::istream& in, const std::string& file, Reporter& reporter)
     : in_(in), file_(file), reporter_(reporter) {
   SkipByteOrderMark();
+}
+
+/// Reports why nothing more can be read.
+void JsonStream::GiveUp(Code code, Position position) {
+  isLost_ = true;
+  Report({.code = code}, position);
 }
 
 void JsonStream::SkipByteOrderMark() {
@@ -104,13 +114,41 @@ void JsonStream::TakeSeparator(char c) {
   }
 }
 
+/// The bytes of the next character, as far as they follow each other.
+std::string JsonStream::TakeCharacter() {
+  std::string character(1, Take());
+  while (static_cast<unsigned char>(character.front()) >= 0x80 && Peek() != kEnd && (Peek() & 0xC0) == 0x80)
+    character += Take();
+  return character;
+}
+
+/// Whether a character that was taken is one half of the byte order mark of UTF-16, or a zero beside the
+/// first sign.
+bool JsonStream::BeginsUtf16(char c, Position position) {
+  if (position == Position{1, 2}) return c == '\0';
+  if (position != Position{1, 1}) return false;
+  const int next = Peek();
+  switch (static_cast<unsigned char>(c)) {
+    case 0xFF:
+      return next == 0xFE;
+    case 0xFE:
+      return next == 0xFF;
+    case 0:
+      return next == '{' || next == '[';
+    default:
+      return false;
+  }
+}
+
 /// Reports what stands where an object should, once, and passes it over.
 void JsonStream::SkipStray() {
   const Position position = counter_.At();
-  const char first = Take();
-  const bool isAscii = static_cast<unsigned char>(first) < 0x80;
-  Report({.code = "input-json-stray", .text = isAscii ? std::string(1, first) : "…", .words = {"{…}"}},
-         position);
+  const std::string character = TakeCharacter();
+  const char first = character.front();
+  if (BeginsUtf16(first, position)) return GiveUp("input-json-utf16", {});
+  const Finding stray{
+      .code = "input-json-stray", .text = character.size() == 1 ? character : "…", .words = {"{…}"}};
+  Report(FullWidthSlip(character, {}, kSlips.fullWidth).value_or(stray), position);
   if (first == ']' && openLists_ > 0) {
     --openLists_;
     before_ = Before::kValue;
@@ -130,27 +168,43 @@ void JsonStream::CheckEnd() {
 std::optional<JsonNode> JsonStream::ReadObject() {
   const Place start = PlaceIn(file_, counter_.At());
   before_ = Before::kValue;
-  const std::optional<std::string> text = TakeObject();
-  if (!text) {
+  std::string text;
+  if (!TakeObject(text)) {
     isLost_ = true;
-    reporter_.Report({.code = "input-json-open-object", .place = start});
-  } else if (!IsValidUtf8(*text)) {
+    const Finding open{.code = "input-json-open-object", .place = start};
+    reporter_.Report(FindFullWidthSlip(text, start, kSlips.fullWidth).value_or(open));
+  } else if (text[1] == '\0') {  // An object has two characters at least.
+    GiveUp("input-json-utf16", {});
+  } else if (!IsValidUtf8(text)) {
     reporter_.Report({.code = "input-json-encoding", .place = start});
-  } else if (JsonNode node; ParseJson(*text, start, reporter_, node)) {
+  } else if (JsonNode node; Parse(text, start, node)) {
     return node;
   }
   return std::nullopt;
 }
 
-/// The characters of one object; nothing when it is never closed.
-std::optional<std::string> JsonStream::TakeObject() {
-  std::string text;
+/// Takes the characters of one object; false when it is never closed.
+bool JsonStream::TakeObject(std::string& text) {
   Nesting nesting;
   while (text.size() < kLargestObject && Peek() != kEnd) {
     text += Take();
-    if (nesting.Take(text.back())) return text;
+    if (nesting.Take(text.back())) return true;
   }
-  return std::nullopt;
+  return false;
+}
+
+/// False, with what is wrong reported, for an object that is no JSON.
+bool JsonStream::Parse(const std::string& text, const Place& start, JsonNode& node) {
+  HeldFindings held(reporter_);
+  if (ParseJson(text, start, reporter_, node)) return true;
+  const std::optional<Finding> slip = FindJsonSlip(text, start, kSlips);
+  if (!slip) {
+    held.Tell();
+    return false;
+  }
+  held.Drop();
+  reporter_.Report(*slip);
+  return false;
 }
 
 }  // namespace plateconfig

@@ -34,7 +34,11 @@ class JsonStream {
   void SkipByteOrderMark();
   void TakeSeparator(char c);
   std::optional<JsonNode> ReadObject();
-  std::optional<std::string> TakeObject();
+  bool TakeObject(std::string& text);
+  bool Parse(const std::string& text, const Place& start, JsonNode& node);
+  std::string TakeCharacter();
+  bool BeginsUtf16(char c, Position position);
+  void GiveUp(Code code, Position position);
   void SkipStray();
   void CheckEnd();
   void Report(Finding finding, Position position);

@@ -26,6 +26,12 @@ std::string SayPlain(std::string_view english, std::string_view chinese) {
   return std::string(current == Language::kChinese ? chinese : english);
 }
 
+std::string Counted(std::size_t count, std::string_view noun) {
+  if (current == Language::kChinese) return fmt::format("{}", count);
+  const std::string_view ending = count == 1 ? "" : noun.ends_with('s') ? "es" : "s";
+  return fmt::format("{} {}{}", count, noun, ending);
+}
+
 std::string DidYouMean(const std::string& similar) {
   return similar.empty() ? std::string() : Say("; did you mean \"{}\"?", "；是否应为“{}”？", similar);
 }

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,6 +35,10 @@ std::string Say(fmt::format_string<const Arguments&...> english,
   const fmt::string_view text = CurrentLanguage() == Language::kChinese ? chinese : english;
   return fmt::vformat(text, fmt::make_format_args(arguments...));
 }
+
+/// A number of things for a text: in English with the noun, 1 table or 2 tables; in Chinese, which has one
+/// form and a measure word between, the number alone.
+std::string Counted(std::size_t count, std::string_view noun);
 
 /// What a message about a wrong name ends with: the name that was probably meant; nothing when `similar` is
 /// empty.

@@ -35,8 +35,8 @@ void Reporter::TellHowManyMore() {
     if (count <= kMostOfOneKind) continue;
     if (prepare_) prepare_();
     err_ << OnOneLine(kind.second) << ": "
-         << Say("{} more messages of this kind are not shown: {}", "另有 {} 条同类信息未显示：{}",
-                count - kMostOfOneKind, kind.first)
+         << Say("{} of this kind not shown: {}", "另有 {} 条同类信息未显示：{}",
+                Counted(count - kMostOfOneKind, "more message"), kind.first)
          << "\n";
   }
   told_.clear();

@@ -29,8 +29,9 @@ std::vector<std::string> IncompleteTexts(const RuleRegions& regions) {
   for (const RegionsLeftOut& leftOut : regions.incomplete) {
     const std::string group = GroupText(leftOut.group, regions.answersAgree);
     if (leftOut.boxes > 0) {
-      texts.push_back(Say("{}: {} more regions are not listed; --limit 0 lists all",
-                          "{}：另有 {} 个区域未列出；用 --limit 0 列出全部", group, leftOut.boxes));
+      texts.push_back(Say("{}: {} not listed; --limit 0 lists all",
+                          "{}：另有 {} 个区域未列出；用 --limit 0 列出全部", group,
+                          Counted(leftOut.boxes, "more region")));
     }
     if (leftOut.searchEnded) {
       texts.push_back(Say("{}: not all plates were compared, the tables differ in too many places",

@@ -87,16 +87,17 @@ class Writer {
  private:
   void WriteHead() {
     if (report_.plateCount) {
-      out_ << Say("this edit changes {} of {} plates", "此修改影响 {1} 块板中的 {0} 块",
-                  report_.plates.size(), *report_.plateCount)
+      out_ << Say("this edit changes {} of {}", "此修改影响 {1} 块板中的 {0} 块", report_.plates.size(),
+                  Counted(*report_.plateCount, "plate"))
            << "\n";
     }
     const ConfigurationDifference& difference = report_.difference;
     out_ << (report_.IsEmpty()
                  ? Say("no difference", "没有差别")
-                 : Say("different: {} settings, {} rule rows, {} regions of plates",
-                       "有差别：{} 项设置，{} 个规则行，{} 个板的区域", difference.settings.size(),
-                       difference.rows.size(), difference.regions.regions.size()))
+                 : Say("different: {}, {}, {} of plates", "有差别：{} 项设置，{} 个规则行，{} 个板的区域",
+                       Counted(difference.settings.size(), "setting"),
+                       Counted(difference.rows.size(), "rule row"),
+                       Counted(difference.regions.regions.size(), "region")))
          << "\n";
   }
 

@@ -72,17 +72,20 @@ void WriteFile(const Finding* begin, const Finding* end, std::ostream& out) {
 }
 
 void WriteSummary(const CheckReport& report, std::ostream& out) {
-  out << Say("{} errors, {} warnings, {} hints in {} tables, {} rule rows, {} processes",
+  out << Say("{}, {}, {} in {}, {}, {}",
              "{} 个错误，{} 个警告，{} 个提示；共 {} 个表，{} 个规则行，{} 个工艺",
-             CountOf(report, Severity::kError), CountOf(report, Severity::kWarning),
-             CountOf(report, Severity::kHint), report.tables.size(), report.ruleRows, report.processes)
+             Counted(CountOf(report, Severity::kError), "error"),
+             Counted(CountOf(report, Severity::kWarning), "warning"),
+             Counted(CountOf(report, Severity::kHint), "hint"), Counted(report.tables.size(), "table"),
+             Counted(report.ruleRows, "rule row"), Counted(report.processes, "process"))
       << "\n";
 }
 
 std::string NothingFound(const CheckReport& report) {
-  return report.accepted == 0 ? Say("nothing found; checked:", "没有发现问题；已检查：")
-                              : Say("nothing found but {} accepted findings; checked:",
-                                    "除 {} 项已接受的以外，没有发现问题；已检查：", report.accepted);
+  return report.accepted == 0
+             ? Say("nothing found; checked:", "没有发现问题；已检查：")
+             : Say("nothing found but {}; checked:", "除 {} 项已接受的以外，没有发现问题；已检查：",
+                   Counted(report.accepted, "accepted finding"));
 }
 
 void WriteTables(const CheckReport& report, std::ostream& out) {

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <sstream>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "analysis/text/file_form.h"
-#include "analysis/text/position_counter.h"
+#include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
 #include "plateconfig/input/json_node.h"
+#include "plateconfig/input/json_slip.h"
 #include "plateconfig/input/json_values.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/console.h"
@@ -34,12 +34,26 @@ std::string_view WithoutByteOrderMark(std::string_view utf8) {
   return utf8.starts_with(kByteOrderMark) ? utf8.substr(kByteOrderMark.size()) : utf8;
 }
 
+/// The role that a name was probably meant to be: almost its own, or what the keepers call its table, as it
+/// is or as the name of a file.
+std::string MeantRole(const std::string& name) {
+  const std::vector<std::string_view> roles = NamesOf(ManifestRoles());
+  if (const std::string role = ProbablyMeantName(name, {roles.begin(), roles.end()}); !role.empty())
+    return role;
+  constexpr std::string_view kEnding = ".csv";
+  const std::string folded = FoldedName(name);
+  const std::string table =
+      folded.ends_with(kEnding) ? folded.substr(0, folded.size() - kEnding.size()) : folded;
+  const auto row = std::find_if(ManifestRoles().begin(), ManifestRoles().end(),
+                                [&](const RoleRow& each) { return FoldedName(each.chineseName) == table; });
+  return row == ManifestRoles().end() ? std::string() : std::string(row->name);
+}
+
 Finding UnknownRole(const std::string& name, const Place& place) {
-  const std::vector<std::string_view> known = NamesOf(ManifestRoles());
   Finding finding{"manifest-role-unknown", place};
   finding.text = name;
-  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
-  if (!similar.empty()) finding.fix = similar;
+  const std::string meant = MeantRole(name);
+  if (!meant.empty()) finding.fix = meant;
   return finding;
 }
 
@@ -48,57 +62,19 @@ bool IsAbsolute(std::string_view path) {
   return path.starts_with('/') || path.starts_with('\\') || (path.size() > 1 && path[1] == ':');
 }
 
-struct FullWidth {
-  std::string_view character;
-  std::string_view half;
-};
-
-/// What a Chinese keyboard writes between the texts of a manifest.
-constexpr FullWidth kFullWidth[] = {{"\u201C", "\""}, {"\u201D", "\""}, {"\uFF1A", ":"}, {"\uFF0C", ","},
-                                    {"\uFF5B", "{"},  {"\uFF5D", "}"},  {"\u3001", ","}};
-
-/// The first full-width sign outside of the texts, of a manifest that is no JSON.
-std::optional<Finding> FullWidthSign(std::string_view text, const std::string& file) {
-  PositionCounter counter;
-  bool isInText = false;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const auto sign = std::find_if(std::begin(kFullWidth), std::end(kFullWidth), [&](const FullWidth& each) {
-      return text.substr(at).starts_with(each.character);
-    });
-    if (!isInText && sign != std::end(kFullWidth)) {
-      Finding finding{"manifest-full-width", PlaceIn(file, counter.At())};
-      finding.text = std::string(sign->character);
-      finding.fix = std::string(sign->half);
-      return finding;
-    }
-    if (text[at] == '"' || text[at] == '\n') isInText = text[at] == '"' && !isInText;
-    counter.Take(text[at]);
-  }
-  return std::nullopt;
-}
-
-/// A comma with nothing but the closing brace behind it, outside of the texts.
-std::optional<Finding> CommaBehindTheLast(std::string_view text, const std::string& file) {
-  PositionCounter counter;
-  bool isInText = false;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::size_t next = text.find_first_not_of(" \t\r\n", at + 1);
-    if (!isInText && text[at] == ',' && next != std::string_view::npos && text[next] == '}')
-      return Finding{"manifest-comma-last", PlaceIn(file, counter.At())};
-    if (text[at] == '"') isInText = !isInText;
-    counter.Take(text[at]);
-  }
-  return std::nullopt;
-}
-
-/// What a hand got wrong in a manifest that is no JSON; where that is not known, what the parser says.
-Finding MistakeIn(std::string_view text, const std::string& file, const Finding& parsers) {
-  if (const auto sign = FullWidthSign(text, file)) return *sign;
-  return CommaBehindTheLast(text, file).value_or(parsers);
-}
+constexpr JsonSlipCodes kSlips = {"manifest-full-width", "manifest-comma-last", "manifest-comma-missing"};
 
 bool EndsWithSeparator(const std::string& path) {
   return path.ends_with('/') || path.ends_with('\\');
+}
+
+/// A path as a command line takes it.
+std::string AsArgument(const std::string& path) {
+  return path.find(' ') == std::string::npos ? path : "\"" + path + "\"";
+}
+
+std::string WithSeparator(const std::string& folder) {
+  return EndsWithSeparator(folder) ? folder : folder + "/";
 }
 
 }  // namespace
@@ -106,6 +82,15 @@ bool EndsWithSeparator(const std::string& path) {
 std::optional<std::string> RootThatIsSet() {
   std::optional<std::string> root = ConfigurationRoot();
   return root && !root->empty() ? root : std::nullopt;
+}
+
+std::string ManifestIn(const std::string& folder) {
+  return WithSeparator(folder) + kManifestName;
+}
+
+std::string FileInsteadOfFolder() {
+  return Say("this is a file, not a folder; give the folder that it lies in",
+             "这是文件，不是文件夹；请给出它所在的文件夹");
 }
 
 std::optional<TableFile> Configuration::Find(Role role) {
@@ -163,11 +148,10 @@ bool Configuration::FindFolder() {
   if (!options_.folder.empty()) {
     std::error_code error;
     if (std::filesystem::is_regular_file(PathFromUtf8(options_.folder), error)) {
-      reporter_.Error({options_.folder}, Say("this is a file, not a folder; give the folder that it lies in",
-                                             "这是文件，不是文件夹；请给出它所在的文件夹"));
+      reporter_.Error({options_.folder}, FileInsteadOfFolder());
       return false;
     }
-    folder_ = FromCommandLine(EndsWithSeparator(options_.folder) ? options_.folder : options_.folder + "/");
+    folder_ = FromCommandLine(WithSeparator(options_.folder));
     return true;
   }
   const std::optional<std::string> root = RootThatIsSet();
@@ -193,6 +177,7 @@ void Configuration::ReadManifest() {
   const std::optional<FileBytes> bytes = ReadWholeFile(manifest.hostPath);
   if (!bytes && !FileExists(folder_.hostPath))
     return reporter_.Report({"config-folder-missing", {folder_.shownAs}});
+  if (!bytes && !FileExists(manifest.hostPath)) return ReportMissing(manifest);
   if (!bytes) return reporter_.Report({"manifest-unreadable", {manifest.shownAs}});
   if (!IsValidUtf8(bytes->View())) return reporter_.Report({"manifest-encoding", {manifest.shownAs}});
   const std::string_view text = WithoutByteOrderMark(bytes->View());
@@ -202,7 +187,7 @@ void Configuration::ReadManifest() {
   Reporter parsers(nowhere);
   parsers.CollectInto(&told);
   if (!ParseJson(text, {manifest.shownAs, 1, 1}, parsers, root))
-    return reporter_.Report(MistakeIn(text, manifest.shownAs, told.front()));
+    return reporter_.Report(FindJsonSlip(text, {manifest.shownAs, 1, 1}, kSlips).value_or(told.front()));
   if (root.kind != JsonNode::Kind::kObject) {
     Finding finding{"manifest-no-object", PlaceIn(manifest.shownAs, root.position)};
     finding.words = {{"{ role: file name, … }", "{ 用途: 文件名, … }"}};
@@ -212,6 +197,14 @@ void Configuration::ReadManifest() {
   JsonValues(manifest.shownAs, reporter_)
       .ForEachMember(root,
                      [&](const std::string& name, const JsonNode& file) { ReadRole(name, file, manifest); });
+}
+
+void Configuration::ReportMissing(const TableFile& manifest) {
+  const TableFile renamed = *InFolder(kManifestName + std::string(".txt"));
+  if (FileExists(renamed.hostPath)) return reporter_.Report({"manifest-ending", {renamed.shownAs}});
+  Finding finding{"manifest-missing", {manifest.shownAs}};
+  finding.words = {AsArgument(FolderThatWasRead())};
+  reporter_.Report(finding);
 }
 
 void Configuration::ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest) {

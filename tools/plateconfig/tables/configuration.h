@@ -30,6 +30,12 @@ struct TableFile {
 /// The configuration root that the host's variable names; one that is empty counts as unset.
 std::optional<std::string> RootThatIsSet();
 
+/// The manifest of a folder (UTF-8).
+std::string ManifestIn(const std::string& folder);
+
+/// What is said of a file where a folder should be.
+std::string FileInsteadOfFolder();
+
 /// Lives as long as its tables are read.
 class Configuration {
  public:
@@ -57,6 +63,7 @@ class Configuration {
   std::optional<TableFile> ReadableAgain(const TableFile& table);
   bool FindFolder();
   void ReadManifest();
+  void ReportMissing(const TableFile& manifest);
   void ReadRole(const std::string& name, const JsonNode& file, const TableFile& manifest);
   void CheckName(const std::string& name, const Place& place);
   std::optional<TableFile> InFolder(const std::string& name) const;
