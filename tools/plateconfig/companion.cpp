@@ -131,13 +131,20 @@ bool HasFormat(const Verb& verb, const std::string& format) {
   return format.empty() || std::find(formats.begin(), formats.end(), format) != formats.end();
 }
 
+/// What was given for an option of the verb; empty for nothing. The parser's own search ends the program when
+/// memory fails.
+std::string GivenAs(const std::string& option, const CLI::App& verb) {
+  for (const CLI::Option* each : verb.get_options()) {
+    if (each->check_name(option) && each->count() > 0) return each->results().front();
+  }
+  return {};
+}
+
 /// The form that the ending of the output's name asks for; empty when it asks for none, or when the verb has
 /// been told a form of its own.
 std::string FormatOfEnding(const CLI::App& verb) {
-  const CLI::Option* own = verb.get_option_no_throw("--format");
-  const CLI::Option* output = verb.get_option_no_throw("--output");
-  if ((own != nullptr && own->count() > 0) || output == nullptr || output->count() == 0) return {};
-  const std::string name = FoldedName(output->results().front());
+  if (!GivenAs("--format", verb).empty()) return {};
+  const std::string name = FoldedName(GivenAs("--output", verb));
   return name.ends_with(".csv") ? "csv" : name.ends_with(".json") ? "json" : "";
 }
 
