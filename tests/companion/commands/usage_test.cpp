@@ -11,10 +11,14 @@ namespace plateconfig {
 namespace {
 
 using test::RunPlateconfig;
+using ::testing::AllOf;
+using ::testing::AnyOf;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 using Words = std::vector<std::string>;
 
@@ -130,8 +134,10 @@ TEST(Usage, EveryVerbNamesWhatItRequires) {
     const Words complete = Complete(verb);
     if (complete.size() == 1) continue;
     EXPECT_THAT(Complaint({verb.name}), HasSubstr(" is missing: "));
-    EXPECT_THAT(Complaint({verb.name, "--lang", "zh"}),
-                MatchesRegex("plateconfig: 错误: 缺少(参数|选项)：.+（.+）"));
+    const std::string chinese = Complaint({verb.name, "--lang", "zh"});
+    EXPECT_THAT(chinese, AnyOf(StartsWith("plateconfig: 错误: 缺少参数："),
+                               StartsWith("plateconfig: 错误: 缺少选项：")));
+    EXPECT_THAT(chinese, AllOf(HasSubstr("（"), EndsWith("）")));
   }
 }
 
