@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "text/text_buffer.h"
 #include "platform/diagnostic_file.h"
 #include "rules/evaluation.h"
+#include "text/text_buffer.h"
 
 namespace plateconfig {
 
