@@ -19,8 +19,8 @@ std::string NumberText(double value) {
 
 /// Row numbers as a sentence names them: rows 2, 5.
 Word RowsText(const std::vector<int>& rows) {
-  std::vector<std::string> numbers;
-  for (const int row : rows) numbers.push_back(std::to_string(row));
+  std::vector<std::string> numbers(rows.size());
+  std::transform(rows.begin(), rows.end(), numbers.begin(), [](int row) { return std::to_string(row); });
   const Word listed = Enumerated(numbers);
   return {(rows.size() == 1 ? "row " : "rows ") + listed.english, "第 " + listed.chinese + " 行"};
 }
