@@ -151,7 +151,7 @@ std::optional<Finding> FindFullWidthSlip(std::string_view text, const Place& sta
   bool isInText = false;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const Place place = PlaceIn(start.file, counter.At());
-    const auto slip = isInText ? std::nullopt : FullWidthSlip(text.substr(at), place, code);
+    auto slip = isInText ? std::nullopt : FullWidthSlip(text.substr(at), place, code);
     if (slip) return slip;
     if (text[at] == '"' || text[at] == '\n') isInText = text[at] == '"' && !isInText;
     counter.Take(text[at]);

@@ -24,7 +24,7 @@ fs::path TemporaryNameFor(fs::path path) {
 /// path itself when it is none.
 fs::path BehindLinks(const fs::path& path) {
   std::error_code error;
-  const fs::path target = fs::canonical(path, error);
+  fs::path target = fs::canonical(path, error);
   if (!error) return target;
   const fs::path next = fs::read_symlink(path, error);
   return error ? path : path.parent_path() / next;
