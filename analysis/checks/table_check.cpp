@@ -36,6 +36,10 @@ Consequences ConsequencesOf(const GivenTable& given) {
   return {kAbsentColumns, kAbsentColumns};
 }
 
+void RaiseNotRead(const GivenTable& given, const Raise& raise) {
+  RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
+}
+
 /// True when names can be looked for in the table.
 bool CheckFile(const GivenTable& given, const TableText& text, const Raise& raise) {
   const auto names = ReadColumns(SchemaOf(given.role), *given.table);
@@ -56,13 +60,17 @@ RuleAnalysisEnd CheckRules(const GivenTable& given, const TableText& text, const
 
 bool CheckFile(const GivenTable& given, const Raise& raise) {
   if (given.table) return CheckFile(given, TableText(given.name, *given.table), raise);
-  RaiseUnreadable(given.name, given.exists, ConsequencesOf(given), raise);
+  RaiseNotRead(given, raise);
   return false;
 }
 
 RuleAnalysisEnd CheckTable(const GivenTable& given, const RuleAnalysis& analysis, const Raise& raise) {
-  if (!CheckFile(given, raise)) return {};
+  if (!given.table) {
+    RaiseNotRead(given, raise);
+    return {};
+  }
   const TableText text(given.name, *given.table);
+  if (!CheckFile(given, text, raise)) return {};
   const ToldHeaders toldHeaders = CheckColumns(text, SchemaOf(given.role), raise);
   CheckCells(text, SchemaOf(given.role), raise);
   if (given.role == Role::kProcessRules) return CheckRules(given, text, analysis, toldHeaders, raise);

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "analysis/text/separator.h"
+#include "text/byte_order_mark.h"
 #include "text/gbk.h"
 
 namespace plateconfig {

@@ -7,9 +7,6 @@
 
 namespace plateconfig {
 
-/// What a program may write in front of UTF-8 to say that it is that.
-inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 enum class FileForm {
   kTable,            ///< Nothing speaks against commas, lines and GBK.
   kWorkbook,         ///< An Excel workbook, new (zip) or old (compound file), whatever its name says.

@@ -37,7 +37,7 @@ class Gathering {
   }
 
   void NoteMissing(const RoleRow& role) {
-    Finding finding{"role-without-file", {configuration_.FolderName() + "tables.json"}};
+    Finding finding{"role-without-file", {ManifestIn(configuration_.FolderName())}};
     finding.text = std::string(role.name);
     gathered_.wayThere.push_back(finding);
   }

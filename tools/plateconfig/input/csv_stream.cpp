@@ -7,6 +7,7 @@
 #include "analysis/text/position_counter.h"
 #include "analysis/text/separator.h"
 #include "config/quotes.h"
+#include "text/byte_order_mark.h"
 #include "text/gbk.h"
 
 namespace plateconfig {

@@ -1,7 +1,7 @@
 #include "plateconfig/input/json_stream.h"
 
-#include "analysis/text/file_form.h"
 #include "plateconfig/input/json_slip.h"
+#include "text/byte_order_mark.h"
 #include "text/gbk.h"
 
 namespace plateconfig {

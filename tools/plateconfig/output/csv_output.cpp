@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "analysis/text/file_form.h"
 #include "analysis/text/table_text.h"
+#include "text/byte_order_mark.h"
 #include "text/gbk.h"
 #include "text/utf8_decode.h"
 

@@ -1,11 +1,12 @@
 #include "plateconfig/system/utf8_stream_buffer.h"
 
+#include "text/byte_order_mark.h"
+
 namespace plateconfig {
 namespace {
 
 constexpr std::size_t kEnoughToPassOn = 4096;
 constexpr std::size_t kLongestCharacter = 4;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;

@@ -7,7 +7,6 @@
 #include <system_error>
 #include <vector>
 
-#include "analysis/text/file_form.h"
 #include "analysis/text/folded_name.h"
 #include "analysis/text/similar_name.h"
 #include "config/configuration_index.h"
@@ -19,6 +18,7 @@
 #include "plateconfig/system/file_kind.h"
 #include "plateconfig/tables/reported_index.h"
 #include "platform/file.h"
+#include "text/byte_order_mark.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
