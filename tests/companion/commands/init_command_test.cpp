@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <fstream>
+
 #include "support/companion.h"
+#include "support/gbk_text.h"
 
 namespace plateconfig::test {
 namespace {
@@ -30,6 +33,18 @@ TEST_F(InitCommand, RolesAreFoundByTheColumnsOfTheTables) {
   EXPECT_EQ(Manifest(), "{\n  \"process-rules\": \"乙.csv\",\n  \"bom\": \"甲.csv\"\n}\n");
   EXPECT_THAT(run.out, HasSubstr("  process-rules: 乙.csv\n  bom: 甲.csv\n"));
 }
+
+#ifndef _WIN32  // Names there are UTF-16.
+// As a Chinese archive unpacks: 规则.csv in GBK.
+TEST_F(InitCommand, AFileWhoseNameIsNotUtf8IsNamedAndLeftOut) {
+  folder_.WriteTable("甲.csv", "密度(g/cm)\n7.85\n");
+  std::ofstream(folder_.Path() / "\xB9\xE6\xD4\xF2.csv") << Gbk("模板所在图层,长度范围,通用要求\n12,1_2,\n");
+  const auto run = Init();
+  EXPECT_EQ(run.exitCode, 1) << run.err;
+  EXPECT_EQ(Manifest(), "{\n  \"bom\": \"甲.csv\"\n}\n");
+  EXPECT_THAT(run.out, HasSubstr(".csv: its name is not UTF-8; give it another\n"));
+}
+#endif
 
 TEST_F(InitCommand, AColumnThatIsTheSameByChanceMakesNoRole) {
   folder_.WriteTable("甲.csv", "密度(g/cm)\n7.85\n");

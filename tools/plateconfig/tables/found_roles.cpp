@@ -23,6 +23,7 @@
 #include "plateconfig/messages/reporter.h"
 #include "plateconfig/system/console.h"
 #include "platform/file.h"
+#include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
@@ -172,6 +173,10 @@ void TakeWidths(const Table& table, Candidate& candidate) {
 Candidate CandidateFrom(const fs::path& path, const std::vector<OtherKind>& others) {
   Candidate candidate;
   candidate.name = Utf8(path.filename());
+  if (!IsValidUtf8(candidate.name)) {  // No manifest could hold it.
+    candidate.why = Say("its name is not UTF-8; give it another", "文件名不是 UTF-8；请改名");
+    return candidate;
+  }
   const std::optional<Table> table = Table::Read(HostPathFromUtf8(Utf8(path)));
   if (!table) {
     ForgetFailedRead();  // It is told here.
@@ -203,8 +208,10 @@ bool MayBeTable(const fs::directory_entry& entry) {
 std::vector<Candidate> CandidatesIn(const fs::path& folder, const std::vector<OtherKind>& others) {
   std::vector<Candidate> candidates;
   std::error_code error;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    if (MayBeTable(entry)) candidates.push_back(CandidateFrom(entry.path(), others));
+  // A loop over the folder itself would throw where it can not be read on.
+  for (fs::directory_iterator at(folder, error); !error && at != fs::directory_iterator();
+       at.increment(error)) {
+    if (MayBeTable(*at)) candidates.push_back(CandidateFrom(at->path(), others));
   }
   std::sort(candidates.begin(), candidates.end(),
             [](const Candidate& a, const Candidate& b) { return a.name < b.name; });
