@@ -54,6 +54,7 @@ TEST(RuleRegions, RowsThatOnlyMovedOrChangedNothingAreNoDifference) {
   EXPECT_THAT(Compare({a, b}, {b, a}).regions, IsEmpty());
   EXPECT_THAT(Compare({a, b}, {{.layer = ""}, a, b}).regions, IsEmpty());
   EXPECT_THAT(Compare({a, b}, {a, shadowed, b}).regions, IsEmpty());
+  EXPECT_THAT(Compare({a}, {{.length = "0_50", .drilling = "a"}, a}).regions, IsEmpty());
   EXPECT_THAT(
       Compare({a}, {{.length = "0_50", .drilling = "a"}, {.length = "50_100", .drilling = "a"}}).regions,
       IsEmpty());
