@@ -407,6 +407,20 @@ TEST(TableAgainstTheReference, ReadsLongTextsAlikeWhereverTheirCellsEnd) {
   }
 }
 
+TEST(TableAgainstTheReference, ReadsQuotedCellsAlikeWhereverTheirQuotesStand) {
+  std::mt19937 random(64);
+  for (int i = 0; i < 20'000 && !testing::Test::HasFatalFailure(); ++i) {
+    std::string text;
+    while (text.size() < 200) {
+      const std::string inside(random() % 12, 'x');
+      for (const char* piece : {"\"", inside.c_str(), ",\n\"\"", "\"", ","}) {
+        if (random() % 5 > 0) text += piece;
+      }
+    }
+    ExpectAsTheReferenceReads(text);
+  }
+}
+
 TEST(TableAgainstTheReference, ReadsBinaryJunkAlike) {
   std::mt19937 random(3);
   std::string everyByte;
