@@ -189,6 +189,12 @@ std::string Table::Cell(std::size_t row, std::size_t column) const {
   return text ? std::string(*text) : Unquoted(raw);
 }
 
+std::string_view Table::CellText(std::size_t row, std::size_t column, std::string& memory) const {
+  const std::string_view raw = RawCell(row, column);
+  if (const std::optional<std::string_view> text = TextInPlace(raw)) return *text;
+  return memory = Unquoted(raw);
+}
+
 std::vector<std::string> Table::Column(std::size_t column) const {
   std::vector<std::string> texts;
   texts.reserve(RowCount());

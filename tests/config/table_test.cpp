@@ -345,6 +345,8 @@ void ExpectAsTheReferenceReads(const std::string& text) {
   for (std::size_t row = 0; row < expected.size(); ++row) {
     for (std::size_t column = 0; column < expected[row].size(); ++column) {
       ASSERT_TRUE(table.CellEquals(row, column, expected[row][column])) << testing::PrintToString(text);
+      std::string memory;
+      ASSERT_EQ(table.CellText(row, column, memory), expected[row][column]) << testing::PrintToString(text);
     }
   }
 }
