@@ -1,7 +1,6 @@
 import { render } from "preact";
+import { Page } from "./app/app";
+import "./app/styles.css";
 import { openEngine } from "./engine/open_engine";
 
-render(<p>plateconfig</p>, document.body);
-
-// A test's hook, until there is a page.
-Object.assign(globalThis, { engine: openEngine() });
+render(<Page engine={openEngine()} />, document.body);
