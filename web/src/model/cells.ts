@@ -1,0 +1,17 @@
+// `picture cells FILE`: the cells of one table as a spreadsheet shows them.
+
+export interface CellRow {
+  /** Line of the file on which the row begins. */
+  readonly line: number;
+  /** Texts with the quotes taken off. */
+  readonly cells: readonly string[];
+}
+
+export interface TableCells {
+  readonly file: string;
+  readonly encoding: string;
+  /** The header first: `rows[n]` is row n + 1 of the spreadsheet. */
+  readonly rows: readonly CellRow[];
+  /** The most cells that a row has. */
+  readonly columns: number;
+}

@@ -1,0 +1,10 @@
+// `explain --format json`: what `process` says, and why.
+
+import type { ExplainedProcess, ProcessedPlate, RefusedRow } from "./process";
+
+export interface ExplainedPlate extends ProcessedPlate {
+  readonly processes: readonly ExplainedProcess[];
+  readonly refusedRows: readonly RefusedRow[];
+  readonly furtherRows: number;
+  readonly askedRow?: { readonly line: number; readonly fits: boolean };
+}
