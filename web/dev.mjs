@@ -40,7 +40,9 @@ async function answer(request) {
   if (request.method === "POST" && request.url === "/run") {
     const { args, files } = await bodyOf(request);
     const given = files.map(({ path, base64 }) => ({ path, bytes: Buffer.from(base64, "base64") }));
-    return ["application/json", JSON.stringify(await engine.run(args, given))];
+    const run = await engine.run(args, given);
+    const written = run.written.map(({ path, bytes }) => ({ path, base64: bytes.toString("base64") }));
+    return ["application/json", JSON.stringify({ ...run, written })];
   }
   return ["text/html", page({ ...(await bundle({ isServed: true, minify: false })), isServed: true })];
 }

@@ -1,3 +1,6 @@
 import { render } from "preact";
+import { Page } from "./app/app";
+import "./app/styles.css";
+import { openEngine } from "./engine/open_engine";
 
-render(<p>plateconfig</p>, document.body);
+render(<Page engine={openEngine()} />, document.body);

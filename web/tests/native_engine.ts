@@ -3,7 +3,7 @@
  * PLATECONFIG names, or else that of the debug build.
  */
 import { spawn } from "node:child_process";
-import { mkdir, mkdtemp, rm, writeFile } from "node:fs/promises";
+import { mkdir, mkdtemp, readdir, readFile, rm, writeFile } from "node:fs/promises";
 import { tmpdir } from "node:os";
 import { dirname, join, relative, resolve } from "node:path";
 import type { Engine, InputFile, Run } from "../src/engine/engine";
@@ -53,13 +53,28 @@ export function runNative(
   });
 }
 
+/** The files below a folder that were not given, or not like that. */
+async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
+  const entries = await readdir(folder, { recursive: true, withFileTypes: true });
+  const paths = entries
+    .filter((entry) => entry.isFile())
+    .map((entry) => relative(folder, join(entry.path, entry.name)));
+  const files = await Promise.all(
+    paths.map(async (path) => ({ path, bytes: await readFile(join(folder, path)) })),
+  );
+  return files.filter(
+    ({ path, bytes }) => !given.some((file) => file.path === path && bytes.equals(file.bytes)),
+  );
+}
+
 export class NativeEngine implements Engine {
   async run(args: readonly string[], files: readonly InputFile[], signal?: AbortSignal): Promise<Run> {
     const folder = await mkdtemp(join(tmpdir(), "plateconfig-page-"));
     try {
       await writeBelow(folder, files);
       const run = await runNative(args, folder, {}, signal);
-      return { code: run.code, out: run.out.toString(), err: run.err.toString() };
+      const written = await writtenBelow(folder, files);
+      return { code: run.code, out: run.out.toString(), err: run.err.toString(), written };
     } finally {
       await rm(folder, { recursive: true, force: true });
     }

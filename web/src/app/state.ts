@@ -16,7 +16,7 @@ export interface Workspace {
   readonly folder: "config" | "other";
   /** What lies in the folder: paths begin with `folder` and a slash. */
   readonly files: readonly InputFile[];
-  /** Named `plates.csv` or `plates.json` and so on in the engine's working folder. */
+  /** In the engine's working folder, under its own name: take `plates.path` for the command line. */
   readonly plates?: InputFile;
   readonly holes?: InputFile;
   readonly holeTypes?: InputFile;
@@ -54,6 +54,10 @@ export interface App {
   tryPlate(name: string): void;
   /** The plate that `tryPlate` asked for. */
   readonly triedPlate: string | undefined;
+  /** Puts a file that the program wrote into the workspace; the disk stays as it is. */
+  addFile(name: string, bytes: Uint8Array): void;
+  /** The file that was added so, until the folder is read again. */
+  readonly addedFile: string | undefined;
 }
 
 export const AppContext = createContext<App | undefined>(undefined);

@@ -16,6 +16,8 @@ export interface Run {
   readonly code: number;
   readonly out: string;
   readonly err: string;
+  /** Files that the run wrote or changed, as `init` and `-o` do. */
+  readonly written: readonly InputFile[];
 }
 
 export interface Engine {

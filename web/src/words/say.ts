@@ -6,7 +6,9 @@ export type Language = "zh" | "en";
 export type Text = Readonly<Record<Language, string>>;
 
 /** A text with places in it. */
-export type TextOf<Places extends readonly unknown[]> = Readonly<Record<Language, (...places: Places) => string>>;
+export type TextOf<Places extends readonly unknown[]> = Readonly<
+  Record<Language, (...places: Places) => string>
+>;
 
 /** Says a text in one language: `say(words.open)`, `say(words.rows, 12)`. */
 export interface Say {

@@ -1,0 +1,4 @@
+import { OpenFirst } from "../../app/parts/failure";
+export function Comparison() {
+  return <OpenFirst />;
+}
