@@ -31,7 +31,7 @@ export function LowerAxis(props: AxisProps) {
             y1={across - at}
             y2={text === "" ? 3 : 6}
             stroke={kQuiet}
-            stroke-opacity={text === "" ? 0.2 : 0.5}
+            stroke-opacity={text === "" ? 0.12 : 0.25}
           />
           <text y="19" text-anchor="middle">
             {text}
@@ -56,7 +56,7 @@ export function LeftAxis(props: AxisProps) {
             x1={text === "" ? -3 : -6}
             x2={across - at}
             stroke={kQuiet}
-            stroke-opacity={text === "" ? 0.2 : 0.5}
+            stroke-opacity={text === "" ? 0.12 : 0.25}
           />
           <text x="-9" dy="0.35em" text-anchor="end">
             {text}

@@ -4,7 +4,7 @@ import { kDrawingWords } from "../words/drawing";
 import { savePng, saveSvg } from "./save";
 
 /** Saves a picture; `name` is the file's, without its ending. */
-export function SaveButtons({ picture, name }: { picture: RefObject<SVGSVGElement>; name: string }) {
+export function SaveButtons({ picture, name }: { picture: RefObject<SVGSVGElement | null>; name: string }) {
   const say = useSay();
   return (
     <span class="save-buttons">

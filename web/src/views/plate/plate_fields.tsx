@@ -30,7 +30,9 @@ interface InputProps {
 function Input({ id, label, unit, value, remark, isWide = false, change }: InputProps) {
   const remarkId = `${id}-remark`;
   return (
-    <div class={`field${isWide ? " field-wide" : ""}${remark === undefined ? "" : " field-odd"}`}>
+    <div
+      class={`plate-field${isWide ? " plate-field-wide" : ""}${remark === undefined ? "" : " plate-field-odd"}`}
+    >
       <label for={id}>
         {label}
         {unit !== undefined && <span class="quiet"> {unit}</span>}
@@ -121,11 +123,11 @@ function Colors(props: FieldsProps) {
   return (
     <fieldset>
       <legend>{say(kPlateWords.colors)}</legend>
-      <div class="fields">
+      <div class="plate-fields">
         <Field field="color" {...props} />
         <Field field="faceColors" {...props} unit={say(kPlateWords.faceColorsHint)} isWide />
       </div>
-      {colors.length > 0 && <p class="quiet small">{say(kPlateWords.meaning)}</p>}
+      {colors.length > 0 && <p class="quiet plate-hint">{say(kPlateWords.meaning)}</p>}
       {colors.map((setting) => (
         <ColorRow key={setting.column} setting={setting} form={form} change={change} />
       ))}
@@ -170,7 +172,7 @@ function Features(props: FieldsProps) {
       {listed.length > 0 && (
         <fieldset>
           <legend>{say(kPlateWords.lists)}</legend>
-          <div class="fields">
+          <div class="plate-fields">
             {listed.map((name) => (
               <Input
                 key={name}
@@ -230,7 +232,7 @@ export function PlateFields(props: FieldsProps) {
     <>
       <fieldset>
         <legend>{say(kPlateWords.sizes)}</legend>
-        <div class="fields">
+        <div class="plate-fields">
           <Field field="length" unit="mm" {...props} />
           <Field field="width" unit="mm" {...props} />
           <Field field="thickness" unit="mm" {...props} />
