@@ -12,6 +12,7 @@ import { browserLanguage, type Language, sayIn } from "../words/say";
 import { useAnswer } from "./answer";
 import { DropZone } from "./drop_zone";
 import { Header } from "./header";
+import { OpenSecond } from "./open_menu";
 import { type Opening, useOpening } from "./open/use_opening";
 import { type Tab, Tabs, tabId } from "./parts/tabs";
 import { Start } from "./start";
@@ -152,7 +153,8 @@ export function Page({ engine }: { engine: Engine }) {
   const place = usePlace();
   useAgainKey(opening);
   const { addFile, addedFile } = opening;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, ...place };
+  const openSecond = <OpenSecond opening={opening} />;
+  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
   const say = sayIn(language);
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;
