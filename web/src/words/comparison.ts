@@ -73,6 +73,8 @@ export const kComparisonWords = {
     thickness: { zh: "厚度", en: "Thickness" },
     weight: { zh: "重量", en: "Weight" },
   } satisfies Record<SizeName, Text>,
+  yes: { zh: "是", en: "yes" },
+  no: { zh: "否", en: "no" },
   anySize: { zh: "不限", en: "any" },
   witness: { zh: "例如", en: "such as" },
   regionsMap: { zh: "受影响的板，按长度和宽度", en: "Affected plates, by length and width" },

@@ -2,6 +2,7 @@
 
 import { useState } from "preact/hooks";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
+import { useKept } from "../../app/parts/kept";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
 import type { ChangedRow, Difference } from "../../model/diff";
@@ -33,8 +34,8 @@ interface ComparedProps {
 
 function Compared({ pair, difference, listAll }: ComparedProps) {
   const say = useSay();
-  const [part, setPart] = useState<ComparisonPart>("plates");
-  const [role, setRole] = useState("process-rules");
+  const [part, setPart] = useKept<ComparisonPart>("compared part", "plates");
+  const [role, setRole] = useKept("compared table", "process-rules");
   const [row, setRow] = useState<ChangedRow | undefined>();
   const parts = useParts(difference);
   const tables = useTablePairs(pair);
@@ -122,7 +123,7 @@ function ComparedPair({ pair, turn }: { pair: Pair; turn: () => void }) {
 export function Comparison() {
   const { workspace, other, openSecond } = useApp();
   const say = useSay();
-  const [isTurned, setTurned] = useState(false);
+  const [isTurned, setTurned] = useKept("compared turned", false);
   if (workspace === undefined) return <OpenFirst />;
   if (other === undefined) {
     return (

@@ -6,16 +6,19 @@ import type { ChangedSetting } from "../../model/diff";
 import type { SettingValue } from "../../model/show";
 import { kComparisonWords } from "../../words/comparison";
 import { kGridWords } from "../../words/grid";
+import type { Say } from "../../words/say";
 import { useMarked } from "./marked_text";
 
 /** A value on one line: the values of a list stand behind each other. */
-function shown(value: SettingValue): string {
-  return Array.isArray(value) ? value.map(String).join(" · ") : String(value);
+function shown(value: SettingValue, say: Say): string {
+  if (Array.isArray(value)) return value.map((each) => shown(each, say)).join(" · ");
+  if (typeof value === "boolean") return say(value ? kComparisonWords.yes : kComparisonWords.no);
+  return String(value);
 }
 
 function Row({ setting }: { setting: ChangedSetting }) {
   const say = useSay();
-  const [old, now] = [shown(setting.old), shown(setting.new)];
+  const [old, now] = [shown(setting.old, say), shown(setting.new, say)];
   const marked = useMarked(old, now);
   const empty = <span class="quiet">{say(kGridWords.emptyText)}</span>;
   return (
