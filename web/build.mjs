@@ -1,7 +1,7 @@
 /**
  * Bundles the page into one HTML file that needs nothing else:
  *
- *     node build.mjs --module build/web/web/engine/plateconfig.wasm --glue …/plateconfig.js -o plateconfig.html
+ *     node build.mjs --engine ../build/web/web/engine -o plateconfig.html
  *
  * Everything is inlined: script, styles, and the engine's module, gzipped and as base64. A content security policy keeps the
  * page from asking any network for anything.
@@ -44,6 +44,12 @@ export async function bundle({ isServed = false, minify = true } = {}) {
   return { script: text(".js"), style: text(".css") };
 }
 
+/** The worker's script: emscripten's start-up script, and what is done with it. */
+export async function bundleWorker(startUpScript) {
+  const result = await build({ ...forBrowsers, entryPoints: [join(here, "src/engine/worker.ts")] });
+  return readFileSync(startUpScript, "utf8") + result.outputFiles[0].text;
+}
+
 const sha256 = (text) => `'sha256-${createHash("sha256").update(text).digest("base64")}'`;
 
 /** Nothing from elsewhere, no request to anywhere; the script is the one that is meant, letter for letter. */
@@ -68,8 +74,8 @@ function assertStaysWithin(script) {
 /**
  * The page's text. `report` of the command puts data into the element plateconfig-data, which has to stand there exactly so.
  */
-export function page({ script, style, module = "", isServed = false }) {
-  assertStaysWithin(script);
+export function page({ script, style, module = "", worker = "", isServed = false }) {
+  for (const text of [script, worker]) assertStaysWithin(text);
   return `<!doctype html>
 <html lang="zh-CN">
 <head>
@@ -83,6 +89,7 @@ export function page({ script, style, module = "", isServed = false }) {
 <body>
 <script type="application/json" id="plateconfig-data"></script>
 <script type="text/plain" id="plateconfig-module">${module}</script>
+<script type="text/plain" id="plateconfig-worker">${worker}</script>
 <script>${script}</script>
 </body>
 </html>
@@ -94,11 +101,14 @@ export const packed = (file) => gzipSync(readFileSync(file), { level: 9 }).toStr
 
 async function main() {
   const { values } = parseArgs({
-    options: { module: { type: "string" }, output: { type: "string", short: "o" } },
+    options: { engine: { type: "string" }, output: { type: "string", short: "o" } },
   });
-  if (!values.output) throw new Error("-o FILE is missing");
-  const { script, style } = await bundle();
-  const html = page({ script, style, module: values.module ? packed(values.module) : "" });
+  if (!values.engine || !values.output) throw new Error("usage: node build.mjs --engine FOLDER -o FILE");
+  const html = page({
+    ...(await bundle()),
+    module: packed(join(values.engine, "plateconfig.wasm")),
+    worker: await bundleWorker(join(values.engine, "plateconfig.js")),
+  });
   mkdirSync(dirname(values.output), { recursive: true });
   writeFileSync(values.output, html);
 }
