@@ -39,3 +39,22 @@ export function contrast(one: string, other: string): number {
 export function inkOn(color: string): string {
   return contrast(color, kDark) >= contrast(color, kLight) ? kDark : kLight;
 }
+
+/** The same hues, dark enough for lines and texts on paper. */
+export const kLinePalette = [
+  "#005a8c",
+  "#a84300",
+  "#00694e",
+  "#8f3f70",
+  "#7a5200",
+  "#1a1a1a",
+  "#5b4bb0",
+] as const;
+
+/** The colour of the n-th kind of line. */
+export function lineColorAt(index: number): string {
+  return (
+    kLinePalette[((index % kLinePalette.length) + kLinePalette.length) % kLinePalette.length] ??
+    kLinePalette[0]
+  );
+}
