@@ -173,7 +173,7 @@ test("A folder without tables.json gets one from init, which can be saved", asyn
   const copy = copied("标准");
   rmSync(join(copy, "tables.json"));
   await open(copy);
-  await page.click("text=找出各表的用途");
+  await page.click(".manifest .main-button");
   await page.waitForSelector("text=保存 tables.json");
   await settled(page);
   assert.match(await counts(), /0 个错误/);
