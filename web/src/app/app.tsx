@@ -137,19 +137,17 @@ function Views({ app }: { app: App }) {
   const tabs = useTabs(app);
   const View = kViews.find(({ name }) => name === app.view)?.view ?? Findings;
   return (
-    <>
+    <main class="view">
       <Tabs label={say(kPageWords.views)} tabs={tabs} chosen={app.view} panel="view" choose={app.show} />
-      <main class="view">
-        <div
-          id="view"
-          class={`panel panel-${app.view}`}
-          role="tabpanel"
-          aria-labelledby={tabId("view", app.view)}
-        >
-          <View />
-        </div>
-      </main>
-    </>
+      <div
+        id="view"
+        class={`panel panel-${app.view}`}
+        role="tabpanel"
+        aria-labelledby={tabId("view", app.view)}
+      >
+        <View />
+      </div>
+    </main>
   );
 }
 

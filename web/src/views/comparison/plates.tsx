@@ -10,7 +10,7 @@ import { TextPair } from "./marked_text";
 function Plate({ plate }: { plate: ChangedPlate }) {
   return (
     <article class="changed-plate">
-      <h3>{plate.name}</h3>
+      <h2>{plate.name}</h2>
       <TextPair
         old={{ row: plate.old.line, text: plate.old.text }}
         now={{ row: plate.new.line, text: plate.new.text }}

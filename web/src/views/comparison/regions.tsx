@@ -99,12 +99,12 @@ function Region({ region, number: index, most, isChosen, choose }: RegionProps) 
     line === null ? say(kComparisonWords.noRow) : say(kComparisonWords.row, line);
   return (
     <article class={`region ${isChosen ? "is-chosen" : ""}`} onPointerEnter={choose}>
-      <h3>
+      <h2>
         <button type="button" class="region-number" aria-pressed={isChosen} onClick={choose}>
           {index}
         </button>{" "}
         {row(region.oldRow)} → {row(region.newRow)}
-      </h3>
+      </h2>
       <BoxBars box={region.box} most={most} />
       <p class="quiet">
         {say(kComparisonWords.witness)} <PlateLine plate={region.witness} />
