@@ -7,6 +7,10 @@ export interface Started {
     mkdirTree(path: string): void;
     chdir(path: string): void;
     writeFile(path: string, bytes: Uint8Array, options?: { canOwn?: boolean }): void;
+    readFile(path: string): Uint8Array<ArrayBuffer>;
+    readdir(path: string): string[];
+    stat(path: string): { mode: number };
+    isDir(mode: number): boolean;
   };
   ccall(name: string, gives: "number" | null, takes: readonly "string"[], given: readonly string[]): number;
 }
@@ -19,6 +23,8 @@ export interface RawRun {
   readonly code: number;
   readonly out: Uint8Array<ArrayBuffer>;
   readonly err: Uint8Array<ArrayBuffer>;
+  /** Files that the run made. */
+  readonly written: readonly InputFile[];
 }
 
 export interface Surroundings {
@@ -72,12 +78,31 @@ export class Instance {
     for (const [name, value] of Object.entries(variables)) this.call("SetVariable", name, value);
     for (const argument of args) this.call("AddArgument", argument);
     const code = this.started.ccall("Run", "number", [], []);
-    return { code, out: joined(this.out), err: joined(this.err) };
+    const given = new Set(files.map(({ path }) => path));
+    const written = this.pathsBelow(".").filter((path) => !given.has(path));
+    const { FS } = this.started;
+    return {
+      code,
+      out: joined(this.out),
+      err: joined(this.err),
+      written: written.map((path) => ({ path, bytes: FS.readFile(path) })),
+    };
   }
 
   private call(name: string, ...texts: string[]): void {
     const takes = texts.map(() => "string" as const);
     this.started.ccall(name, null, takes, texts);
+  }
+
+  /** Files below a folder, as the run's working folder sees them. */
+  private pathsBelow(folder: string): string[] {
+    const { FS } = this.started;
+    return FS.readdir(folder)
+      .filter((name) => name !== "." && name !== "..")
+      .flatMap((name) => {
+        const path = folder === "." ? name : `${folder}/${name}`;
+        return FS.isDir(FS.stat(path).mode) ? this.pathsBelow(path) : [path];
+      });
   }
 
   private putFiles(folder: string, files: readonly InputFile[]): void {
