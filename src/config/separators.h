@@ -52,10 +52,6 @@ struct EqualBytes {
     }
   }
 
-  bool Any() const {
-    return _mm_movemask_epi8(
-               _mm_or_si128(_mm_or_si128(parts[0], parts[1]), _mm_or_si128(parts[2], parts[3]))) != 0;
-  }
   std::uint64_t Bits() const {
     std::uint64_t bits = 0;
     for (std::size_t i = 0; i < 4; ++i)
@@ -64,14 +60,14 @@ struct EqualBytes {
   }
 };
 
-/// For a whole block. Most hold no quote, and many no line feed.
+/// For a whole block.
 inline BlockBits WholeBlockBits(const char* block) {
   const EqualBytes commas(block, ',');
   const EqualBytes lineFeeds(block, '\n');
   const EqualBytes quotes(block, kQuote);
   BlockBits bits;
-  if (lineFeeds.Any()) bits.lineFeeds = lineFeeds.Bits();
-  if (quotes.Any()) bits.quotes = quotes.Bits();
+  bits.lineFeeds = lineFeeds.Bits();
+  bits.quotes = quotes.Bits();
   bits.separators = commas.Bits() | bits.lineFeeds;
   return bits;
 }
