@@ -7,6 +7,9 @@ import type { CheckReport } from "../model/check";
 import { Comparison } from "../views/comparison/comparison";
 import { Findings } from "../views/findings/findings";
 import { Tables } from "../views/grid/tables";
+import { Holes } from "../views/holes/holes";
+import { RuleMap } from "../views/map/map";
+import { Sheet } from "../views/sheet/sheet";
 import { TryPlate } from "../views/plate/plate";
 import { kPageWords } from "../words/page";
 import { browserLanguage, type Language, sayIn } from "../words/say";
@@ -30,7 +33,10 @@ import {
 const kViews: readonly { readonly name: ViewName; readonly view: ComponentType }[] = [
   { name: "findings", view: Findings },
   { name: "tables", view: Tables },
+  { name: "map", view: RuleMap },
   { name: "plate", view: TryPlate },
+  { name: "sheet", view: Sheet },
+  { name: "holes", view: Holes },
   { name: "comparison", view: Comparison },
 ];
 
