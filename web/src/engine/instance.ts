@@ -7,6 +7,11 @@ export interface Started {
     mkdirTree(path: string): void;
     chdir(path: string): void;
     writeFile(path: string, bytes: Uint8Array, options?: { canOwn?: boolean }): void;
+    readFile(path: string): Uint8Array;
+    readdir(path: string): string[];
+    stat(path: string): { readonly mode: number; readonly mtime: Date };
+    isDir(mode: number): boolean;
+    utime(path: string, read: number, written: number): void;
   };
   ccall(name: string, gives: "number" | null, takes: readonly "string"[], given: readonly string[]): number;
 }
@@ -19,6 +24,7 @@ export interface RawRun {
   readonly code: number;
   readonly out: Uint8Array<ArrayBuffer>;
   readonly err: Uint8Array<ArrayBuffer>;
+  readonly written: readonly InputFile[];
 }
 
 export interface Surroundings {
@@ -72,7 +78,7 @@ export class Instance {
     for (const [name, value] of Object.entries(variables)) this.call("SetVariable", name, value);
     for (const argument of args) this.call("AddArgument", argument);
     const code = this.started.ccall("Run", "number", [], []);
-    return { code, out: joined(this.out), err: joined(this.err) };
+    return { code, out: joined(this.out), err: joined(this.err), written: this.writtenBelow(folder) };
   }
 
   private call(name: string, ...texts: string[]): void {
@@ -84,10 +90,23 @@ export class Instance {
     const { FS } = this.started;
     FS.mkdirTree(folder);
     FS.chdir(folder);
-    for (const { path, bytes } of files) {
-      const end = path.lastIndexOf("/");
-      if (end > 0) FS.mkdirTree(path.slice(0, end));
-      FS.writeFile(path, bytes, { canOwn: true });
+    for (const file of files) {
+      const path = `${folder}/${file.path}`;
+      FS.mkdirTree(path.slice(0, path.lastIndexOf("/")));
+      FS.writeFile(path, file.bytes, { canOwn: true });
+      FS.utime(path, 0, 0);
     }
+  }
+
+  /** The files below a folder that have another time than those that were given; paths from the working folder on. */
+  private writtenBelow(folder: string, front = ""): InputFile[] {
+    const { FS } = this.started;
+    const names = FS.readdir(folder).filter((name) => name !== "." && name !== "..");
+    return names.flatMap((name) => {
+      const path = `${folder}/${name}`;
+      const { mode, mtime } = FS.stat(path);
+      if (FS.isDir(mode)) return this.writtenBelow(path, `${front}${name}/`);
+      return mtime.getTime() === 0 ? [] : [{ path: front + name, bytes: FS.readFile(path) }];
+    });
   }
 }

@@ -38,7 +38,8 @@ const decoder = new TextDecoder("utf-8", { ignoreBOM: true });
 
 function asText(answer: Answer): Run {
   if ("failure" in answer) throw new EngineError("broken", answer.failure);
-  return { code: answer.code, out: decoder.decode(answer.out), err: decoder.decode(answer.err) };
+  const { code, out, err, written } = answer;
+  return { code, out: decoder.decode(out), err: decoder.decode(err), written };
 }
 
 /** What a worker answers to its order; it is ended then, or when the run is cancelled. */
