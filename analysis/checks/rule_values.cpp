@@ -87,6 +87,13 @@ Words WordsOf(Condition condition) {
   return {"wire cutting", "线割"};
 }
 
+std::optional<std::size_t> SizeNamed(std::string_view name) {
+  for (std::size_t size = 0; size < kSizeCount; ++size) {
+    if (NameOf(kSizeConditions[size].condition) == name) return size;
+  }
+  return std::nullopt;
+}
+
 Value BoxValue(const Box& box) {
   Object sides;
   for (std::size_t size = 0; size < kSizeCount; ++size) {

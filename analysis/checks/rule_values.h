@@ -5,7 +5,10 @@
 //   finding.members = {{"box", BoxValue(gap.box)}, {"group", GroupValue(gap.group)},
 //                      {"witness", WitnessValue(gap.witness)}};
 
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "analysis/rules/gaps.h"
 #include "analysis/rules/rule_regions.h"
@@ -22,6 +25,9 @@ std::string FeatureName(ProcessRule::RuleType type);
 const char* NameOf(Condition condition);
 /// The same for people.
 Words WordsOf(Condition condition);
+
+/// The place in `kSizeConditions` of the size of this name; nothing when none has it.
+std::optional<std::size_t> SizeNamed(std::string_view name);
 
 /// `{"length": [low, high], …}`; an end that is infinite is null.
 Value BoxValue(const Box& box);
