@@ -118,8 +118,8 @@ Value GroupValue(const RegionGroup& group, bool answersAgree) {
                 {"newWireCutting", group.after.wireCutting}};
 }
 
-Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
-  Object members = {{plate_members::kName, "witness"}};
+Object PlateValue(const std::string& name, const Plate& plate, const PlateFeatures& features) {
+  Object members = {{plate_members::kName, name}};
   for (const SizeCondition& size : kSizeConditions)
     members.emplace_back(NameOf(size.condition), plate.*size.value);
   if (plate.layer != 0) members.emplace_back(plate_members::kLayer, plate.layer);
@@ -130,6 +130,10 @@ Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
   if (!features.customProcesses.empty())
     members.emplace_back(plate_members::kCustomProcesses, NamesInUtf8(features.customProcesses));
   return members;
+}
+
+Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
+  return PlateValue("witness", plate, features);
 }
 
 Value NewRowValue(const NewRow& row) {

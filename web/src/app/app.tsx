@@ -1,17 +1,22 @@
 // The page: what is open, which view is shown, and the views themselves.
 
 import type { ComponentType } from "preact";
-import { useCallback, useEffect, useMemo, useState } from "preact/hooks";
+import { useCallback, useEffect, useMemo, useRef, useState } from "preact/hooks";
 import type { Engine } from "../engine/engine";
 import type { CheckReport } from "../model/check";
 import { Comparison } from "../views/comparison/comparison";
 import { Findings } from "../views/findings/findings";
 import { Tables } from "../views/grid/tables";
+import { Holes } from "../views/holes/holes";
+import { RuleMap } from "../views/map/map";
+import { TryPlate } from "../views/plate/plate";
+import { Sheet } from "../views/sheet/sheet";
 import { kPageWords } from "../words/page";
 import { browserLanguage, type Language, sayIn } from "../words/say";
 import { useAnswer } from "./answer";
 import { DropZone } from "./drop_zone";
 import { Header } from "./header";
+import { OpenSecond } from "./open_menu";
 import { type Opening, useOpening } from "./open/use_opening";
 import { type Tab, Tabs, tabId } from "./parts/tabs";
 import { Start } from "./start";
@@ -28,6 +33,10 @@ import {
 const kViews: readonly { readonly name: ViewName; readonly view: ComponentType }[] = [
   { name: "findings", view: Findings },
   { name: "tables", view: Tables },
+  { name: "map", view: RuleMap },
+  { name: "plate", view: TryPlate },
+  { name: "sheet", view: Sheet },
+  { name: "holes", view: Holes },
   { name: "comparison", view: Comparison },
 ];
 
@@ -64,10 +73,16 @@ function checkArguments(workspace: Workspace | undefined, language: Language): r
   return ["check", "--config", workspace.folder, ...plates, ...types, "--format", "json", "--lang", language];
 }
 
+const kUnderWay = { state: "running" } as const;
+
+/** While the same folder is read again, what was found before stays in sight. */
 function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language) {
   const files = useMemo(() => filesOf(workspace), [workspace]);
   const args = useMemo(() => checkArguments(workspace, language), [workspace, language]);
-  return useAnswer<CheckReport>(engine, args, files);
+  const answer = useAnswer<CheckReport>(engine, args, files);
+  const checked = useRef<string | undefined>(undefined);
+  if (answer.state === "done") checked.current = workspace?.name;
+  return answer.state === "running" && checked.current !== workspace?.name ? kUnderWay : answer;
 }
 
 /** Where the reader is: the view, and what other views sent it there for. */
@@ -128,19 +143,17 @@ function Views({ app }: { app: App }) {
   const tabs = useTabs(app);
   const View = kViews.find(({ name }) => name === app.view)?.view ?? Findings;
   return (
-    <>
+    <main class="view">
       <Tabs label={say(kPageWords.views)} tabs={tabs} chosen={app.view} panel="view" choose={app.show} />
-      <main class="view">
-        <div
-          id="view"
-          class={`panel panel-${app.view}`}
-          role="tabpanel"
-          aria-labelledby={tabId("view", app.view)}
-        >
-          <View />
-        </div>
-      </main>
-    </>
+      <div
+        id="view"
+        class={`panel panel-${app.view}`}
+        role="tabpanel"
+        aria-labelledby={tabId("view", app.view)}
+      >
+        <View />
+      </div>
+    </main>
   );
 }
 
@@ -152,7 +165,8 @@ export function Page({ engine }: { engine: Engine }) {
   const place = usePlace();
   useAgainKey(opening);
   const { addFile, addedFile } = opening;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, ...place };
+  const openSecond = <OpenSecond opening={opening} />;
+  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
   const say = sayIn(language);
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;

@@ -10,12 +10,12 @@ import { OpenMenu } from "./open_menu";
 import { kSeverities, SeverityMark } from "./parts/severity";
 import { useApp, useSay } from "./state";
 
-/** Which of several configuration folders is looked at, and with which one it is compared. */
-function FolderChoice({ opening }: { opening: Opening }) {
+/** What is looked at; of several configuration folders one is chosen. */
+function FolderName({ opening, name }: { opening: Opening; name: string }) {
   const say = useSay();
   const opened = opening.sides.config;
   const folders = configurationFolders(opened?.entries ?? []);
-  if (opened === undefined || folders.length < 2) return null;
+  if (opened === undefined || folders.length < 2) return <>{name}</>;
   return (
     <label class="inline-field">
       <span class="visually-hidden">{say(kOpenWords.configuration)}</span>
@@ -65,9 +65,12 @@ export function Header({ opening, language, speak }: HeaderProps) {
     <header class="header">
       <h1>
         <span class="product">plateconfig</span>
-        {workspace !== undefined && <span class="folder-name">{workspace.name}</span>}
+        {workspace !== undefined && (
+          <span class="folder-name">
+            <FolderName opening={opening} name={workspace.name} />
+          </span>
+        )}
       </h1>
-      <FolderChoice opening={opening} />
       {workspace !== undefined && <Counts />}
       <span class="spring" />
       {opening.isBusy && <span class="quiet">{say(kPageWords.busy)}</span>}

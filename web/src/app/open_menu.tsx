@@ -80,6 +80,17 @@ function OtherFolders({ opening }: { opening: Opening }) {
   );
 }
 
+/** What makes a comparison possible. */
+export function OpenSecond({ opening }: { opening: Opening }) {
+  const say = useSay();
+  return (
+    <>
+      <PickButton opening={opening} side="other" label={say(kOpenWords.compareFolder)} isFolder isMain />
+      <OtherFolders opening={opening} />
+    </>
+  );
+}
+
 export function OpenMenu({ opening }: { opening: Opening }) {
   const say = useSay();
   return (

@@ -1,6 +1,6 @@
 // What every view knows of the page, and what it may ask for.
 
-import { createContext } from "preact";
+import { type ComponentChildren, createContext } from "preact";
 import { useContext, useMemo } from "preact/hooks";
 import type { Engine, InputFile } from "../engine/engine";
 import type { CheckReport } from "../model/check";
@@ -54,6 +54,8 @@ export interface App {
   tryPlate(name: string): void;
   /** The plate that `tryPlate` asked for. */
   readonly triedPlate: string | undefined;
+  /** The controls that open a second folder, for a view that has nothing to show without it. */
+  readonly openSecond: ComponentChildren;
   /** Puts a file that the program wrote into the workspace; the disk stays as it is. */
   addFile(name: string, bytes: Uint8Array): void;
   /** The file that was added so, until the folder is read again. */

@@ -5,10 +5,10 @@ export interface HoleSegmentVerdict {
   readonly segment: number;
   readonly color: number;
   readonly colorVerdict: string;
-  readonly allowedColors: readonly number[];
+  readonly allowedColors: readonly number[] | null;
   readonly diameter: number;
   readonly diameterVerdict: string;
-  readonly allowedDiameters: readonly number[];
+  readonly allowedDiameters: readonly number[] | null;
 }
 
 export interface HoleTypeScore {
@@ -26,4 +26,6 @@ export interface MatchedHole {
   readonly tied: boolean;
   readonly types: readonly HoleTypeScore[];
   readonly refusedBy?: readonly HoleTypeScore[];
+  /** Types of the nearest structures, when no type has the hole's. */
+  readonly nearStructures?: readonly { readonly name: string; readonly structure: string }[];
 }

@@ -43,6 +43,10 @@ export const kFindingsWords = {
     zh: (colors: string) => `，面颜色 ${colors}`,
     en: (colors: string) => `, face colours ${colors}`,
   } satisfies TextOf<[string]>,
+  has: {
+    zh: (features: string) => `，有 ${features}`,
+    en: (features: string) => `, with ${features}`,
+  } satisfies TextOf<[string]>,
   file: { zh: "文件", en: "File" },
   place: { zh: "位置", en: "Place" },
   finding: { zh: "问题", en: "Finding" },

@@ -9,15 +9,23 @@ import { kFindingsWords } from "../../words/findings";
 import { TablePane } from "../grid/table_pane";
 import { placeOf, shownFile } from "./filter";
 
+/** A feature as a file of plates would have it: its column and its cell. */
+function featureText([name, value]: [string, boolean | number | readonly number[]]): string {
+  if (value === true) return name;
+  return `${name} ${Array.isArray(value) ? value.join("_") : value === false ? "N" : value}`;
+}
+
 /** A plate in one line. */
 export function PlateLine({ plate }: { plate: Plate }) {
   const say = useSay();
   const { length, width, thickness, weight, color, faceColors } = plate;
+  const has = [...Object.entries(plate.features ?? {}).map(featureText), ...(plate.customProcesses ?? [])];
   const sizes = [length, width, thickness, weight].map(String) as [string, string, string, string];
   return (
     <>
       {say(kFindingsWords.exampleOf, ...sizes, color)}
       {faceColors.length > 0 && say(kFindingsWords.faces, faceColors.join("_"))}
+      {has.length > 0 && say(kFindingsWords.has, has.join(", "))}
     </>
   );
 }

@@ -44,10 +44,8 @@ function Item({ finding }: { finding: Finding }) {
       <span class="finding-place">
         <Place finding={finding} /> {finding.columnName !== null && <span>{finding.columnName}</span>}
       </span>
-      <span class="finding-more">
-        <span class="finding-file">{shownFile(finding.file)}</span>
-        <Change finding={finding} />
-      </span>
+      <Change finding={finding} />
+      <span class="finding-file">{shownFile(finding.file)}</span>
     </>
   );
 }

@@ -1,8 +1,9 @@
 // What `check` found: a list, and beside it the cell of the chosen one.
 
-import { useMemo, useState } from "preact/hooks";
+import { useMemo } from "preact/hooks";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { CopyButton } from "../../app/parts/finding_card";
+import { useKept } from "../../app/parts/kept";
 import { saveFile } from "../../app/parts/save";
 import { filesOf, useApp, useSay } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
@@ -78,8 +79,8 @@ function Checked({ report }: { report: CheckReport }) {
 function Reported({ report }: { report: CheckReport }) {
   const { select } = useApp();
   const say = useSay();
-  const [filter, setFilter] = useState(kNoFilter);
-  const [chosen, setChosen] = useState<Finding | undefined>();
+  const [filter, setFilter] = useKept("findings filter", kNoFilter);
+  const [chosen, setChosen] = useKept<Finding | undefined>("chosen finding", undefined);
   const listed = useMemo(() => listedFindings(report.findings, filter), [report, filter]);
   const at = chosen === undefined ? -1 : listed.indexOf(chosen);
   const open = (finding: Finding | undefined) =>
