@@ -1,16 +1,20 @@
 // One run of the companion as a view waits for it: runs anew when its arguments or files change, and cancels what nobody waits for.
 
 import { useEffect, useRef, useState } from "preact/hooks";
+import { EngineError } from "../engine/engine_error";
 import type { Engine, InputFile, Run } from "../engine/engine";
 
 export type Answer<Value> =
   /** Nothing was asked. */
   | { readonly state: "idle"; readonly value?: undefined }
-  /** Under way; `value` is the answer before, to be shown meanwhile. */
-  | { readonly state: "running"; readonly value?: Value }
+  /** Under way; `value` is the answer before, to be shown meanwhile; `stop` gives it up. */
+  | { readonly state: "running"; readonly value?: Value; readonly stop?: () => void }
   | { readonly state: "done"; readonly value: Value; readonly code: number; readonly messages: string }
   /** The run ended with code 2, or with something else than JSON: `error` is the program's own text. */
   | { readonly state: "failed"; readonly error: string; readonly value?: undefined };
+
+/** What stands instead of an answer that the user gave up; it is no text of the program. */
+const kStopped = { state: "failed", error: "已取消 / cancelled" } as const;
 
 export const kIdle = { state: "idle" } as const;
 
@@ -25,6 +29,12 @@ export function answerOf<Value>(run: Run): Answer<Value> {
   }
 }
 
+/** What the engine says of itself comes in both languages: here nobody knows which one is read. */
+function textOf(error: unknown): string {
+  if (error instanceof EngineError) return `${error.words.zh}\n${error.words.en}`;
+  return error instanceof Error ? error.message : String(error);
+}
+
 async function ask<Value>(
   engine: Engine,
   args: readonly string[],
@@ -34,7 +44,7 @@ async function ask<Value>(
   try {
     return answerOf<Value>(await engine.run(args, files, signal));
   } catch (error) {
-    return { state: "failed", error: error instanceof Error ? error.message : String(error) };
+    return { state: "failed", error: textOf(error) };
   }
 }
 
@@ -58,7 +68,11 @@ export function useAnswer<Value>(
       return undefined;
     }
     const abort = new AbortController();
-    setAnswer(last.current === undefined ? { state: "running" } : { state: "running", value: last.current });
+    const stop = () => {
+      abort.abort();
+      setAnswer(kStopped);
+    };
+    setAnswer({ state: "running", stop, ...(last.current !== undefined && { value: last.current }) });
     const timer = setTimeout(() => {
       void ask<Value>(engine, JSON.parse(asked) as string[], files, abort.signal).then((given) => {
         if (abort.signal.aborted) return;
