@@ -11,7 +11,7 @@ import { mkdtemp } from "node:fs/promises";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { build } from "esbuild";
-import { bundle, page } from "./build.mjs";
+import { bundle, page } from "./page.mjs";
 
 process.chdir(dirname(fileURLToPath(import.meta.url)));
 
@@ -44,7 +44,7 @@ async function answer(request) {
     const written = run.written.map(({ path, bytes }) => ({ path, base64: bytes.toString("base64") }));
     return ["application/json", JSON.stringify({ ...run, written })];
   }
-  return ["text/html", page({ ...(await bundle({ isServed: true, minify: false })), isServed: true })];
+  return ["text/html", await page({ ...(await bundle({ isServed: true, minify: false })), isServed: true })];
 }
 
 const port = Number(process.argv[2] ?? 8123);

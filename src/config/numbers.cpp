@@ -10,6 +10,8 @@
 #include <optional>
 #include <system_error>
 
+#include "text/number_chars.h"
+
 namespace plateconfig {
 namespace {
 
@@ -58,7 +60,7 @@ std::optional<double> Magnitude(std::string_view text) {
   if (hexadecimal) text.remove_prefix(2);
   double value = 0;
   const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, format);
+  const auto [end, error] = FromChars(text.data(), text.data() + text.size(), value, format);
   if (error == std::errc::invalid_argument) return std::nullopt;
   if (error != std::errc::result_out_of_range) return value;
   return OutOfRange(text.substr(0, static_cast<std::size_t>(end - text.data())), hexadecimal);
@@ -124,7 +126,7 @@ std::string StreamNumber(double value) {
 
 char* PutStreamNumber(char* to, double value) {
   if (char* const end = PutShortStreamNumber(to, value)) return end;
-  return std::to_chars(to, to + kNumberRoom, value, std::chars_format::general, kStreamPrecision).ptr;
+  return ToChars(to, to + kNumberRoom, value, std::chars_format::general, kStreamPrecision).ptr;
 }
 
 char* PutInt(char* to, int value) {
@@ -143,7 +145,7 @@ void AppendFixed(std::string& text, double value, int decimals) {
   const std::size_t before = text.size();
   text.resize(before + most);
   char* const begin = text.data() + before;
-  const auto result = std::to_chars(begin, begin + most, value, std::chars_format::fixed, decimals);
+  const auto result = ToChars(begin, begin + most, value, std::chars_format::fixed, decimals);
   text.resize(before + static_cast<std::size_t>(result.ptr - begin));
 }
 

@@ -7,6 +7,7 @@
 #include "config/numbers.h"
 #include "config/pieces.h"
 #include "config/text_helpers.h"
+#include "text/number_chars.h"
 
 namespace plateconfig {
 namespace {
@@ -28,7 +29,7 @@ std::string NumberText(double value) {
   constexpr double kLong = 1e15;
   const auto format = std::abs(value) < kLong ? std::chars_format::fixed : std::chars_format::general;
   std::array<char, 400> text;
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format);
+  const auto [end, error] = ToChars(text.data(), text.data() + text.size(), value, format);
   return {text.data(), end};
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/file_faults.h"
 #include "platform/large_memory.h"
+#include "text/uninitialized_memory.h"
 
 namespace plateconfig {
 namespace {
@@ -33,7 +34,7 @@ std::atomic<std::size_t> failedReads = 0;
 constexpr std::size_t kUnknownCapacity = std::size_t{64} << 10;
 
 std::unique_ptr<char[]> MemoryFor(std::size_t capacity) {
-  auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
+  auto bytes = UninitializedMemory<char>(capacity);
   PreferLargePages(bytes.get(), capacity);
   return bytes;
 }

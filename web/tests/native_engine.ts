@@ -53,14 +53,18 @@ export function runNative(
   });
 }
 
-/** The files below a folder that were not given. */
+/** The files below a folder that were not given, or not like that. */
 async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
   const entries = await readdir(folder, { recursive: true, withFileTypes: true });
   const paths = entries
     .filter((entry) => entry.isFile())
     .map((entry) => relative(folder, join(entry.path, entry.name)));
-  const made = paths.filter((path) => !given.some((file) => file.path === path));
-  return Promise.all(made.map(async (path) => ({ path, bytes: await readFile(join(folder, path)) })));
+  const files = await Promise.all(
+    paths.map(async (path) => ({ path, bytes: await readFile(join(folder, path)) })),
+  );
+  return files.filter(
+    ({ path, bytes }) => !given.some((file) => file.path === path && bytes.equals(file.bytes)),
+  );
 }
 
 export class NativeEngine implements Engine {

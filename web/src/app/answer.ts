@@ -6,11 +6,14 @@ import type { Engine, InputFile, Run } from "../engine/engine";
 export type Answer<Value> =
   /** Nothing was asked. */
   | { readonly state: "idle"; readonly value?: undefined }
-  /** Under way; `value` is the answer before, to be shown meanwhile. */
-  | { readonly state: "running"; readonly value?: Value }
+  /** Under way; `value` is the answer before, to be shown meanwhile; `stop` gives it up. */
+  | { readonly state: "running"; readonly value?: Value; readonly stop?: () => void }
   | { readonly state: "done"; readonly value: Value; readonly code: number; readonly messages: string }
   /** The run ended with code 2, or with something else than JSON: `error` is the program's own text. */
   | { readonly state: "failed"; readonly error: string; readonly value?: undefined };
+
+/** What stands instead of an answer that the user gave up; it is no text of the program. */
+const kStopped = { state: "failed", error: "已取消 / cancelled" } as const;
 
 export const kIdle = { state: "idle" } as const;
 
@@ -58,7 +61,11 @@ export function useAnswer<Value>(
       return undefined;
     }
     const abort = new AbortController();
-    setAnswer(last.current === undefined ? { state: "running" } : { state: "running", value: last.current });
+    const stop = () => {
+      abort.abort();
+      setAnswer(kStopped);
+    };
+    setAnswer({ state: "running", stop, ...(last.current !== undefined && { value: last.current }) });
     const timer = setTimeout(() => {
       void ask<Value>(engine, JSON.parse(asked) as string[], files, abort.signal).then((given) => {
         if (abort.signal.aborted) return;

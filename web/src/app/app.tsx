@@ -9,11 +9,12 @@ import { Findings } from "../views/findings/findings";
 import { Tables } from "../views/grid/tables";
 import { Holes } from "../views/holes/holes";
 import { RuleMap } from "../views/map/map";
-import { TryPlate } from "../views/plate/plate";
 import { Sheet } from "../views/sheet/sheet";
+import { TryPlate } from "../views/plate/plate";
 import { kPageWords } from "../words/page";
 import { browserLanguage, type Language, sayIn } from "../words/say";
 import { useAnswer } from "./answer";
+import { checkArguments } from "./check_arguments";
 import { DropZone } from "./drop_zone";
 import { Header } from "./header";
 import { OpenSecond } from "./open_menu";
@@ -65,24 +66,18 @@ function useLanguage(): [Language, (language: Language) => void] {
   return [language, setLanguage];
 }
 
-/** The command line of the check that all views share. */
-function checkArguments(workspace: Workspace | undefined, language: Language): readonly string[] | undefined {
-  if (workspace === undefined) return undefined;
-  const plates = workspace.plates === undefined ? [] : ["--plates", workspace.plates.path];
-  const types = workspace.holeTypes === undefined ? [] : ["--types", workspace.holeTypes.path];
-  return ["check", "--config", workspace.folder, ...plates, ...types, "--format", "json", "--lang", language];
-}
-
-const kUnderWay = { state: "running" } as const;
-
 /** While the same folder is read again, what was found before stays in sight. */
 function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language) {
   const files = useMemo(() => filesOf(workspace), [workspace]);
-  const args = useMemo(() => checkArguments(workspace, language), [workspace, language]);
+  const args = useMemo(
+    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json")),
+    [workspace, language],
+  );
   const answer = useAnswer<CheckReport>(engine, args, files);
   const checked = useRef<string | undefined>(undefined);
   if (answer.state === "done") checked.current = workspace?.name;
-  return answer.state === "running" && checked.current !== workspace?.name ? kUnderWay : answer;
+  if (answer.state !== "running" || checked.current === workspace?.name) return answer;
+  return { state: "running", ...(answer.stop && { stop: answer.stop }) };
 }
 
 /** Where the reader is: the view, and what other views sent it there for. */

@@ -7,6 +7,7 @@ import { FilesMenu } from "./files_menu";
 import type { Opening } from "./open/use_opening";
 import { configurationFolders, nameOf } from "./open/workspaces";
 import { OpenMenu } from "./open_menu";
+import { UnderWay } from "./parts/under_way";
 import { kSeverities, SeverityMark } from "./parts/severity";
 import { useApp, useSay } from "./state";
 
@@ -36,7 +37,7 @@ function FolderName({ opening, name }: { opening: Opening; name: string }) {
 function Counts() {
   const { check, show } = useApp();
   const say = useSay();
-  if (check.state === "running") return <span class="quiet">{say(kPageWords.checking)}</span>;
+  if (check.state === "running") return <UnderWay text={say(kPageWords.checking)} stop={check.stop} />;
   if (check.state !== "done") return null;
   const { errors, warnings, hints } = check.value.summary;
   const counts = { error: errors, warning: warnings, hint: hints };

@@ -16,7 +16,7 @@ export interface Run {
   readonly code: number;
   readonly out: string;
   readonly err: string;
-  /** Files that the run made, as `init` and `-o` do. */
+  /** Files that the run wrote or changed, as `init` and `-o` do. */
   readonly written: readonly InputFile[];
 }
 

@@ -7,10 +7,11 @@ export interface Started {
     mkdirTree(path: string): void;
     chdir(path: string): void;
     writeFile(path: string, bytes: Uint8Array, options?: { canOwn?: boolean }): void;
-    readFile(path: string): Uint8Array<ArrayBuffer>;
+    readFile(path: string): Uint8Array;
     readdir(path: string): string[];
-    stat(path: string): { mode: number };
+    stat(path: string): { readonly mode: number; readonly mtime: Date };
     isDir(mode: number): boolean;
+    utime(path: string, read: number, written: number): void;
   };
   ccall(name: string, gives: "number" | null, takes: readonly "string"[], given: readonly string[]): number;
 }
@@ -23,7 +24,6 @@ export interface RawRun {
   readonly code: number;
   readonly out: Uint8Array<ArrayBuffer>;
   readonly err: Uint8Array<ArrayBuffer>;
-  /** Files that the run made. */
   readonly written: readonly InputFile[];
 }
 
@@ -78,15 +78,7 @@ export class Instance {
     for (const [name, value] of Object.entries(variables)) this.call("SetVariable", name, value);
     for (const argument of args) this.call("AddArgument", argument);
     const code = this.started.ccall("Run", "number", [], []);
-    const given = new Set(files.map(({ path }) => path));
-    const written = this.pathsBelow(".").filter((path) => !given.has(path));
-    const { FS } = this.started;
-    return {
-      code,
-      out: joined(this.out),
-      err: joined(this.err),
-      written: written.map((path) => ({ path, bytes: FS.readFile(path) })),
-    };
+    return { code, out: joined(this.out), err: joined(this.err), written: this.writtenBelow(folder) };
   }
 
   private call(name: string, ...texts: string[]): void {
@@ -94,25 +86,27 @@ export class Instance {
     this.started.ccall(name, null, takes, texts);
   }
 
-  /** Files below a folder, as the run's working folder sees them. */
-  private pathsBelow(folder: string): string[] {
-    const { FS } = this.started;
-    return FS.readdir(folder)
-      .filter((name) => name !== "." && name !== "..")
-      .flatMap((name) => {
-        const path = folder === "." ? name : `${folder}/${name}`;
-        return FS.isDir(FS.stat(path).mode) ? this.pathsBelow(path) : [path];
-      });
-  }
-
   private putFiles(folder: string, files: readonly InputFile[]): void {
     const { FS } = this.started;
     FS.mkdirTree(folder);
     FS.chdir(folder);
-    for (const { path, bytes } of files) {
-      const end = path.lastIndexOf("/");
-      if (end > 0) FS.mkdirTree(path.slice(0, end));
-      FS.writeFile(path, bytes, { canOwn: true });
+    for (const file of files) {
+      const path = `${folder}/${file.path}`;
+      FS.mkdirTree(path.slice(0, path.lastIndexOf("/")));
+      FS.writeFile(path, file.bytes, { canOwn: true });
+      FS.utime(path, 0, 0);
     }
+  }
+
+  /** The files below a folder that have another time than those that were given; paths from the working folder on. */
+  private writtenBelow(folder: string, front = ""): InputFile[] {
+    const { FS } = this.started;
+    const names = FS.readdir(folder).filter((name) => name !== "." && name !== "..");
+    return names.flatMap((name) => {
+      const path = `${folder}/${name}`;
+      const { mode, mtime } = FS.stat(path);
+      if (FS.isDir(mode)) return this.writtenBelow(path, `${front}${name}/`);
+      return mtime.getTime() === 0 ? [] : [{ path: front + name, bytes: FS.readFile(path) }];
+    });
   }
 }

@@ -30,7 +30,7 @@ export const kPageWords = {
   close: { zh: "关闭", en: "Close" },
   busy: { zh: "正在读取…", en: "Reading…" },
   checking: { zh: "正在检查…", en: "Checking…" },
-  skip: { zh: "跳到内容", en: "Skip to the content" },
+  stop: { zh: "取消", en: "Stop" },
   failed: { zh: "程序没有给出结果：", en: "The program gave no answer:" },
   severity: {
     error: { zh: "错误", en: "Error" },

@@ -2,6 +2,7 @@
 
 import { useState } from "preact/hooks";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
+import { UnderWay } from "../../app/parts/under_way";
 import { useKept } from "../../app/parts/kept";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
@@ -109,8 +110,10 @@ function ComparedPair({ pair, turn }: { pair: Pair; turn: () => void }) {
     <>
       <PairBar pair={pair} turn={turn} />
       {answer.state === "failed" && <Failure error={answer.error} />}
-      {answer.state !== "failed" && answer.value === undefined && (
-        <Empty>{say(kComparisonWords.comparing)}</Empty>
+      {answer.state === "running" && (
+        <div class="pad">
+          <UnderWay text={say(kComparisonWords.comparing)} stop={answer.stop} />
+        </div>
       )}
       {answer.value !== undefined && isEmpty(answer.value) && <p class="pad">{say(kComparisonWords.same)}</p>}
       {answer.value !== undefined && (

@@ -1,6 +1,7 @@
 // What `check` found: a list, and beside it the cell of the chosen one.
 
 import { useMemo } from "preact/hooks";
+import { checkArguments } from "../../app/check_arguments";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { CopyButton } from "../../app/parts/finding_card";
 import { useKept } from "../../app/parts/kept";
@@ -33,9 +34,7 @@ function useSaveCsv(): () => Promise<void> {
   const say = useSay();
   return async () => {
     if (workspace === undefined) return;
-    const plates = workspace.plates === undefined ? [] : ["--plates", workspace.plates.path];
-    const args = ["check", "--config", workspace.folder, ...plates, "--format", "csv", "--lang", language];
-    const run = await engine.run(args, filesOf(workspace));
+    const run = await engine.run(checkArguments(workspace, language, "csv"), filesOf(workspace));
     saveFile(say(kFindingsWords.csvName), run.out, "text/csv");
   };
 }
