@@ -1,6 +1,7 @@
 // One run of the companion as a view waits for it: runs anew when its arguments or files change, and cancels what nobody waits for.
 
 import { useEffect, useRef, useState } from "preact/hooks";
+import { EngineError } from "../engine/engine_error";
 import type { Engine, InputFile, Run } from "../engine/engine";
 
 export type Answer<Value> =
@@ -28,6 +29,12 @@ export function answerOf<Value>(run: Run): Answer<Value> {
   }
 }
 
+/** What the engine says of itself comes in both languages: here nobody knows which one is read. */
+function textOf(error: unknown): string {
+  if (error instanceof EngineError) return `${error.words.zh}\n${error.words.en}`;
+  return error instanceof Error ? error.message : String(error);
+}
+
 async function ask<Value>(
   engine: Engine,
   args: readonly string[],
@@ -37,7 +44,7 @@ async function ask<Value>(
   try {
     return answerOf<Value>(await engine.run(args, files, signal));
   } catch (error) {
-    return { state: "failed", error: error instanceof Error ? error.message : String(error) };
+    return { state: "failed", error: textOf(error) };
   }
 }
 

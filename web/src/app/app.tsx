@@ -13,11 +13,12 @@ import { Sheet } from "../views/sheet/sheet";
 import { TryPlate } from "../views/plate/plate";
 import { kPageWords } from "../words/page";
 import { browserLanguage, type Language, sayIn } from "../words/say";
-import { useAnswer } from "./answer";
+import { type Answer, useAnswer } from "./answer";
 import { checkArguments } from "./check_arguments";
 import { DropZone } from "./drop_zone";
 import { Header } from "./header";
 import { OpenSecond } from "./open_menu";
+import { reportSource } from "./open/report_data";
 import { type Opening, useOpening } from "./open/use_opening";
 import { type Tab, Tabs, tabId } from "./parts/tabs";
 import { Start } from "./start";
@@ -67,7 +68,7 @@ function useLanguage(): [Language, (language: Language) => void] {
 }
 
 /** While the same folder is read again, what was found before stays in sight. */
-function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language) {
+function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language): Answer<CheckReport> {
   const files = useMemo(() => filesOf(workspace), [workspace]);
   const args = useMemo(
     () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json")),
@@ -108,6 +109,14 @@ function useAgainKey(opening: Opening): void {
     document.addEventListener("keydown", onKey);
     return () => document.removeEventListener("keydown", onKey);
   }, [isOpen, opening.again]);
+}
+
+/** A report has its files inside. */
+function useReport(open: Opening["open"]): void {
+  useEffect(() => {
+    const source = reportSource();
+    if (source !== undefined) open([source], "config");
+  }, [open]);
 }
 
 function Notice({ opening }: { opening: Opening }) {
@@ -159,6 +168,7 @@ export function Page({ engine }: { engine: Engine }) {
   const check = useCheck(engine, workspace, language);
   const place = usePlace();
   useAgainKey(opening);
+  useReport(opening.open);
   const { addFile, addedFile } = opening;
   const openSecond = <OpenSecond opening={opening} />;
   const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };

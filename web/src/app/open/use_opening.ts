@@ -2,6 +2,7 @@
 
 import { useCallback, useMemo, useRef, useState } from "preact/hooks";
 import type { Engine } from "../../engine/engine";
+import { EngineError } from "../../engine/engine_error";
 import { kOpenWords } from "../../words/open";
 import type { Text } from "../../words/say";
 import type { Workspace } from "../state";
@@ -42,6 +43,7 @@ export interface Opening {
 let revision = 0;
 
 function noticeOf(error: unknown): Text {
+  if (error instanceof EngineError) return error.words;
   if (error instanceof StaleFiles) return kOpenWords.stale;
   if (error instanceof TooLarge)
     return { zh: kOpenWords.tooLarge.zh(error.message), en: kOpenWords.tooLarge.en(error.message) };
