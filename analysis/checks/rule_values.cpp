@@ -87,6 +87,13 @@ Words WordsOf(Condition condition) {
   return {"wire cutting", "线割"};
 }
 
+std::optional<std::size_t> SizeNamed(std::string_view name) {
+  for (std::size_t size = 0; size < kSizeCount; ++size) {
+    if (NameOf(kSizeConditions[size].condition) == name) return size;
+  }
+  return std::nullopt;
+}
+
 Value BoxValue(const Box& box) {
   Object sides;
   for (std::size_t size = 0; size < kSizeCount; ++size) {
@@ -112,8 +119,8 @@ Value GroupValue(const RegionGroup& group, bool answersAgree) {
                 {"newWireCutting", group.after.wireCutting}};
 }
 
-Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
-  Object members = {{plate_members::kName, "witness"}};
+Object PlateValue(const std::string& name, const Plate& plate, const PlateFeatures& features) {
+  Object members = {{plate_members::kName, name}};
   for (const SizeCondition& size : kSizeConditions)
     members.emplace_back(NameOf(size.condition), plate.*size.value);
   if (plate.layer != 0) members.emplace_back(plate_members::kLayer, plate.layer);
@@ -124,6 +131,10 @@ Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
   if (!features.customProcesses.empty())
     members.emplace_back(plate_members::kCustomProcesses, NamesInUtf8(features.customProcesses));
   return members;
+}
+
+Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
+  return PlateValue("witness", plate, features);
 }
 
 Value NewRowValue(const NewRow& row) {

@@ -5,7 +5,10 @@
 //   finding.members = {{"box", BoxValue(gap.box)}, {"group", GroupValue(gap.group)},
 //                      {"witness", WitnessValue(gap.witness)}};
 
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "analysis/rules/gaps.h"
 #include "analysis/rules/rule_regions.h"
@@ -23,6 +26,9 @@ const char* NameOf(Condition condition);
 /// The same for people.
 Words WordsOf(Condition condition);
 
+/// The place in `kSizeConditions` of the size of this name; nothing when none has it.
+std::optional<std::size_t> SizeNamed(std::string_view name);
+
 /// `{"length": [low, high], …}`; an end that is infinite is null.
 Value BoxValue(const Box& box);
 
@@ -32,7 +38,9 @@ Value GroupValue(const GroupName& group);
 Value GroupValue(const RegionGroup& group, bool answersAgree);
 
 /// A plate as plate files in JSON have it: what is 0, empty or unknown is left out where they may leave it
-/// out.
+/// out. The name is UTF-8.
+Object PlateValue(const std::string& name, const Plate& plate, const PlateFeatures& features);
+/// A plate that shows what a finding says.
 Value WitnessValue(const Plate& plate, const PlateFeatures& features = {});
 
 /// Column and cell of each pair.

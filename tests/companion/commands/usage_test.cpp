@@ -40,14 +40,17 @@ struct VerbOptions {
   CLI::App parser;
 };
 
-/// The verb with everything that it requires. What stands there is a role, so that it is right for each verb.
+/// The verb with everything that it requires: the first of several words, else a role, which is right for
+/// each verb.
 Words Complete(const Verb& verb) {
   Words words = {verb.name};
   const VerbOptions options(verb);
   for (const CLI::Option* option : options.parser.get_options()) {
     if (!option->get_required()) continue;
     if (!option->get_positional()) words.push_back(option->get_name());
-    words.push_back("layers");
+    const std::string type = option->get_type_name();
+    const std::size_t bar = type.find('|');
+    words.push_back(bar == std::string::npos ? "layers" : type.substr(0, bar));
   }
   return words;
 }
@@ -113,7 +116,7 @@ TEST(Usage, NoTwoVerbsShareAName) {
 TEST(Usage, EveryVerbRefusesAMisspelledOptionWithTheNearestOne) {
   for (const Verb& verb : Verbs()) {
     for (const std::string& option : VerbOptions(verb).LongNames() + Words{"--format", "--lang", "--help"}) {
-      const std::string wrong = option + "x";
+      const std::string wrong = option + option.back();
       EXPECT_EQ(Complaint(Complete(verb) + Words{wrong}),
                 "plateconfig: error: there is no option " + wrong + "; did you mean \"" + option + "\"?");
       EXPECT_EQ(Complaint(Words{"--lang", "zh"} + Complete(verb) + Words{wrong}),
@@ -210,7 +213,7 @@ TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
 TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
             "plateconfig: error: a verb is missing: one of folder, init, check, process, explain, diff, "
-            "holes, show, schema, template");
+            "holes, show, schema, template, picture");
   EXPECT_EQ(Complaint({"process"}), "plateconfig: error: the argument FILE is missing: plates");
   EXPECT_EQ(Complaint({"holes", "a.csv"}),
             "plateconfig: error: the option --types FILE is missing: hole types");

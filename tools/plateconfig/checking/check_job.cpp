@@ -1,9 +1,9 @@
 #include "plateconfig/checking/check_job.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 
+#include "analysis/checks/rule_values.h"
 #include "analysis/text/strict_values.h"
 
 namespace plateconfig {
@@ -11,15 +11,6 @@ namespace {
 
 bool Has(const std::vector<std::string>& codes, const CodeRow& row) {
   return std::find(codes.begin(), codes.end(), row.name) != codes.end();
-}
-
-/// The place of a size that --domain names.
-std::optional<std::size_t> SizeNamed(std::string_view name) {
-  constexpr std::string_view kNames[] = {"length", "width", "thickness", "weight"};
-  static_assert(std::size(kNames) == kSizeCount);
-  const auto found = std::find(std::begin(kNames), std::end(kNames), name);
-  if (found == std::end(kNames)) return std::nullopt;
-  return static_cast<std::size_t>(found - std::begin(kNames));
 }
 
 }  // namespace

@@ -1,14 +1,11 @@
-#include <algorithm>
-#include <iterator>
 #include <memory>
 #include <optional>
 
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/holes/hole_answer.h"
+#include "plateconfig/holes/hole_files.h"
 #include "plateconfig/holes/hole_output.h"
-#include "plateconfig/holes/hole_reader.h"
-#include "plateconfig/input/input_file.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/output/csv_output.h"
 #include "plateconfig/output/json_output.h"
@@ -23,20 +20,6 @@ struct HoleJob {
   Severity failOn = Severity::kWarning;
 };
 
-std::vector<HoleTypeInput> ReadTypeFiles(const HoleJob& job, Context& context) {
-  std::vector<HoleTypeInput> types;
-  for (const std::string& file : job.typeFiles) {
-    const auto read = [&](std::istream& in, const std::string& shownAs, Progress&) {
-      std::vector<HoleTypeInput> more = ReadHoleTypes(in, shownAs, context.reporter);
-      std::move(more.begin(), more.end(), std::back_inserter(types));
-      return more.size();
-    };
-    VisitInput({file, Say("no hole type was read from this file", "没有从此文件读到任何孔类型")},
-               context.streams, context.reporter, read);
-  }
-  return types;
-}
-
 class HoleLoop {
  public:
   HoleLoop(const HoleJob& job, const std::vector<HoleTypeInput>& types, Context& context)
@@ -45,18 +28,13 @@ class HoleLoop {
     if (context.format == Format::kCsv) csv_.emplace(context.streams.out, HoleColumns());
   }
 
-  void VisitFile(const std::string& file) {
-    const auto read = [this](std::istream& in, const std::string& shownAs, Progress& progress) {
-      const auto holes = ReadHoles(in, shownAs, context_.reporter);
-      std::size_t count = 0;
-      for (; const std::optional<HoleInput> hole = holes->Next(); ++count) {
-        progress.Step();
-        Visit(*hole);
-      }
-      return count;
-    };
-    VisitInput({file, Say("no hole was read from this file", "没有从此文件读到任何孔")}, context_.streams,
-               context_.reporter, read);
+  void Visit(const HoleInput& hole) {
+    const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
+    if (answer.BestCount() != 1) context_.reporter.CountFinding();
+    ++count_;
+    if (answer.BestCount() == 0) ++withoutType_;
+    if (answer.IsTied()) ++tied_;
+    Write(hole, answer);
   }
 
   void Finish() const {
@@ -71,15 +49,6 @@ class HoleLoop {
   }
 
  private:
-  void Visit(const HoleInput& hole) {
-    const HoleAnswer answer = ClassifyAgainst(hole.hole, types_);
-    if (answer.BestCount() != 1) context_.reporter.CountFinding();
-    ++count_;
-    if (answer.BestCount() == 0) ++withoutType_;
-    if (answer.IsTied()) ++tied_;
-    Write(hole, answer);
-  }
-
   void Write(const HoleInput& hole, const HoleAnswer& answer) {
     if (array_) {
       array_->Add(HoleToJson(hole, answer, job_.explains));
@@ -102,11 +71,12 @@ class HoleLoop {
 
 void RunHoles(const HoleJob& job, Context& context) {
   context.reporter.FailOn(job.failOn);
-  const std::vector<HoleTypeInput> types = ReadTypeFiles(job, context);
+  const std::vector<HoleTypeInput> types = ReadTypeFiles(job.typeFiles, context.streams, context.reporter);
   // Without a type every hole would only repeat that there is none.
   if (types.empty() && context.reporter.Result() == kUnusable) return;
   HoleLoop loop(job, types, context);
-  for (const std::string& file : job.files) loop.VisitFile(file);
+  VisitHoleFiles(job.files, context.streams, context.reporter,
+                 [&](const HoleInput& hole) { loop.Visit(hole); });
   loop.Finish();
 }
 

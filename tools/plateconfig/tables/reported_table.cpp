@@ -28,4 +28,10 @@ void ReportTable(const GivenTable& given, Reporter& reporter) {
   for (const Finding& finding : FindingsOf(given, options)) reporter.Report(finding);
 }
 
+void ReportFile(const GivenTable& given, Reporter& reporter) {
+  CheckFile(given, [&](const Finding& finding) {
+    if (finding.code.Row().severity != Severity::kHint) reporter.Report(finding);
+  });
+}
+
 }  // namespace plateconfig

@@ -16,4 +16,8 @@ GivenTable GivenFrom(Role role, const TableFile& file);
 /// for a check.
 void ReportTable(const GivenTable& given, Reporter& reporter);
 
+/// Reports what is wrong with the file as a whole, for who makes something of its table that is not about
+/// columns and cells.
+void ReportFile(const GivenTable& given, Reporter& reporter);
+
 }  // namespace plateconfig

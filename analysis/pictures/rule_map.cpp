@@ -1,0 +1,230 @@
+#include "analysis/pictures/rule_map.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "analysis/rules/witness.h"
+#include "rules/rule_table_keys.h"
+
+namespace plateconfig {
+namespace {
+
+using Rows = std::vector<const ModelRow*>;
+
+/// Shown of a size in which no row has a bound: most plates are smaller.
+constexpr double kUsualSize = 1000;
+/// Room beyond the greatest bound, so that one sees what is there.
+constexpr double kShareBeyond = 10;
+
+Rows RowsOf(const RuleModel& model, const PlateSpace& space, const PlateGroup& group) {
+  Rows rows;
+  for (const ModelRow& row : model.rows) {
+    if (!row.ImpossibleSize() && space.Admits(row, group)) rows.push_back(&row);
+  }
+  return rows;
+}
+
+// ---- sizes ----
+
+std::vector<double> StatedBounds(const Rows& rows, std::size_t size) {
+  std::set<double> bounds;
+  for (const ModelRow* row : rows) {
+    for (const double bound : {row->stated[size].minimum, row->stated[size].maximum}) {
+      if (bound > 0 && bound < kUnboundedMaximum) bounds.insert(bound);
+    }
+  }
+  return {bounds.begin(), bounds.end()};
+}
+
+MapSize SizeOf(const Rows& rows, std::size_t size) {
+  MapSize shown{{0, kUsualSize}, StatedBounds(rows, size)};
+  if (!shown.bounds.empty()) shown.shown.high = shown.bounds.back() + shown.bounds.back() / kShareBeyond;
+  return shown;
+}
+
+/// The first interval of values that most of the rows accept.
+Interval MostAccepted(const Rows& rows, std::size_t size) {
+  std::vector<double> lows;
+  std::vector<double> highs;
+  for (const ModelRow* row : rows) {
+    const Box reach = WithoutZero(row->box);
+    lows.push_back(reach[size].low);
+    highs.push_back(reach[size].high);
+  }
+  std::sort(lows.begin(), lows.end());
+  std::sort(highs.begin(), highs.end());
+  Interval best{0, kUsualSize};
+  std::ptrdiff_t most = 0;
+  for (const double low : lows) {
+    const auto begun = std::upper_bound(lows.begin(), lows.end(), low);
+    const auto ended = std::lower_bound(highs.begin(), highs.end(), low);
+    const std::ptrdiff_t accepting = (begun - lows.begin()) - (ended - highs.begin());
+    if (accepting <= most) continue;
+    most = accepting;
+    best = {low, begun == lows.end() ? *ended : std::min(*ended, Before(*begun))};
+  }
+  return best;
+}
+
+// ---- the group ----
+
+std::optional<std::size_t> GroupOf(const PlateSpace& space, std::size_t bodyClass,
+                                   const FaceAnswers& answers) {
+  const auto& groups = space.Groups();
+  const auto found = std::find_if(groups.begin(), groups.end(), [&](const PlateGroup& group) {
+    return group.bodyClass == bodyClass && group.Answers() == answers;
+  });
+  if (found == groups.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - groups.begin());
+}
+
+std::size_t ClassOf(const PlateSpace& space, int color) {
+  const auto& classes = space.BodyClasses();
+  const auto found = std::find_if(classes.begin(), classes.end(), [&](const ColorClass& each) {
+    return std::binary_search(each.colors.begin(), each.colors.end(), color);
+  });
+  return found == classes.end() ? 0 : static_cast<std::size_t>(found - classes.begin());
+}
+
+/// The first class for whose plates most rows are.
+std::size_t ClassOfMostRows(const RuleModel& model, const PlateSpace& space, const FaceAnswers& answers) {
+  std::size_t best = 0;
+  std::size_t most = 0;
+  for (std::size_t i = 0; i < space.BodyClasses().size(); ++i) {
+    const auto group = GroupOf(space, i, answers);
+    const std::size_t rows = group ? RowsOf(model, space, space.Groups()[*group]).size() : 0;
+    if (rows <= most) continue;
+    most = rows;
+    best = i;
+  }
+  return best;
+}
+
+std::vector<ColorChoice> ColorChoices(const PlateSpace& space) {
+  std::vector<ColorChoice> choices;
+  for (std::size_t i = 0; i < space.BodyClasses().size(); ++i)
+    choices.push_back({space.BodyClasses()[i].colors, space.BodyColor(i)});
+  return choices;
+}
+
+std::vector<FaceAnswers> AnswerChoices(const PlateSpace& space) {
+  std::vector<FaceAnswers> choices;
+  for (const bool profile : {false, true}) {
+    for (const bool wireCutting : {false, true}) {
+      if (space.HasAnswers({profile, wireCutting})) choices.push_back({profile, wireCutting});
+    }
+  }
+  return choices;
+}
+
+// ---- the picture ----
+
+class MapDrawing {
+ public:
+  MapDrawing(const RuleModel& model, const PlateSpace& space, const MapQuestion& question)
+      : model_(model), space_(space), question_(question), work_(question.work) {}
+
+  RuleMap Draw() {
+    const std::size_t bodyClass = question_.bodyColor ? ClassOf(space_, *question_.bodyColor)
+                                                      : ClassOfMostRows(model_, space_, question_.answers);
+    map_.bodyColor = question_.bodyColor.value_or(space_.BodyColor(bodyClass));
+    map_.group = {space_.BodyClasses()[bodyClass].colors, question_.answers};
+    map_.colorChoices = ColorChoices(space_);
+    map_.answerChoices = AnswerChoices(space_);
+    const auto group = GroupOf(space_, bodyClass, question_.answers);
+    map_.isPossible = group.has_value();
+    const Rows rows = group ? RowsOf(model_, space_, space_.Groups()[*group]) : Rows();
+    if (group) map_.hull = HullOf(model_, space_, space_.Groups()[*group]);
+    TakeSizes(rows);
+    DrawRows(rows);
+    DrawGaps();
+    return std::move(map_);
+  }
+
+ private:
+  void TakeSizes(const Rows& rows) {
+    for (std::size_t size = 0; size < kSizeCount; ++size) {
+      map_.sizes[size] = SizeOf(rows, size);
+      map_.fixed[size] = question_.fixed[size].value_or(RoundNumber(MostAccepted(rows, size)));
+      picture_[size] = {map_.fixed[size], map_.fixed[size]};
+    }
+    TakeAxis(question_.x, question_.xRange);
+    TakeAxis(question_.y, question_.yRange);
+  }
+
+  void TakeAxis(std::size_t size, const std::optional<Interval>& range) {
+    if (range) map_.sizes[size].shown = *range;
+    picture_[size] = map_.sizes[size].shown;
+  }
+
+  void DrawRows(const Rows& rows) {
+    for (const ModelRow* row : rows) {
+      const Box box = Intersection(row->box, picture_);
+      if (IsEmpty(box)) continue;
+      MapRegion region{row->row, LayerOf(*row), Flat(box), {}, {}};
+      for (const Box& piece : Uncovered(box)) region.wins.push_back(Flat(piece));
+      for (const MapRegion& earlier : map_.regions) AddHidden(earlier, region);
+      taken_.push_back(box);
+      map_.regions.push_back(std::move(region));
+    }
+  }
+
+  void DrawGaps() {
+    if (!map_.hull) return;
+    const Box searched = Intersection(*map_.hull, picture_);
+    if (IsEmpty(searched)) return;
+    for (const Box& piece : Uncovered(searched)) {
+      if (!IsOnlyZero(piece)) map_.gaps.push_back(Flat(piece));
+    }
+  }
+
+  /// What the rows so far leave of a box.
+  std::vector<Box> Uncovered(const Box& box) {
+    std::vector<Box> pieces;
+    const auto keep = [&](const Box& piece) {
+      pieces.push_back(piece);
+      return true;
+    };
+    if (ForEachUncovered(box, taken_, work_, keep) != SearchEnd::kComplete) map_.isComplete = false;
+    MergeAdjacent(pieces);
+    std::sort(pieces.begin(), pieces.end(),
+              [](const Box& a, const Box& b) { return BoundsOf(a) < BoundsOf(b); });
+    return pieces;
+  }
+
+  /// Where the earlier row wins, and so takes the plates of this one. What wins there does not overlap.
+  static void AddHidden(const MapRegion& earlier, MapRegion& region) {
+    for (const FlatBox& won : earlier.wins) {
+      if (!won.x.Meets(region.matches.x) || !won.y.Meets(region.matches.y)) continue;
+      region.hidden.push_back({{Both(won.x, region.matches.x), Both(won.y, region.matches.y)}, earlier.row});
+    }
+  }
+
+  static Interval Both(const Interval& a, const Interval& b) {
+    return {std::max(a.low, b.low), std::min(a.high, b.high)};
+  }
+
+  FlatBox Flat(const Box& box) const { return {box[question_.x], box[question_.y]}; }
+
+  std::string LayerOf(const ModelRow& row) const {
+    return model_.tables->ruleTable.GetItemValue(std::string(columns::kLayer), row.row - 1);
+  }
+
+  const RuleModel& model_;
+  const PlateSpace& space_;
+  const MapQuestion& question_;
+  Work work_;
+  Box picture_{};
+  std::vector<Box> taken_;  // What the rows so far accept of the picture.
+  RuleMap map_;
+};
+
+}  // namespace
+
+RuleMap DrawRuleMap(const RuleModel& model, const PlateSpace& space, const MapQuestion& question) {
+  return MapDrawing(model, space, question).Draw();
+}
+
+}  // namespace plateconfig

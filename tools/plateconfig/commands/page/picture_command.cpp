@@ -1,0 +1,207 @@
+// `picture`: what a page or another program needs to draw a configuration. One verb with four kinds of
+// pictures; each takes some of the options.
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+#include "analysis/checks/rule_values.h"
+#include "analysis/text/strict_values.h"
+#include "plateconfig/commands/options.h"
+#include "plateconfig/commands/verbs.h"
+#include "plateconfig/messages/language.h"
+#include "plateconfig/pictures/pictures.h"
+
+namespace plateconfig {
+namespace {
+
+struct PictureKind {
+  const char* name;
+  void (*write)(const PictureJob& job, const Streams& streams, Reporter& reporter);
+};
+
+constexpr PictureKind kKinds[] = {
+    {picture_kinds::kCells, WriteCells},
+    {picture_kinds::kMap, WriteMap},
+    {picture_kinds::kHoles, WriteHoles},
+    {picture_kinds::kSheet, WriteSheet},
+};
+
+/// What each picture takes; the others would ignore it, which is refused.
+struct OptionUse {
+  const char* option;
+  const char* kind;
+};
+
+constexpr OptionUse kUses[] = {
+    {"--x", picture_kinds::kMap},
+    {"--y", picture_kinds::kMap},
+    {"--fixed", picture_kinds::kMap},
+    {"--body-color", picture_kinds::kMap},
+    {"--profile", picture_kinds::kMap},
+    {"--wire-cutting", picture_kinds::kMap},
+    {"--x-range", picture_kinds::kMap},
+    {"--y-range", picture_kinds::kMap},
+    {"--process-rules", picture_kinds::kMap},
+    {"--types", picture_kinds::kHoles},
+    {"--size", picture_kinds::kSheet},
+    {"--paper", picture_kinds::kSheet},
+    {"--layout-defaults", picture_kinds::kSheet},
+    {"--custom-settings", picture_kinds::kSheet},
+    {"--frame-info", picture_kinds::kSheet},
+    {"--system-settings", picture_kinds::kSheet},
+    {"--texts", picture_kinds::kSheet},
+};
+
+/// The tables that a picture is made of, each an option of its own.
+const std::vector<Role>& DrawnRoles() {
+  static const std::vector<Role> kRoles = {Role::kProcessRules, Role::kLayoutDefaults, Role::kCustomSettings,
+                                           Role::kFrameInfo,    Role::kSystemSettings, Role::kTexts};
+  return kRoles;
+}
+
+bool IsGiven(const CLI::App& command, const char* option) {
+  const auto all = command.get_options();
+  return std::any_of(all.begin(), all.end(),
+                     [&](const CLI::Option* each) { return each->check_name(option) && each->count() > 0; });
+}
+
+/// False, with an error, for an option that this picture does not take.
+bool TakesOptions(const CLI::App& command, const std::string& kind, Reporter& reporter) {
+  for (const OptionUse& use : kUses) {
+    if (kind == use.kind || !IsGiven(command, use.option)) continue;
+    reporter.Error({"plateconfig"},
+                   Say("picture {0} takes no {1}; picture {2} does",
+                       "picture {0} 没有选项 {1}；picture {2} 才有", kind, use.option, use.kind));
+    return false;
+  }
+  return true;
+}
+
+void RunPicture(const PictureJob& job, const CLI::App& command, Context& context) {
+  context.reporter.ShowWarningsOnly();
+  if (!TakesOptions(command, job.kind, context.reporter)) return;
+  const auto kind = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                 [&](const PictureKind& each) { return job.kind == each.name; });
+  kind->write(job, context.streams, context.reporter);
+}
+
+// ---- options ----
+
+std::vector<std::string> KindNames() {
+  std::vector<std::string> names;
+  for (const PictureKind& kind : kKinds) names.emplace_back(kind.name);
+  return names;
+}
+
+std::vector<std::string> SizeNames() {
+  std::vector<std::string> names;
+  for (const SizeCondition& size : kSizeConditions) names.emplace_back(NameOf(size.condition));
+  return names;
+}
+
+CLI::Validator IsRange() {
+  const auto check = [](std::string& text) {
+    return RangeOf(text) ? std::string()
+                         : Say("\"{}\" is no range; write it like 50_800",
+                               "“{}”不是范围；请写成 50_800 这样的形式", text);
+  };
+  return CLI::Validator(check, "");
+}
+
+CLI::Validator IsFixedSize() {
+  const auto check = [](std::string& text) {
+    return FixedSizeOf(text) ? std::string()
+                             : Say("\"{}\" is no size with a value; write it like thickness=30",
+                                   "“{}”不是尺寸及其数值；请写成 thickness=30 这样的形式", text);
+  };
+  return CLI::Validator(check, "");
+}
+
+CLI::Validator IsPaper() {
+  const auto check = [](std::string& text) {
+    return PaperSizeOf(text) ? std::string()
+                             : Say("\"{}\" is no paper size in mm; write it like 420x297",
+                                   "“{}”不是以毫米计的纸张尺寸；请写成 420x297 这样的形式", text);
+  };
+  return CLI::Validator(check, "");
+}
+
+CLI::Validator IsColor() {
+  const auto check = [](std::string& text) {
+    return StrictInteger(text) ? std::string() : Say("\"{}\" is no colour index", "“{}”不是颜色号", text);
+  };
+  return CLI::Validator(check, "");
+}
+
+void AddMapOptions(CLI::App& command, PictureJob& job) {
+  const std::string size = fmt::format("{}", fmt::join(SizeNames(), "|"));
+  command.add_option("--x", job.x, Say("map: the size to the right", "规则图：横轴的尺寸"))
+      ->type_name(size)
+      ->check(OneOf(SizeNames()));
+  command.add_option("--y", job.y, Say("map: the size upwards", "规则图：纵轴的尺寸"))
+      ->type_name(size)
+      ->check(OneOf(SizeNames()));
+  command
+      .add_option(
+          "--fixed", job.fixed,
+          Say("map: other sizes, thickness=30,weight=120", "规则图：其余尺寸，thickness=30,weight=120"))
+      ->type_name(Say("SIZES", "尺寸"))
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->check(IsFixedSize());
+  command
+      .add_option("--body-color", job.bodyColor, Say("map: body colour of the plates", "规则图：板的体颜色"))
+      ->type_name("N")
+      ->check(IsColor());
+  command.add_flag("--profile", job.answers.profile, Say("map: plates with a profile", "规则图：有型面的板"));
+  command.add_flag("--wire-cutting", job.answers.wireCutting,
+                   Say("map: plates with wire cutting", "规则图：有线割的板"));
+  for (const auto& [option, range] : {std::pair{"--x-range", &job.xRange}, {"--y-range", &job.yRange}}) {
+    command.add_option(option, *range, Say("map: what this axis shows", "规则图：此轴的范围"))
+        ->type_name("50_800")
+        ->check(IsRange());
+  }
+}
+
+void AddSheetOptions(CLI::App& command, PictureJob& job) {
+  command
+      .add_option("--size", job.sheetSize,
+                  Say("sheet: places of small or large sheets", "图纸：小图或大图的位置"))
+      ->type_name("small|large")
+      ->check(OneOf({"small", "large"}));
+  command
+      .add_option(
+          "--paper", job.paper,
+          Say("sheet: width and height in mm, which no table says", "图纸：以毫米计的宽和高，各表中没有"))
+      ->type_name("420x297")
+      ->check(IsPaper());
+}
+
+}  // namespace
+
+Run PictureOptions(CLI::App& command) {
+  const auto job = std::make_shared<PictureJob>();
+  command
+      .add_option("picture", job->kind,
+                  Say("cells of a table, map of the rules, holes in section, drawing sheet",
+                      "cells：表的单元格；map：规则图；holes：孔的剖面；sheet：图纸"))
+      ->type_name("cells|map|holes|sheet")
+      ->check(OneOf(KindNames()))
+      ->required();
+  command
+      .add_option("files", job->files,
+                  Say("cells: the table; holes: files of combined holes", "cells：表文件；holes：组合孔文件"))
+      ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty());
+  AddConfigurationOptions(command, DrawnRoles(), job->configuration);
+  AddMapOptions(command, *job);
+  command.add_option("--types", job->typeFiles, Say("holes: files of hole types", "孔：孔类型文件"))
+      ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
+      ->allow_extra_args(false);
+  AddSheetOptions(command, *job);
+  return WithOutput(command, [job, &command](Context& context) { RunPicture(*job, command, context); });
+}
+
+}  // namespace plateconfig
