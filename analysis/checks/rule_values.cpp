@@ -104,9 +104,10 @@ Value BoxValue(const Box& box) {
 }
 
 Value GroupValue(const GroupName& group) {
-  return Object{{"colors", ListOf(group.colors)},
-                {NameOf(Condition::kProfile), group.answers.profile},
-                {NameOf(Condition::kWireCutting), group.answers.wireCutting}};
+  Object members = {{"colors", ListOf(group.colors)}};
+  members.emplace_back(NameOf(Condition::kProfile), group.answers.profile);
+  members.emplace_back(NameOf(Condition::kWireCutting), group.answers.wireCutting);
+  return members;
 }
 
 Value GroupValue(const RegionGroup& group, bool answersAgree) {
@@ -118,8 +119,8 @@ Value GroupValue(const RegionGroup& group, bool answersAgree) {
                 {"newWireCutting", group.after.wireCutting}};
 }
 
-Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
-  Object members = {{plate_members::kName, "witness"}};
+Object PlateValue(const std::string& name, const Plate& plate, const PlateFeatures& features) {
+  Object members = {{plate_members::kName, name}};
   for (const SizeCondition& size : kSizeConditions)
     members.emplace_back(NameOf(size.condition), plate.*size.value);
   if (plate.layer != 0) members.emplace_back(plate_members::kLayer, plate.layer);
@@ -130,6 +131,10 @@ Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
   if (!features.customProcesses.empty())
     members.emplace_back(plate_members::kCustomProcesses, NamesInUtf8(features.customProcesses));
   return members;
+}
+
+Value WitnessValue(const Plate& plate, const PlateFeatures& features) {
+  return PlateValue("witness", plate, features);
 }
 
 Value NewRowValue(const NewRow& row) {

@@ -38,7 +38,9 @@ Value GroupValue(const GroupName& group);
 Value GroupValue(const RegionGroup& group, bool answersAgree);
 
 /// A plate as plate files in JSON have it: what is 0, empty or unknown is left out where they may leave it
-/// out.
+/// out. The name is UTF-8.
+Object PlateValue(const std::string& name, const Plate& plate, const PlateFeatures& features);
+/// A plate that shows what a finding says.
 Value WitnessValue(const Plate& plate, const PlateFeatures& features = {});
 
 /// Column and cell of each pair.

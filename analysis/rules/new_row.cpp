@@ -12,6 +12,7 @@
 #include "config/text_helpers.h"
 #include "rules/rule_table_keys.h"
 #include "text/gbk.h"
+#include "text/number_chars.h"
 
 namespace plateconfig {
 namespace {
@@ -73,7 +74,7 @@ Thousandths MaximumFor(double high, Thousandths least) {
 std::string ShortestText(double value) {
   // Sign, point and every digit of the largest and the smallest double.
   std::string text(std::numeric_limits<double>::max_exponent10 + 1100, '\0');
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
+  const auto end = ToChars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
   text.resize(static_cast<std::size_t>(end - text.data()));
   return text;
 }

@@ -10,6 +10,7 @@
 #include "analysis/rules/feed_rules.h"
 #include "config/text_helpers.h"
 #include "rules/condition_texts.h"
+#include "text/number_chars.h"
 
 namespace plateconfig {
 namespace {
@@ -22,14 +23,14 @@ constexpr int kMostDigits = std::numeric_limits<double>::max_digits10;
 double Rounded(double value, int digits) {
   NumberText text;
   const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific, digits).ptr;
-  std::from_chars(text.data(), end, value);
+      ToChars(text.data(), text.data() + text.size(), value, std::chars_format::scientific, digits).ptr;
+  FromChars(text.data(), end, value);
   return value;
 }
 
 std::ptrdiff_t LengthOfText(double value) {
   NumberText text;
-  return std::to_chars(text.data(), text.data() + text.size(), value).ptr - text.data();
+  return ToChars(text.data(), text.data() + text.size(), value).ptr - text.data();
 }
 
 /// The part of an interval in which plates are usual: nobody wants to see one of half a kilometre because a

@@ -30,7 +30,7 @@ std::size_t EditDistance(const std::u32string& a, const std::u32string& b) {
 /// True when the name has more than twice the characters of every known one, so that it resembles none.
 bool IsTooLong(std::string_view name, const std::vector<std::string_view>& known) {
   constexpr std::size_t kLongestCharacter = 4;
-  return std::ranges::all_of(known, [&](std::string_view candidate) {
+  return std::all_of(known.begin(), known.end(), [&](std::string_view candidate) {
     return name.size() / kLongestCharacter > 2 * candidate.size() + 1;
   });
 }

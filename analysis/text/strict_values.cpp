@@ -5,14 +5,23 @@
 #include <cmath>
 #include <system_error>
 
+#include "text/number_chars.h"
+
 namespace plateconfig {
 namespace {
+
+using plateconfig::FromChars;
+
+/// Whole numbers are read as doubles are.
+std::from_chars_result FromChars(const char* first, const char* last, int& value) {
+  return std::from_chars(first, last, value);
+}
 
 template <typename Number>
 std::optional<Number> WholeNumber(std::string_view text) {
   Number value{};
   const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  const auto [stop, error] = FromChars(text.data(), end, value);
   if (error != std::errc() || stop != end) return std::nullopt;
   return value;
 }
@@ -21,7 +30,7 @@ template <typename Number>
 bool IsOutOfRange(std::string_view text) {
   Number value{};
   const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  const auto [stop, error] = FromChars(text.data(), end, value);
   return error == std::errc::result_out_of_range && stop == end;
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/large_memory.h"
+#include "text/uninitialized_memory.h"
 
 namespace plateconfig {
 
@@ -48,7 +49,7 @@ class Places {
 
  private:
   void Grow(std::size_t capacity) {
-    auto larger = std::make_unique_for_overwrite<std::uint32_t[]>(capacity);
+    auto larger = UninitializedMemory<std::uint32_t>(capacity);
     PreferLargePages(larger.get(), capacity * sizeof(std::uint32_t));
     if (size_ > 0) std::memcpy(larger.get(), places_.get(), size_ * sizeof(std::uint32_t));
     places_ = std::move(larger);

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "config/numbers.h"
+#include "text/number_chars.h"
 
 namespace plateconfig {
 namespace {
@@ -46,7 +47,7 @@ double CutText(double value, int decimals) {
   std::array<char, kLongestText> text;
   char* const begin = text.data();
   char* const end =
-      std::to_chars(begin, begin + text.size(), value, std::chars_format::fixed, kPrintedDecimals).ptr;
+      ToChars(begin, begin + text.size(), value, std::chars_format::fixed, kPrintedDecimals).ptr;
   char* const point = std::find(begin, end, '.');
   const auto behindPoint = std::min(end - point, std::ptrdiff_t{1} + decimals);
   return ParseDouble(std::string_view(begin, static_cast<std::size_t>(point + behindPoint - begin)));

@@ -7,6 +7,7 @@
 #include "config/numbers.h"
 #include "config/pieces.h"
 #include "config/text_helpers.h"
+#include "text/number_chars.h"
 
 namespace plateconfig {
 namespace {
@@ -15,7 +16,7 @@ constexpr std::string_view kJoint = "_";
 constexpr int kFirstLayer = 1;
 constexpr int kLastLayer = 256;
 
-bool IsTaken(TakenCells taken, const std::string& cell, int number) {
+bool IsTaken(TakenCells taken, std::string_view cell, int number) {
   if (taken == TakenCells::kFilled) return !cell.empty();
   if (taken == TakenCells::kLayerNumbers) return number >= kFirstLayer && number <= kLastLayer;
   return number != 0;
@@ -28,7 +29,7 @@ std::string NumberText(double value) {
   constexpr double kLong = 1e15;
   const auto format = std::abs(value) < kLong ? std::chars_format::fixed : std::chars_format::general;
   std::array<char, 400> text;
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format);
+  const auto [end, error] = ToChars(text.data(), text.data() + text.size(), value, format);
   return {text.data(), end};
 }
 
@@ -65,7 +66,7 @@ CellForm FormOf(FlagLetters letters) {
 }
 
 void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
-  for (const std::string& cell : cells) {
+  for (const std::string_view cell : cells) {
     const int number = ParseInt(cell);
     if (IsTaken(taken, cell, number)) list.push_back(number);
   }

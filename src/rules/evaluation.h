@@ -61,8 +61,8 @@ inline constexpr FaceCondition kFaceConditions[] = {
 
 /// True for a condition that `kSizeConditions` has.
 constexpr bool IsSize(Condition condition) {
-  return std::ranges::find(kSizeConditions, condition, &SizeCondition::condition) !=
-         std::end(kSizeConditions);
+  return std::any_of(std::begin(kSizeConditions), std::end(kSizeConditions),
+                     [condition](const SizeCondition& size) { return size.condition == condition; });
 }
 
 /// Takes the steps of one evaluation. Every call is optional.

@@ -1,6 +1,7 @@
 #include "rules/trace_sink.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "config/numbers.h"
 #include "text/gbk.h"
@@ -9,6 +10,13 @@ namespace plateconfig {
 namespace {
 
 using namespace literals;
+
+/// True when there is one row of texts for each condition, in the same order.
+template <typename Texts, typename Conditions>
+constexpr bool CorrespondTo(const Texts& texts, const Conditions& conditions) {
+  return std::equal(std::begin(texts), std::end(texts), std::begin(conditions), std::end(conditions),
+                    [](const auto& text, const auto& row) { return text.condition == row.condition; });
+}
 
 struct SizeTexts {
   Condition condition;
@@ -23,8 +31,7 @@ constexpr SizeTexts kSizeTexts[] = {
     {Condition::kHeight, "高度不符合此规则！"_gbk, "最小高度："_gbk, "最大高度："_gbk},
     {Condition::kWeight, "重量不符合此规则！"_gbk, "最小重量："_gbk, "最大重量："_gbk},
 };
-static_assert(std::ranges::equal(kSizeTexts, kSizeConditions, {}, &SizeTexts::condition,
-                                 &SizeCondition::condition));
+static_assert(CorrespondTo(kSizeTexts, kSizeConditions));
 
 struct FaceTexts {
   Condition condition;
@@ -40,13 +47,13 @@ constexpr FaceTexts kFaceTexts[] = {
     {Condition::kWireCutting, "bHaveWireCuttingColor :"_gbk, "bInclude && !bHaveWireCuttingColor！"_gbk,
      "!bInclude && bHaveWireCuttingColor！"_gbk},
 };
-static_assert(std::ranges::equal(kFaceTexts, kFaceConditions, {}, &FaceTexts::condition,
-                                 &FaceCondition::condition));
+static_assert(CorrespondTo(kFaceTexts, kFaceConditions));
 
 /// The texts of a condition. There is one row for each, as the compiler has checked.
 template <typename Texts, std::size_t count>
 const Texts& TextsOf(const Texts (&texts)[count], Condition condition) {
-  return *std::ranges::find(texts, condition, &Texts::condition);
+  return *std::find_if(std::begin(texts), std::end(texts),
+                       [condition](const Texts& row) { return row.condition == condition; });
 }
 
 }  // namespace

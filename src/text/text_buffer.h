@@ -9,6 +9,8 @@
 #include <memory>
 #include <string_view>
 
+#include "text/uninitialized_memory.h"
+
 namespace plateconfig {
 
 class TextBuffer {
@@ -26,7 +28,7 @@ class TextBuffer {
   void Grow(std::size_t least) {
     constexpr std::size_t kFirstCapacity = 4096;
     const std::size_t capacity = std::max({least, 2 * capacity_, kFirstCapacity});
-    auto larger = std::make_unique_for_overwrite<char[]>(capacity);
+    auto larger = UninitializedMemory<char>(capacity);
     if (size_ > 0) std::memcpy(larger.get(), text_.get(), size_);
     text_ = std::move(larger);
     capacity_ = capacity;

@@ -213,6 +213,38 @@ TEST_F(InputTemplate, TheExamplePlateFitsTheFirstRowAndEveryProcessApplies) {
   EXPECT_THAT(run.err, IsEmpty());
 }
 
+TEST_F(InputTemplate, PlatesInJsonHaveTheFeaturesThatTheRulesAskFor) {
+  const auto run =
+      RunPlateconfig({"template", "plates", "--format", "json", "--config", configuration_.Path()});
+  EXPECT_EQ(
+      run.out,
+      "[\n{\"name\":\"示例板\",\"length\":300.0,\"width\":200.0,\"thickness\":60.0,\"weight\":28.26,"
+      "\"layer\":12,\"color\":12,\"faceColors\":[],\"features\":{\"有无异型槽\":true,\"圆孔颜色\":[36,186],"
+      "\"孔数量\":3},\"customProcesses\":[\"下料\"]}\n]\n");
+  EXPECT_THAT(run.err, IsEmpty());
+}
+
+TEST_F(InputTemplate, TheExamplePlateInJsonGetsTheTextOfTheOneInCsv) {
+  const std::string json =
+      Write("板.json", {"plates", "--format", "json", "--config", configuration_.Path()});
+  const std::string csv = Write("板.csv", {"plates", "--config", configuration_.Path()});
+  const auto text = [&](const std::string& plates) {
+    return RunPlateconfig({"process", "--config", configuration_.Path(), plates}).out;
+  };
+  EXPECT_THAT(text(json), HasSubstr("锯床下料→钻孔到数→检测外形\n"));
+  EXPECT_EQ(text(json), text(csv));
+}
+
+TEST_F(InputTemplate, AnExamplePlateInJsonIsMadeOfParametersThatAreNoNumbersToo) {
+  configuration_.Folder().WriteTable(
+      "规则.csv",
+      "排工艺顺序,排顺序工艺类型,顺序工艺参数值,模板所在图层,扩孔,铰孔,点孔\n"
+      "扩孔,圆孔颜色,36_x,12,扩,铰,点\n铰孔,圆孔直径,6_8.5_6,,,,\n点孔,孔数量大于参数值,,,,,\n");
+  EXPECT_THAT(
+      RunPlateconfig({"template", "plates", "--format", "json", "--config", configuration_.Path()}).out,
+      HasSubstr("\"features\":{\"圆孔颜色\":[36,0],\"圆孔直径\":[6.0,8.5],\"孔数量\":0}}"));
+}
+
 TEST_F(InputTemplate, TheExamplePlateWeighsAsMuchAsSolidSteelUnlessTheRowWantsAnotherWeight) {
   const auto example = [&](const std::string& weights) {
     configuration_.Folder().WriteTable("规则.csv",
@@ -254,7 +286,7 @@ TEST_F(InputTemplate, TheExampleHoleBelongsToTheExampleType) {
 
 TEST(TemplateCommand, AFormThatItDoesNotWriteIsTold) {
   const auto json = RunPlateconfig({"template", "bom", "--format", "json"});
-  EXPECT_EQ(json.err, "plateconfig: error: template does not write json; it writes csv\n");
+  EXPECT_EQ(json.err, "plateconfig: error: template bom does not write json; it writes csv\n");
   EXPECT_EQ(json.exitCode, 2);
   EXPECT_EQ(RunPlateconfig({"template", "bom", "--format", "csv"}).out,
             RunPlateconfig({"template", "bom"}).out);

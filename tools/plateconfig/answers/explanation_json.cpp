@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/checks/rule_values.h"
+#include "plateconfig/answers/plate_to_json.h"
 #include "rules/condition_texts.h"
 #include "text/gbk.h"
 
@@ -104,6 +105,7 @@ Json OutcomeToJson(const PlateInput& input, const std::string& file, std::option
 Json ExplanationToJson(const ExplainedPlate& plate) {
   Json json =
       OutcomeToJson(plate.input, plate.file, plate.explanation.MatchedLine(), plate.text, plate.Status());
+  json["plate"] = PlateToJson(plate.input);
   json["processes"] = ProcessesToJson(plate);
   plate.asked ? AddAskedRow(plate, json) : AddRows(plate, json);
   return json;

@@ -5,10 +5,12 @@
 #include <memory>
 #include <string>
 
+#include "plateconfig/answers/plate_to_json.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/holes/hole_template.h"
 #include "plateconfig/messages/language.h"
+#include "plateconfig/output/json_output.h"
 #include "plateconfig/plates/plate_template.h"
 #include "plateconfig/tables/table_template.h"
 #include "text/gbk.h"
@@ -39,7 +41,8 @@ struct InputTemplate {
   const char* name;
   std::string (*make)(const TemplateJob& job, Context& context);
 };
-constexpr InputTemplate kInputs[] = {{"plates", Plates}, {"holes", Holes}, {"hole-types", HoleTypes}};
+constexpr const char* kPlates = "plates";
+constexpr InputTemplate kInputs[] = {{kPlates, Plates}, {"holes", Holes}, {"hole-types", HoleTypes}};
 
 std::string Template(const TemplateJob& job, Context& context) {
   const auto input = std::find_if(std::begin(kInputs), std::end(kInputs),
@@ -56,6 +59,17 @@ void RunTemplate(const TemplateJob& job, Context& context) {
     std::erase(text, '\r');
   }
   context.streams.out << text;
+}
+
+/// Tables are CSV, and holes have nothing that a configuration asks for.
+void RunJsonTemplate(const TemplateJob& job, Context& context) {
+  if (job.name != kPlates) {
+    context.reporter.Error({"plateconfig"}, Say("template {} does not write json; it writes csv",
+                                                "template {} 不能输出 json，只能输出 csv", job.name));
+    return;
+  }
+  const auto rules = LoadRules(job.configuration, context.reporter);
+  if (rules) JsonArray(context.streams.out).Add(PlateToJson(ExampleOf(rules->tables)));
 }
 
 std::vector<std::string> TemplateNames() {
@@ -78,9 +92,12 @@ Run TemplateOptions(CLI::App& command) {
       ->check(OneOf(TemplateNames()));
   AddRolesToHelp(command, TemplateNames());
   AddConfigurationOptions(command, {Role::kProcessRules, Role::kProcessSettings}, job->configuration);
-  const Run run = WithOutput(command, [job](Context& context) { RunTemplate(*job, context); });
-  // A template is GBK already, and so are its bytes on the standard output.
+  const Run run = WithOutput(command, [job](Context& context) {
+    context.format == Format::kJson ? RunJsonTemplate(*job, context) : RunTemplate(*job, context);
+  });
   return [run](Context& context) {
+    if (context.format == Format::kJson) return run(context);
+    // A template is GBK already, and so are its bytes on the standard output.
     Context bytes{context.streams, context.reporter, Format::kText, context.summary};
     run(bytes);
   };

@@ -34,7 +34,7 @@ std::span<const Verb> Verbs() {
       {"schema", "print every table and column that the library reads, with defaults",
        "列出库读取的所有表和列及其默认值", SchemaOptions, kTextOrJson, "plateconfig schema --format json"},
       {"template", "write a table, or a file of plates or holes, with all columns (GBK, CR LF)",
-       "写出一个表，或板、孔的文件，含全部列（GBK，CR LF）", TemplateOptions, "csv",
+       "写出一个表，或板、孔的文件，含全部列（GBK，CR LF）", TemplateOptions, "csv json",
        "plateconfig template plates --config samples/config/标准 -o 板.csv"},
       {"picture", "print as numbers what a program needs to draw tables, rules, holes or a sheet",
        "以数值输出画表格、规则图、孔或图纸所需的内容", PictureOptions, "json",

@@ -30,16 +30,10 @@ double SizeIn(const SizeRange& range, double otherwise) {
   return range.Accepts(size) ? size : otherwise;
 }
 
-struct PlateSizes {
-  double length;
-  double width;
-  double height;
-};
-
 /// That of solid steel in kg, unless the row wants another one.
-double WeightIn(const SizeRange& range, const PlateSizes& sizes) {
+double WeightIn(const SizeRange& range, const Plate& plate) {
   constexpr double kSteel = 7.85e-6;  // kg/mm³
-  const double weight = sizes.length * sizes.width * sizes.height * kSteel;
+  const double weight = plate.length * plate.width * plate.height * kSteel;
   return range.Accepts(weight) ? weight : SizeIn(range, weight);
 }
 
@@ -59,18 +53,26 @@ int BodyColor(const RuleTables& tables, const RuleRow& row) {
   return colors.empty() ? kSomeColor : colors.front();
 }
 
+Plate PlateOf(const RuleTables& tables) {
+  const RuleRow row = tables.ruleRows.empty() ? RuleRow() : tables.ruleRows.front();
+  Plate plate;
+  plate.length = SizeIn(row.length, 400);
+  plate.width = SizeIn(row.width, 300);
+  plate.height = SizeIn(row.height, 50);
+  plate.weight = WeightIn(row.weight, plate);
+  plate.layer = row.layer;
+  plate.color = BodyColor(tables, row);
+  plate.faceColors = FaceColors(tables, row);
+  return plate;
+}
+
 /// The cells of the columns that every plate has.
 std::map<std::string, std::string> BaseCells(const RuleTables& tables) {
-  const RuleRow row = tables.ruleRows.empty() ? RuleRow() : tables.ruleRows.front();
-  const PlateSizes sizes = {SizeIn(row.length, 400), SizeIn(row.width, 300), SizeIn(row.height, 50)};
-  return {{"名称", "示例板"},
-          {"长度", ShownNumber(sizes.length)},
-          {"宽度", ShownNumber(sizes.width)},
-          {"厚度", ShownNumber(sizes.height)},
-          {"重量", ShownNumber(WeightIn(row.weight, sizes))},
-          {"图层", std::to_string(row.layer)},
-          {"体颜色", std::to_string(BodyColor(tables, row))},
-          {"面颜色", ShownList(FaceColors(tables, row))}};
+  const Plate plate = PlateOf(tables);
+  return {{"名称", ExamplePlate::kName},           {"长度", ShownNumber(plate.length)},
+          {"宽度", ShownNumber(plate.width)},      {"厚度", ShownNumber(plate.height)},
+          {"重量", ShownNumber(plate.weight)},     {"图层", std::to_string(plate.layer)},
+          {"体颜色", std::to_string(plate.color)}, {"面颜色", ShownList(plate.faceColors)}};
 }
 
 /// Required columns first.
@@ -137,7 +139,42 @@ void AddFeature(const ProcessRow& row, std::vector<Sample>& samples) {
   if (HoldsList(row)) known->cell = Merged(known->cell, sample.cell);
 }
 
+/// Adds the numbers of a cell that are not in the list yet.
+template <typename Number>
+void AddNumbers(const std::string& cell, Number (*parse)(std::string_view), std::vector<Number>& numbers) {
+  for (const std::string& piece : SplitString(cell, "_")) {
+    const Number number = parse(piece);
+    if (std::find(numbers.begin(), numbers.end(), number) == numbers.end()) numbers.push_back(number);
+  }
+}
+
+/// With what the condition asks for, as its parameter has it.
+void AddFeature(const ProcessRow& row, PlateFeatures& features) {
+  const ProcessRule::RuleType type = row.condition->type;
+  switch (FedByOf(type)) {
+    case FedBy::kPresence:
+      features.present.insert(type);
+      return;
+    case FedBy::kColors:
+      return AddNumbers(row.parameter, ParseInt, features.colors[type]);
+    case FedBy::kDiameters:
+      return AddNumbers(row.parameter, ParseDouble, features.diameters);
+    case FedBy::kCount:
+      if (!features.holeCount) features.holeCount = HoleCount(row);
+      return;
+    case FedBy::kByHand:
+      break;
+  }
+  features.customProcesses.insert(row.name);
+}
+
 }  // namespace
+
+ExamplePlate ExampleOf(const RuleTables& tables) {
+  ExamplePlate example{PlateOf(tables), {}};
+  for (const ProcessRow& row : ProcessListOf(tables)) AddFeature(row, example.features);
+  return example;
+}
 
 std::string PlateTemplate(const RuleTables& tables) {
   std::vector<Sample> samples = BaseColumns(tables);

@@ -1,0 +1,7 @@
+# Compiles to WebAssembly with Debian's emscripten, for the page.
+include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
+
+# Exceptions of WebAssembly's own: through JavaScript they cost many times as much, and without them a wrong command line
+# would end the engine.
+set(CMAKE_CXX_FLAGS_INIT -fwasm-exceptions)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "As small as -Os here, and faster")

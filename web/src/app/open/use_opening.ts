@@ -1,0 +1,223 @@
+// The two opened folders, and everything that opens, reads again or uses files another way.
+
+import { useCallback, useMemo, useRef, useState } from "preact/hooks";
+import type { Engine } from "../../engine/engine";
+import { EngineError } from "../../engine/engine_error";
+import { kOpenWords } from "../../words/open";
+import type { Text } from "../../words/say";
+import type { Workspace } from "../state";
+import { rememberFolder } from "./remembered";
+import { type Entry, type Source, StaleFiles, TooLarge } from "./source";
+import { type Use, type Uses, usesOf } from "./uses";
+import { configurationFolders, filesBeside, type OpenedFolder, workspaceOf } from "./workspaces";
+
+export type Side = "config" | "other";
+
+interface Opened extends OpenedFolder {
+  readonly sources: readonly Source[];
+  /** A file that only the page has. */
+  readonly addedFile?: string;
+}
+
+type Sides = Readonly<Partial<Record<Side, Opened>>>;
+
+export interface Opening {
+  readonly sides: Readonly<Partial<Record<Side, OpenedFolder>>>;
+  readonly workspace: Workspace | undefined;
+  readonly other: Workspace | undefined;
+  readonly isBusy: boolean;
+  readonly notice: Text | undefined;
+  dismissNotice(): void;
+  open(sources: readonly Source[] | Promise<readonly Source[]>, side: Side): void;
+  /** Reads everything from the disk once more. */
+  again(): void;
+  chooseFolder(side: Side, folder: string): void;
+  /** Another configuration folder of the first side as the second one; undefined: none. */
+  compareWith(folder: string | undefined): void;
+  use(path: string, use: Use | undefined): void;
+  /** Adds a file to the configuration folder in memory, such as a manifest that was just written. */
+  addFile(name: string, bytes: Uint8Array): void;
+  readonly addedFile: string | undefined;
+}
+
+let revision = 0;
+
+function noticeOf(error: unknown): Text {
+  if (error instanceof EngineError) return error.words;
+  if (error instanceof StaleFiles) return kOpenWords.stale;
+  if (error instanceof TooLarge)
+    return { zh: kOpenWords.tooLarge.zh(error.message), en: kOpenWords.tooLarge.en(error.message) };
+  const reason = error instanceof Error ? error.message : String(error);
+  return { zh: kOpenWords.unreadable.zh(reason), en: kOpenWords.unreadable.en(reason) };
+}
+
+/** Later sources win over files of the same path. */
+async function entriesOf(sources: readonly Source[]): Promise<readonly Entry[]> {
+  const byPath = new Map<string, Entry>();
+  for (const source of sources) {
+    for (const entry of await source.read()) byPath.set(entry.path, entry);
+  }
+  return [...byPath.values()];
+}
+
+async function readSide(
+  engine: Engine,
+  sources: readonly Source[],
+  before: Opened | undefined,
+): Promise<Opened> {
+  const entries = await entriesOf(sources);
+  const folders = configurationFolders(entries);
+  const folder = before !== undefined && folders.includes(before.folder) ? before.folder : (folders[0] ?? "");
+  const uses = await usesOf(engine, filesBeside(entries, folder));
+  revision += 1;
+  return {
+    name: sources[0]?.name ?? "",
+    sources,
+    entries,
+    folder,
+    uses: new Map([...uses, ...keptUses(before, uses)]),
+    revision,
+  };
+}
+
+/** What the user chose stays, as long as the file is there. */
+function keptUses(before: Opened | undefined, uses: Uses): Uses {
+  return before === undefined ? new Map() : new Map([...before.uses].filter(([path]) => uses.has(path)));
+}
+
+/** Single files come to what is open; a folder takes its place. */
+function joined(before: Opened | undefined, given: readonly Source[]): readonly Source[] {
+  if (before === undefined || given.some((source) => source.isFolder)) return given;
+  return [...before.sources.filter(({ name }) => !given.some((source) => source.name === name)), ...given];
+}
+
+/** Two folders at once are the old one and the new one. */
+function bySide(given: readonly Source[], side: Side): [Side, readonly Source[]][] {
+  const [first, second] = given.filter((source) => source.isFolder);
+  if (first === undefined || second === undefined || side === "other") return [[side, given]];
+  return [
+    ["config", [first]],
+    ["other", [second]],
+  ];
+}
+
+function remember(sources: readonly Source[]): void {
+  const handle = sources.find((source) => source.handle !== undefined)?.handle;
+  if (handle !== undefined) void rememberFolder(handle);
+}
+
+/** Keeps a workspace the same object as long as nothing of it changes. */
+function useWorkspace(opened: Opened | undefined, side: Side): Workspace | undefined {
+  return useMemo(() => (opened === undefined ? undefined : workspaceOf(opened, side)), [opened, side]);
+}
+
+export function useOpening(engine: Engine): Opening {
+  const [sides, setSides] = useState<Sides>({});
+  const [isBusy, setBusy] = useState(false);
+  const [notice, setNotice] = useState<Text | undefined>();
+  const current = useRef(sides);
+  current.current = sides;
+
+  const whileBusy = useCallback(async (work: () => Promise<void>) => {
+    setBusy(true);
+    setNotice(undefined);
+    try {
+      await work();
+    } catch (error) {
+      setNotice(noticeOf(error));
+    } finally {
+      setBusy(false);
+    }
+  }, []);
+
+  const read = useCallback(
+    async (side: Side, sources: readonly Source[], before: Opened | undefined) => {
+      const opened = await readSide(engine, sources, before);
+      if (opened.entries.length === 0) setNotice(kOpenWords.nothingToRead);
+      else setSides((all) => ({ ...all, [side]: opened }));
+    },
+    [engine],
+  );
+
+  const open = useCallback(
+    (given: readonly Source[] | Promise<readonly Source[]>, side: Side) =>
+      void whileBusy(async () => {
+        for (const [where, sources] of bySide(await given, side)) {
+          const before = current.current[where];
+          const all = joined(before, sources);
+          await read(where, all, all === sources ? undefined : before);
+          if (where === "config") remember(all);
+        }
+      }),
+    [read, whileBusy],
+  );
+
+  const again = useCallback(
+    () =>
+      void whileBusy(async () => {
+        for (const side of ["config", "other"] as const) {
+          const opened = current.current[side];
+          if (opened !== undefined) await read(side, opened.sources, opened);
+        }
+      }),
+    [read, whileBusy],
+  );
+
+  const change = useCallback((side: Side, changes: Partial<Opened>) => {
+    revision += 1;
+    const grown = revision;
+    setSides((all) =>
+      all[side] === undefined ? all : { ...all, [side]: { ...all[side], ...changes, revision: grown } },
+    );
+  }, []);
+
+  const compareWith = useCallback((folder: string | undefined) => {
+    revision += 1;
+    const grown = revision;
+    setSides(({ config, other: _, ...rest }) => {
+      const other =
+        config !== undefined && folder !== undefined ? { ...config, folder, revision: grown } : undefined;
+      return { ...rest, ...(config && { config }), ...(other && { other }) };
+    });
+  }, []);
+
+  const use = useCallback(
+    (path: string, chosen: Use | undefined) => {
+      const uses = new Map(
+        [...(current.current.config?.uses ?? [])].filter(([its, as]) => its !== path && as !== chosen),
+      );
+      if (chosen !== undefined) uses.set(path, chosen);
+      change("config", { uses });
+    },
+    [change],
+  );
+
+  const addFile = useCallback(
+    (name: string, bytes: Uint8Array) => {
+      const opened = current.current.config;
+      if (opened === undefined) return;
+      const path = opened.folder === "" ? name : `${opened.folder}/${name}`;
+      change("config", {
+        entries: [...opened.entries.filter((entry) => entry.path !== path), { path, bytes }],
+        addedFile: name,
+      });
+    },
+    [change],
+  );
+
+  return {
+    sides,
+    workspace: useWorkspace(sides.config, "config"),
+    other: useWorkspace(sides.other, "other"),
+    isBusy,
+    notice,
+    dismissNotice: useCallback(() => setNotice(undefined), []),
+    open,
+    again,
+    chooseFolder: useCallback((side, folder) => change(side, { folder }), [change]),
+    compareWith,
+    use,
+    addFile,
+    addedFile: sides.config?.addedFile,
+  };
+}

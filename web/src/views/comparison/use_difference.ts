@@ -1,0 +1,63 @@
+// What `diff` says of the two folders, and which tables each of them has.
+
+import { useMemo } from "preact/hooks";
+import { type Answer, useAnswer } from "../../app/answer";
+import { filesOf, useApp, type Workspace } from "../../app/state";
+import type { InputFile } from "../../engine/engine";
+import type { CheckedTable, CheckReport } from "../../model/check";
+import type { Difference } from "../../model/diff";
+
+export interface Pair {
+  readonly old: Workspace;
+  readonly now: Workspace;
+}
+
+/** The files of plates of both folders would have one name; the first one that has any tells the plates. */
+function platesOf({ old, now }: Pair): InputFile | undefined {
+  return old.folder === "config" ? (old.plates ?? now.plates) : (now.plates ?? old.plates);
+}
+
+export function useDifference(pair: Pair, listsAll: boolean): Answer<Difference> {
+  const { engine, language } = useApp();
+  const { old, now } = pair;
+  const files = useMemo(() => {
+    const plates = platesOf({ old, now });
+    return [...old.files, ...now.files, ...(plates === undefined ? [] : [plates])];
+  }, [old, now]);
+  const args = useMemo(() => {
+    const plates = platesOf({ old, now });
+    const options = [
+      ...(plates === undefined ? [] : ["--plates", plates.path]),
+      ...(listsAll ? ["--limit", "0"] : []),
+    ];
+    return ["diff", old.folder, now.folder, ...options, "--format", "json", "--lang", language];
+  }, [old, now, listsAll, language]);
+  return useAnswer<Difference>(engine, args, files);
+}
+
+/** The tables of a folder by their roles: a check that looks for next to nothing names them. */
+function useTables(workspace: Workspace): readonly CheckedTable[] {
+  const { engine } = useApp();
+  const files = useMemo(() => filesOf(workspace), [workspace]);
+  const args = ["check", "--config", workspace.folder, "--only", "manifest-missing", "--format", "json"];
+  return useAnswer<CheckReport>(engine, args, files).value?.checked.tables ?? [];
+}
+
+export interface TablePair {
+  readonly role: string;
+  readonly old: string | undefined;
+  readonly now: string | undefined;
+  /** Whether the two files are the same, byte for byte. */
+  readonly isSame: boolean;
+}
+
+export function useTablePairs({ old, now }: Pair): readonly TablePair[] {
+  const [one, two] = [useTables(old), useTables(now)];
+  return useMemo(() => {
+    const roles = [...new Set([...one, ...two].map(({ role }) => role))];
+    return roles.map((role) => {
+      const [before, after] = [one, two].map((tables) => tables.find((table) => table.role === role));
+      return { role, old: before?.file, now: after?.file, isSame: before?.sha256 === after?.sha256 };
+    });
+  }, [one, two]);
+}

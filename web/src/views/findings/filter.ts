@@ -1,0 +1,55 @@
+// Which findings are listed.
+
+import type { Finding, Severity } from "../../model/check";
+
+export interface Filter {
+  readonly severities: readonly Severity[];
+  readonly file: string | undefined;
+  readonly code: string | undefined;
+  readonly text: string;
+}
+
+export const kNoFilter: Filter = { severities: [], file: undefined, code: undefined, text: "" };
+
+function holds(finding: Finding, text: string): boolean {
+  const { message, text: offending, fix, cell, code, columnName, file } = finding;
+  return [message, offending, fix, cell, code, columnName, file].some((part) =>
+    part?.toLowerCase().includes(text),
+  );
+}
+
+/** No severity chosen means all of them. */
+function passes(finding: Finding, { severities, file, code, text }: Filter): boolean {
+  if (severities.length > 0 && !severities.includes(finding.severity)) return false;
+  if (file !== undefined && finding.file !== file) return false;
+  if (code !== undefined && finding.code !== code) return false;
+  return text === "" || holds(finding, text.toLowerCase());
+}
+
+const kRanks: Readonly<Record<Severity, number>> = { error: 0, warning: 1, hint: 2 };
+
+/** The graver ones first, otherwise in the order of the report. */
+export function listedFindings(findings: readonly Finding[], filter: Filter): readonly Finding[] {
+  return findings
+    .filter((finding) => passes(finding, filter))
+    .sort((one, two) => kRanks[one.severity] - kRanks[two.severity]);
+}
+
+/** How often each value occurs, the most frequent first. */
+export function countsOf(values: readonly string[]): readonly (readonly [string, number])[] {
+  const counts = new Map<string, number>();
+  for (const value of values) counts.set(value, (counts.get(value) ?? 0) + 1);
+  return [...counts].sort((one, two) => two[1] - one[1]);
+}
+
+/** Where a finding points to, as a keeper looks for it: the cell, the row, the line. */
+export function placeOf(finding: Finding): string {
+  if (finding.cell !== null) return finding.cell;
+  if (finding.row !== undefined) return String(finding.row);
+  return finding.line === null ? "" : String(finding.line);
+}
+
+/** A file's path without the engine's folder. */
+export function shownFile(path: string): string {
+  return path.slice(path.indexOf("/") + 1);
+}

@@ -1,0 +1,55 @@
+// A folder without tables.json: the program finds the roles of its tables, and the reader keeps what it writes.
+
+import { useState } from "preact/hooks";
+import { Failure } from "../../app/parts/failure";
+import { saveFile } from "../../app/parts/save";
+import { filesOf, useApp, useSay } from "../../app/state";
+import type { Run } from "../../engine/engine";
+import { kFindingsWords } from "../../words/findings";
+
+const kWords = kFindingsWords.manifest;
+
+export function MissingManifest() {
+  const { engine, workspace, language, addFile } = useApp();
+  const say = useSay();
+  const [run, setRun] = useState<Run | undefined>();
+  if (workspace === undefined) return null;
+  const find = async () => {
+    const done = await engine.run(["init", workspace.folder, "--lang", language], filesOf(workspace));
+    setRun(done);
+    const manifest = done.written.find(({ path }) => path === `${workspace.folder}/tables.json`);
+    if (manifest !== undefined) addFile("tables.json", manifest.bytes);
+  };
+  return (
+    <section class="manifest">
+      <h2>{say(kWords.title)}</h2>
+      <p>{say(kWords.text)}</p>
+      {run !== undefined && <Failure error={(run.err + run.out).trim()} />}
+      <button type="button" class="main-button" onClick={() => void find()}>
+        {say(kWords.find)}
+      </button>
+    </section>
+  );
+}
+
+/** After the roles were found: what they are, and the file to keep. */
+export function FoundManifest() {
+  const { workspace, addedFile } = useApp();
+  const say = useSay();
+  const manifest = workspace?.files.find(({ path }) => path === `${workspace.folder}/tables.json`);
+  if (addedFile !== "tables.json" || manifest === undefined) return null;
+  return (
+    <section class="manifest">
+      <p>{say(kWords.found)}</p>
+      <pre>{new TextDecoder().decode(manifest.bytes)}</pre>
+      <button
+        type="button"
+        class="main-button"
+        onClick={() => saveFile("tables.json", manifest.bytes.slice(), "application/json")}
+      >
+        {say(kWords.save)}
+      </button>
+      <p class="quiet">{say(kWords.saved)}</p>
+    </section>
+  );
+}

@@ -1,0 +1,152 @@
+// Pointing at the map, moving and zooming it: with the mouse, and with the keys.
+
+import type { RefObject } from "preact";
+import { useEffect, useRef } from "preact/hooks";
+import { zoomed } from "../../drawing/scales";
+import type { RuleMapPicture } from "../../model/pictures";
+import type { Place } from "./hits";
+import type { Plane, Zoom } from "./layout";
+import { kFrame } from "./layout";
+
+interface Pointing {
+  readonly svg: RefObject<SVGSVGElement | null>;
+  readonly picture: RuleMapPicture | undefined;
+  readonly plane: Plane | undefined;
+  readonly cross: Place | undefined;
+  readonly zoom: Zoom;
+  point(place: Place | undefined): void;
+  setZoom(zoom: Zoom): void;
+  openAt(place: Place): void;
+}
+
+const kStep = 4;
+const kFastStep = 40;
+const kClickReach = 4;
+const kWheelFactor = 1.0015;
+
+const kArrows: Readonly<Record<string, readonly [number, number]>> = {
+  ArrowLeft: [-1, 0],
+  ArrowRight: [1, 0],
+  ArrowUp: [0, -1],
+  ArrowDown: [0, 1],
+};
+
+/** Where the mouse is, in the picture's own units. */
+function spotOf(svg: SVGSVGElement, event: MouseEvent): { x: number; y: number } | undefined {
+  const matrix = svg.getScreenCTM();
+  return matrix === null
+    ? undefined
+    : new DOMPoint(event.clientX, event.clientY).matrixTransform(matrix.inverse());
+}
+
+function isInPlane({ x, y }: { x: number; y: number }): boolean {
+  const { left, right, top, bottom, width, height } = kFrame;
+  return x >= left && x <= width - right && y >= top && y <= height - bottom;
+}
+
+export function zoomAround(picture: RuleMapPicture, plane: Plane, place: Place, factor: number): Zoom {
+  return {
+    x: zoomed(plane.x, factor, place.x, picture.x),
+    y: zoomed(plane.y, factor, place.y, picture.y),
+  };
+}
+
+export function middleOf(plane: Plane): Place {
+  return { x: (plane.x.from + plane.x.to) / 2, y: (plane.y.from + plane.y.to) / 2 };
+}
+
+/** Moves the whole plane by so many units of the picture. */
+function moved(picture: RuleMapPicture, plane: Plane, dx: number, dy: number): Zoom {
+  const along = (scale: Plane["x"], by: number, limits: { from: number; to: number }) => {
+    const wish = scale.invert(scale(scale.from) - by) - scale.from;
+    const step = Math.min(Math.max(wish, limits.from - scale.from), limits.to - scale.to);
+    return { from: scale.from + step, to: scale.to + step };
+  };
+  return { x: along(plane.x, dx, picture.x), y: along(plane.y, dy, picture.y) };
+}
+
+export function usePointing(pointing: Pointing): Record<string, unknown> {
+  const latest = useRef(pointing);
+  latest.current = pointing;
+  const drag = useRef<{ x: number; y: number; isMoved: boolean } | undefined>(undefined);
+
+  // A wheel that turns the picture must not turn the page; preact's own listeners could not stop it.
+  useEffect(() => {
+    const svg = pointing.svg.current;
+    if (svg === null) return undefined;
+    const onWheel = (event: WheelEvent) => {
+      const { picture, plane, setZoom } = latest.current;
+      const spot = spotOf(svg, event);
+      if (picture === undefined || plane === undefined || spot === undefined || !isInPlane(spot)) return;
+      event.preventDefault();
+      const place = { x: plane.x.invert(spot.x), y: plane.y.invert(spot.y) };
+      setZoom(zoomAround(picture, plane, place, kWheelFactor ** event.deltaY));
+    };
+    svg.addEventListener("wheel", onWheel, { passive: false });
+    return () => svg.removeEventListener("wheel", onWheel);
+  }, [pointing.svg.current]);
+
+  const placeOf = (event: MouseEvent): Place | undefined => {
+    const { svg, plane } = latest.current;
+    const spot = svg.current === null ? undefined : spotOf(svg.current, event);
+    if (spot === undefined || plane === undefined || !isInPlane(spot)) return undefined;
+    return { x: plane.x.invert(spot.x), y: plane.y.invert(spot.y) };
+  };
+
+  const onPointerMove = (event: PointerEvent) => {
+    const { svg, picture, plane, zoom, point, setZoom } = latest.current;
+    const spot = svg.current === null ? undefined : spotOf(svg.current, event);
+    const from = drag.current;
+    const isFar =
+      from !== undefined && spot !== undefined && Math.hypot(spot.x - from.x, spot.y - from.y) > kClickReach;
+    if (
+      from !== undefined &&
+      spot !== undefined &&
+      (from.isMoved || isFar) &&
+      picture &&
+      plane &&
+      (zoom.x || zoom.y)
+    ) {
+      setZoom(moved(picture, plane, spot.x - from.x, spot.y - from.y));
+      drag.current = { x: spot.x, y: spot.y, isMoved: true };
+      return;
+    }
+    point(placeOf(event));
+  };
+
+  const onKeyDown = (event: KeyboardEvent) => {
+    const { plane, cross, point, openAt } = latest.current;
+    if (plane === undefined) return;
+    const arrow = kArrows[event.key];
+    const at = cross ?? middleOf(plane);
+    if (event.key === "Enter" && cross !== undefined) openAt(cross);
+    if (event.key === "Escape") point(undefined);
+    if (arrow === undefined) return;
+    event.preventDefault();
+    const step = event.shiftKey ? kFastStep : kStep;
+    point({
+      x: plane.x.invert(plane.x(at.x) + arrow[0] * step),
+      y: plane.y.invert(plane.y(at.y) + arrow[1] * step),
+    });
+  };
+
+  return {
+    onPointerDown: (event: PointerEvent) => {
+      const { svg } = latest.current;
+      const spot = svg.current === null ? undefined : spotOf(svg.current, event);
+      drag.current = spot && { x: spot.x, y: spot.y, isMoved: false };
+    },
+    onPointerMove,
+    onPointerLeave: () => {
+      drag.current = undefined;
+      latest.current.point(undefined);
+    },
+    onPointerUp: (event: PointerEvent) => {
+      const isClick = drag.current !== undefined && !drag.current.isMoved;
+      drag.current = undefined;
+      const place = placeOf(event);
+      if (isClick && place !== undefined && event.button === 0) latest.current.openAt(place);
+    },
+    onKeyDown,
+  };
+}

@@ -1,0 +1,175 @@
+// What is on the sheet, what could not be placed, and what was taken for granted.
+
+import { useApp, useSay } from "../../app/state";
+import { shown } from "../../drawing/numbers";
+import type { SheetKey, SheetPart, SheetPicture, Specimen, UnknownPlace } from "../../model/pictures";
+import { kSheetWords } from "../../words/sheet";
+import type { Say } from "../../words/say";
+
+export function isOpenable(key: SheetKey): key is SheetKey & { file: string; cell: string } {
+  return key.file !== null && key.cell !== null;
+}
+
+function useOpenKey(side: "config" | "other") {
+  const { select } = useApp();
+  return (key: SheetKey) => {
+    if (isOpenable(key)) select({ file: key.file, cell: key.cell, side });
+  };
+}
+
+/** The cell of the first setting that places the part. */
+export function useOpenPart(side: "config" | "other") {
+  const open = useOpenKey(side);
+  return (part: { readonly keys: readonly SheetKey[] }) => {
+    const key = part.keys.find(isOpenable);
+    if (key !== undefined) open(key);
+  };
+}
+
+function valueText(value: unknown): string {
+  if (typeof value === "number") return shown(value);
+  if (Array.isArray(value)) return value.map(valueText).join("_");
+  return value === null || value === undefined ? "" : String(value);
+}
+
+function Keys({ keys, side }: { keys: readonly SheetKey[]; side: "config" | "other" }) {
+  const say = useSay();
+  const open = useOpenKey(side);
+  return (
+    <ul class="sheet-keys">
+      {keys.map((key, index) => (
+        <li key={index}>
+          {isOpenable(key) ? (
+            <button type="button" class="link" title={say(kSheetWords.openCell)} onClick={() => open(key)}>
+              {key.column}
+            </button>
+          ) : (
+            <span>{key.column}</span>
+          )}{" "}
+          <span class="sheet-value">{valueText(key.value)}</span>
+          {key.source !== "table" && <span class="quiet"> {say(kSheetWords.isDefault)}</span>}
+        </li>
+      ))}
+    </ul>
+  );
+}
+
+/** What is known of a part beside its place. */
+function facts(part: SheetPart, say: Say): string {
+  return [
+    say(kSheetWords.at, shown(part.x, 1), shown(part.y, 1)),
+    ...(part.kind === "text" && part.textHeight !== null
+      ? [say(kSheetWords.textHeight, shown(part.textHeight))]
+      : []),
+    ...(part.kind === "circle" ? [`⌀${shown(part.diameter)}`] : []),
+    ...(part.color === null ? [] : [say(kSheetWords.color, part.color)]),
+    ...(part.layer === null ? [] : [say(kSheetWords.layer, part.layer)]),
+  ].join(" · ");
+}
+
+interface PartsProps {
+  readonly parts: readonly SheetPart[];
+  readonly marked: SheetPart | undefined;
+  readonly differing: ReadonlySet<SheetPart>;
+  readonly side: "config" | "other";
+  mark(part: SheetPart | undefined): void;
+}
+
+export function Parts({ parts, marked, differing, side, mark }: PartsProps) {
+  const say = useSay();
+  const { language } = useApp();
+  const open = useOpenPart(side);
+  return (
+    <ul class="sheet-list" onPointerLeave={() => mark(undefined)}>
+      {parts.map((part, index) => (
+        <li key={index} data-marked={part === marked} onPointerEnter={() => mark(part)}>
+          <button
+            type="button"
+            class="sheet-item"
+            title={say(kSheetWords.openCell)}
+            onFocus={() => mark(part)}
+            onBlur={() => mark(undefined)}
+            onClick={() => open(part)}
+          >
+            {part.label[language]}
+            {differing.has(part) && <span class="sheet-differs"> ≠ {say(kSheetWords.differs)}</span>}
+          </button>
+          <span class="quiet sheet-facts">{facts(part, say)}</span>
+          {part === marked && <Keys keys={part.keys} side={side} />}
+        </li>
+      ))}
+    </ul>
+  );
+}
+
+/** What is known of something without a place, drawn at its size. */
+function SpecimenMark({ specimen }: { specimen: Specimen }) {
+  switch (specimen.kind) {
+    case "circle":
+      return <>⌀{shown(specimen.diameter)}</>;
+    case "text":
+      return (
+        <>
+          {specimen.text !== null && `“${specimen.text}” `}
+          {specimen.textHeight !== null && `${shown(specimen.textHeight)} mm`}
+        </>
+      );
+    case "length":
+      return <>{shown(specimen.length)} mm</>;
+    case "rectangle":
+      return (
+        <>
+          {shown(specimen.width)} x {shown(specimen.height)} mm
+        </>
+      );
+    case "angle":
+      return <>{shown(specimen.degrees)}°</>;
+    case "line":
+    case "triangle":
+      return null;
+  }
+}
+
+function Unknown({ place, side }: { place: UnknownPlace; side: "config" | "other" }) {
+  const { language } = useApp();
+  return (
+    <li>
+      <strong>{place.what[language]}</strong> {place.specimen && <SpecimenMark specimen={place.specimen} />}
+      <span class="sheet-why">{place.why[language]}</span>
+      <Keys keys={place.keys} side={side} />
+    </li>
+  );
+}
+
+export function Unknowns({ places, side }: { places: readonly UnknownPlace[]; side: "config" | "other" }) {
+  const say = useSay();
+  if (places.length === 0) return null;
+  return (
+    <details>
+      <summary>
+        {say(kSheetWords.unknown)} <span class="quiet">{places.length}</span>
+      </summary>
+      <ul class="sheet-unknown">
+        {places.map((place, index) => (
+          <Unknown key={index} place={place} side={side} />
+        ))}
+      </ul>
+    </details>
+  );
+}
+
+export function Assumed({ picture }: { picture: SheetPicture }) {
+  const say = useSay();
+  const { language } = useApp();
+  if (picture.assumed.length === 0) return null;
+  return (
+    <section>
+      <h2>{say(kSheetWords.assumed)}</h2>
+      <ul class="sheet-assumed">
+        {picture.assumed.map(({ id, text }) => (
+          <li key={id}>{text[language]}</li>
+        ))}
+      </ul>
+    </section>
+  );
+}

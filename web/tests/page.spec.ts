@@ -1,0 +1,269 @@
+/** What a keeper does with the page, from dropping a folder to looking again after a save. */
+import assert from "node:assert/strict";
+import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { after, afterEach, before, beforeEach, test } from "node:test";
+import type { Browser, Page } from "playwright-core";
+import {
+  assertAccessible,
+  closePage,
+  drop,
+  type Opened,
+  openPage,
+  samples,
+  screenshot,
+  settled,
+  showView,
+  startBrowser,
+} from "./browser";
+
+let browser: Browser;
+let opened: Opened;
+let page: Page;
+let folder = "";
+
+before(async () => {
+  browser = await startBrowser();
+});
+after(() => browser.close());
+
+beforeEach(async () => {
+  folder = mkdtempSync(join(tmpdir(), "plateconfig-page-"));
+  opened = await openPage(browser);
+  page = opened.page;
+});
+afterEach(async () => {
+  await closePage(opened);
+  rmSync(folder, { recursive: true, force: true });
+});
+
+const mistakes = join(samples, "config", "带错误");
+
+/** A copy of a sample that a test may change. */
+function copied(name: string): string {
+  const copy = join(folder, name);
+  cpSync(join(samples, "config", name), copy, { recursive: true });
+  return copy;
+}
+
+async function open(...paths: string[]): Promise<void> {
+  await drop(page, paths);
+  await settled(page);
+}
+
+/** ASCII texts stand in a GBK file as they are. */
+function replaceInFile(path: string, old: string, now: string): void {
+  const bytes = readFileSync(path).toString("latin1");
+  assert.ok(bytes.includes(old));
+  writeFileSync(path, Buffer.from(bytes.replace(old, now), "latin1"));
+}
+
+function counts(): Promise<string> {
+  return page.innerText(".counts");
+}
+
+test("A table that is saved again is read again with one key", async () => {
+  const copy = copied("标准");
+  await open(copy);
+  assert.match(await counts(), /0 个警告/);
+  replaceInFile(join(copy, "列宽.csv"), "120", "12O");
+  await page.keyboard.press("F5");
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("1 个警告"));
+  await page.click(".severity-filter button >> nth=1");
+  const finding = page.locator(".finding");
+  assert.equal(await finding.count(), 1);
+  assert.match(await finding.innerText(), /“12O”不是整数[\s\S]*B2 零件名称[\s\S]*12O\s*120/);
+});
+
+test("A folder, plates and holes are dropped together, and each file is used for what it is", async () => {
+  await open(
+    join(samples, "config", "标准"),
+    ...["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name)),
+  );
+  assert.match(await counts(), /1 个警告/);
+  await page.click("text=文件 ▾");
+  const used = await page.$$eval(".files tbody tr", (rows) =>
+    rows.map((row) => [row.querySelector("th")?.textContent, row.querySelector("select")?.value]),
+  );
+  assert.deepEqual(used.filter(([, use]) => use !== "table").sort(), [
+    ["hole-types.csv", "hole-types"],
+    ["holes.csv", "holes"],
+    ["plates.csv", "plates"],
+  ]);
+  await assertAccessible(page, "files");
+});
+
+test("The user may say that a file is no file of plates", async () => {
+  await open(join(samples, "config", "标准"), join(samples, "plates.csv"));
+  assert.match(await counts(), /1 个警告/);
+  await page.click("text=文件 ▾");
+  await page.selectOption('select[aria-label^="plates.csv"]', "unused");
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("0 个警告"));
+});
+
+test("Plates that are dropped later come to the open folder", async () => {
+  await open(join(samples, "config", "标准"));
+  assert.match(await counts(), /0 个警告/);
+  await drop(page, [join(samples, "plates.csv")]);
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("1 个警告"));
+  assert.match(await page.innerText(".finding >> nth=0"), /加长托板/);
+});
+
+test("Of a folder with several configurations each can be looked at", async () => {
+  await open(samples);
+  const names = await page.$$eval(".header select option", (options) =>
+    options.map((each) => each.textContent),
+  );
+  assert.deepEqual([...names].sort(), ["带错误", "标准", "精密模"].sort());
+  await page.selectOption(".header select", { label: "标准" });
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("0 个错误"));
+});
+
+test("A finding leads to its cell, by a click beside the list and by Enter in the table", async () => {
+  await open(mistakes);
+  await page.click('.side-item:has-text("列宽.csv")');
+  await page.click(".finding >> nth=1");
+  const cell = page.locator(".findings-detail .cell.is-selected");
+  assert.match(await cell.innerText(), /^4O\s*⇒ 4/);
+  assert.match(await page.innerText(".card-fix"), /40/);
+  await page.focus(".finding-list");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(".panel-tables .cell.is-selected");
+  assert.equal(await page.innerText(".cell-name"), "B2");
+  assert.match(await page.innerText(".beside"), /“4O”不是整数/);
+});
+
+test("The filters of severity, file, code and text narrow the list", async () => {
+  await open(mistakes);
+  const shown = () => page.innerText(".findings-list .bar [role=status]");
+  assert.equal(await shown(), "共 69 个");
+  await page.click('.severity-filter button:has-text("错误")');
+  assert.equal(await shown(), "显示 6 个，共 69 个");
+  await page.click("text=清除筛选");
+  await page.selectOption(".side select", "cell-not-integer");
+  assert.equal(await shown(), "显示 4 个，共 69 个");
+  await page.click("text=清除筛选");
+  await page.fill(".side input", "全角");
+  assert.equal(await shown(), "显示 3 个，共 69 个");
+});
+
+test("The list is copied as text, and saved as the program's own CSV", async () => {
+  await opened.context.grantPermissions(["clipboard-read", "clipboard-write"]);
+  await open(mistakes);
+  await page.click('.side-item:has-text("列宽.csv")');
+  await page.click("text=复制为文本");
+  await page.waitForSelector("text=已复制");
+  assert.equal(
+    await page.evaluate(() => navigator.clipboard.readText()),
+    [
+      "列宽.csv A2  警告  “abc”不是整数",
+      "列宽.csv B2  警告  “4O”不是整数  改为: 40",
+      "列宽.csv D2  警告  “7０”（含全角字符）不是整数  改为: 70",
+    ].join("\n"),
+  );
+  const [download] = await Promise.all([page.waitForEvent("download"), page.click("text=保存为 CSV")]);
+  assert.equal(download.suggestedFilename(), "问题.csv");
+  const saved = readFileSync(await download.path(), "utf8");
+  assert.ok(saved.startsWith("\ufeff代码,级别,文件,行"));
+  assert.equal(saved.trimEnd().split("\r\n").length, 70);
+});
+
+test("A folder without tables.json gets one from init, which can be saved", async () => {
+  const copy = copied("标准");
+  rmSync(join(copy, "tables.json"));
+  await open(copy);
+  await page.click(".manifest .main-button");
+  await page.waitForSelector("text=保存 tables.json");
+  await settled(page);
+  assert.match(await counts(), /0 个错误/);
+  const [download] = await Promise.all([page.waitForEvent("download"), page.click("text=保存 tables.json")]);
+  assert.equal(download.suggestedFilename(), "tables.json");
+  const roles = JSON.parse(readFileSync(await download.path(), "utf8")) as Record<string, string>;
+  assert.equal(Object.keys(roles).length, 15);
+  assert.equal(roles["process-rules"], "工艺规则.csv");
+});
+
+test("The keys of a spreadsheet move through the grid", async () => {
+  await open(join(samples, "config", "标准"));
+  await showView(page, "tables");
+  await page.click('.side-item:has-text("工艺规则.csv")');
+  await page.focus(".grid");
+  const at = () => page.innerText(".cell-name");
+  const press = async (key: string) => {
+    await page.keyboard.press(key);
+    return at();
+  };
+  assert.equal(await at(), "A1");
+  assert.equal(await press("ArrowRight"), "B1");
+  assert.equal(await press("ArrowDown"), "B2");
+  assert.equal(await press("End"), "BD2");
+  assert.equal(await press("Control+ArrowDown"), "BD72");
+  assert.equal(await press("Home"), "A72");
+  assert.equal(await press("Control+Home"), "A1");
+  assert.equal(await press("ArrowUp"), "A1");
+  assert.equal(await press("Control+End"), "BD72");
+  const active = await page.getAttribute(".grid", "aria-activedescendant");
+  assert.equal(await page.getAttribute(`[id="${active}"]`, "aria-colindex"), "56");
+  const first = Number((await press("PageUp")).slice(2));
+  assert.ok(first > 30 && first < 60);
+});
+
+test("Tabs are moved by arrows and are one stop of the Tab key", async () => {
+  await open(join(samples, "config", "标准"));
+  await page.focus("#view-tab-findings");
+  await page.keyboard.press("ArrowRight");
+  assert.equal(await page.evaluate(() => document.activeElement?.id), "view-tab-tables");
+  await page.waitForSelector(".panel-tables");
+  await page.keyboard.press("ArrowLeft");
+  await page.keyboard.press("ArrowLeft");
+  assert.equal(await page.evaluate(() => document.activeElement?.id), "view-tab-comparison");
+  assert.equal(await page.locator('[id^="view-tab-"][tabindex="0"]').count(), 1);
+});
+
+test("Ten thousand rows of seventy columns open, and only what is in sight is in the page", async () => {
+  const copy = copied("标准");
+  const header = Array.from({ length: 70 }, (_, column) => `C${column}`).join(",");
+  const rows = Array.from({ length: 10_000 }, (_, row) =>
+    Array.from({ length: 70 }, (_, column) => `${row}_${column}`).join(","),
+  );
+  writeFileSync(join(copy, "big.csv"), [header, ...rows, ""].join("\r\n"));
+  await open(copy);
+  await showView(page, "tables");
+  await page.click('.side-item:has-text("big.csv")');
+  await page.waitForSelector(".grid");
+  await page.focus(".grid");
+  await page.keyboard.press("Control+End");
+  await page.waitForSelector('.cell.is-selected:has-text("9999_69")');
+  assert.equal(await page.innerText(".cell-name"), "BR10001");
+  assert.equal(await page.getAttribute(".grid", "aria-rowcount"), "10001");
+  assert.ok((await page.locator(".cell").count()) < 3000);
+});
+
+test("What the program says of an unusable folder is shown", async () => {
+  writeFileSync(join(folder, "tables.json"), '{"process-rules": "规则.csv" "layers": 1}');
+  writeFileSync(join(folder, "规则.csv"), "");
+  await open(folder);
+  assert.match(await counts(), /1 个错误/);
+  await showView(page, "tables");
+  await screenshot(page, "unusable-zh");
+});
+
+test("The language switch changes the page and what the program says, and is remembered", async () => {
+  await open(mistakes);
+  await page.click("text=English");
+  await page.waitForFunction(() =>
+    document.querySelector(".finding")?.textContent?.includes("row 5 accepts no plate"),
+  );
+  assert.equal(await page.getAttribute("html", "lang"), "en");
+  await page.reload();
+  assert.match(await page.innerText("body"), /Drop a configuration folder here|Reading|errors/);
+});
+
+test("On paper the whole list stands, without the controls", async () => {
+  await open(mistakes);
+  await page.emulateMedia({ media: "print" });
+  await page.waitForFunction(() => document.querySelectorAll(".finding").length === 69);
+  assert.equal(await page.isVisible(".side"), false);
+  assert.equal(await page.isVisible(".tabs"), false);
+});
