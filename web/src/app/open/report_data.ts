@@ -2,15 +2,11 @@
 
 import { fromBase64 } from "../../engine/base64";
 import { dataSource, type Source } from "./source";
+import type { Use } from "./uses";
 
 interface ReportData {
   readonly name: string;
-  readonly files: readonly { readonly path: string; readonly base64: string }[];
-}
-
-/** The configuration's own files lie in the engine's folder; what was opened is that folder. */
-function withoutFolder(path: string): string {
-  return path.replace(/^config\//, "");
+  readonly files: readonly { readonly path: string; readonly use?: Use; readonly base64: string }[];
 }
 
 /** Undefined in a page without data. */
@@ -20,6 +16,7 @@ export function reportSource(): Source | undefined {
   const { name, files } = JSON.parse(text) as ReportData;
   return dataSource(
     name,
-    files.map(({ path, base64 }) => ({ path: withoutFolder(path), bytes: fromBase64(base64) })),
+    files.map(({ path, base64 }) => ({ path, bytes: fromBase64(base64) })),
+    new Map(files.flatMap(({ path, use }) => (use === undefined ? [] : [[path, use]]))),
   );
 }

@@ -75,7 +75,11 @@ async function readSide(
     sources,
     entries,
     folder,
-    uses: new Map([...uses, ...keptUses(before, uses)]),
+    uses: new Map([
+      ...uses,
+      ...sources.flatMap((source) => [...(source.uses ?? [])]),
+      ...keptUses(before, uses),
+    ]),
     revision,
   };
 }
