@@ -28,7 +28,7 @@ class ReportCommand : public testing::Test {
  protected:
   ReportCommand() {
     folder_.WriteBytes("page.html", std::string(kBeforeData) + std::string(kBehindData));
-    folder_.WriteBytes("标准/tables.json", R"({"layers": "图层.csv", "connectors": "unten/连接.csv"})");
+    folder_.WriteBytes("标准/tables.json", R"({"layers": "图层.csv", "connect-string": "unten/连接.csv"})");
     folder_.WriteTable("标准/图层.csv", "图层间距\n12\n");
     folder_.WriteTable("标准/unten/连接.csv", "连接字符\n+\n");
     folder_.WriteBytes("plates.json", R"([{"name": "A"}])");
@@ -63,7 +63,7 @@ TEST_F(ReportCommand, HoldsTheManifestTheTablesThatItNamesAndWhatIsGivenBesideTh
   // 图层间距 is CD BC B2 E3 BC E4 BE E0 in GBK, 连接字符 is C1 AC BD D3 D7 D6 B7 FB.
   EXPECT_EQ(data["files"],
             Json({{{"path", "标准/tables.json"},
-                   {"base64", Base64Of(R"({"layers": "图层.csv", "connectors": "unten/连接.csv"})")}},
+                   {"base64", Base64Of(R"({"layers": "图层.csv", "connect-string": "unten/连接.csv"})")}},
                   {{"path", "标准/图层.csv"}, {"base64", "zbyy47zkvuAKMTIK"}},
                   {{"path", "标准/unten/连接.csv"}, {"base64", "way909fWt/sKKwo="}},
                   {{"path", "plates.json"}, {"use", "plates"}, {"base64", "W3sibmFtZSI6ICJBIn1d"}},
@@ -106,7 +106,7 @@ TEST_F(ReportCommand, IsNotWrittenWithoutAFileThatWasAskedFor) {
 }
 
 TEST_F(ReportCommand, LeavesOutTablesThatLieElsewhere) {
-  folder_.WriteBytes("标准/tables.json", R"({"layers": "../../../x.csv", "connectors": "../holes.csv"})");
+  folder_.WriteBytes("标准/tables.json", R"({"layers": "../../../x.csv", "connect-string": "../holes.csv"})");
   const Json data = DataIn(Report({}).out);
   ASSERT_EQ(data["files"].size(), 1u);
   EXPECT_EQ(data["files"][0]["path"], "标准/tables.json");
