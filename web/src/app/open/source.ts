@@ -1,11 +1,13 @@
 // Where files come from, and how they are read once more: a folder's handle reads what is on disk now, a file of an <input> does not.
 
-import type { Uses } from "./uses";
+import type { Use } from "./uses";
 
 export interface Entry {
   /** Below the opened folder, with '/'. */
   readonly path: string;
   readonly bytes: Uint8Array;
+  /** Where it is known what the file is used as. */
+  readonly use?: Use;
 }
 
 export interface Source {
@@ -13,8 +15,6 @@ export interface Source {
   /** Whether it is a whole folder, not single files. */
   readonly isFolder: boolean;
   readonly handle?: FileSystemDirectoryHandle;
-  /** What some of its files are, where that is known. */
-  readonly uses?: Uses;
   read(): Promise<readonly Entry[]>;
 }
 
@@ -109,6 +109,6 @@ export function listSource(files: readonly File[]): Source {
 }
 
 /** Files that the page itself has: the data of a report, a manifest that was just written. */
-export function dataSource(name: string, entries: readonly Entry[], uses: Uses): Source {
-  return { name, isFolder: true, uses, read: async () => entries };
+export function dataSource(name: string, entries: readonly Entry[]): Source {
+  return { name, isFolder: true, read: async () => entries };
 }

@@ -75,11 +75,7 @@ async function readSide(
     sources,
     entries,
     folder,
-    uses: new Map([
-      ...uses,
-      ...sources.flatMap((source) => [...(source.uses ?? [])]),
-      ...keptUses(before, uses),
-    ]),
+    uses: new Map([...uses, ...keptUses(before, uses)]),
     revision,
   };
 }
