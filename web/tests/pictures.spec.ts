@@ -181,3 +181,44 @@ test("Without hole types the view says what to open", async () => {
   assert.match(await text(open.page, ".panel-holes, main"), /还缺孔类型文件/);
   await closePage(open);
 });
+
+// ---- The sheet ----
+
+test("A part of the sheet shows the settings that place it, and opens their cell", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.click("label:has-text('分图') >> nth=-1");
+  const part = page.locator(".sheet-list li", { hasText: "<HARDNESS>" });
+  await part.hover();
+  await page.waitForSelector(".sheet-keys");
+  assert.match(await part.innerText(), /图框信息-左边距\s*0\.8/);
+  assert.match((await page.textContent(".sheet-picture")) ?? "", /图框信息 · 图框信息-左边距/);
+  await part.locator(".sheet-keys button", { hasText: "图框信息-顶边距" }).click();
+  await page.waitForSelector('.panel-tables .cell.is-selected:has-text("0.93")');
+  await closePage(open);
+});
+
+test("The paper is what the reader chooses, and what was taken for granted is told", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.waitForSelector(".sheet-picture");
+  assert.match((await page.getAttribute(".sheet-picture", "aria-label")) ?? "", /420 x 297 mm/);
+  assert.match(await text(page, ".sheet-assumed"), /各表中没有纸张的大小/);
+  await page.selectOption(".sheet-paper select", "594x420");
+  await page.waitForFunction(() =>
+    document.querySelector(".sheet-picture")?.getAttribute("aria-label")?.includes("594 x 420"),
+  );
+  await closePage(open);
+});
+
+test("A second folder's sheet stands beside, and what differs is marked", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.waitForSelector(".sheet-picture");
+  assert.equal(await page.locator(".sheet-differs").count(), 0);
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await page.waitForSelector("figure:nth-child(2) .sheet-picture");
+  assert.deepEqual(await page.locator(".sheet-pictures figcaption").allInnerTexts(), ["标准", "精密模"]);
+  await page.waitForSelector(".sheet-differs");
+  await closePage(open);
+});
