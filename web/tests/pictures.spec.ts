@@ -30,15 +30,15 @@ const text = (page: Page, selector: string) => page.locator(selector).first().in
 test("A plate without a text stands first, and the nearest row says what has to change", async () => {
   const open = await opened("plate");
   const { page } = open;
-  assert.match(await text(page, ".plate-items li"), /加长托板/);
-  await page.click(".plate-items li button");
+  assert.match(await text(page, ".item-list li"), /加长托板/);
+  await page.click(".item-list li button");
   await page.waitForFunction(
     () => document.querySelector<HTMLInputElement>("#plate-length")?.value === "1203",
   );
   await page.waitForSelector(".process-text .status-no-row");
   assert.match(await text(page, ".refused li"), /第 41 行\s*长度 1203 超出 700–1200，多 3/);
-  assert.match(await text(page, ".changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
-  await page.click(".changes button");
+  assert.match(await text(page, ".plate-changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
+  await page.click(".plate-changes button");
   await page.waitForSelector(".process-text .status-written");
   assert.equal(await page.inputValue("#plate-length"), "1200");
   assert.match(await text(page, ".process-text"), /符合第 41 行/);

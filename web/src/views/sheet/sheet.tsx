@@ -17,6 +17,7 @@ import { kPapers, landscape, portrait } from "./paper";
 import { Assumed, Parts, Unknowns, useOpenPart } from "./parts";
 import { differing } from "./sameness";
 import { SheetDrawing, wholeOf } from "./sheet_drawing";
+import "../../app/parts/common.css";
 import "./sheet.css";
 
 const kZoomStep = 0.7;
