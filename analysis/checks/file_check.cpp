@@ -21,7 +21,7 @@ std::optional<Finding> FormFinding(const TableText& table) {
   const std::string_view header = HeaderLine(table.Cells());
   switch (FormOf(table.Cells().Bytes())) {
     case FileForm::kTable:
-      return std::nullopt;
+      break;
     case FileForm::kWorkbook:
       return Finding{"table-workbook", first};
     case FileForm::kUtf16:

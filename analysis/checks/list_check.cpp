@@ -58,7 +58,7 @@ class ListCheck {
   bool Allows(const Field& field, std::size_t row) const {
     switch (field.schema.rowRule) {
       case RowRule::kNone:
-        return true;
+        break;
       case RowRule::kRequired:
       case RowRule::kDecides:
         return field.schema.accepts(table_.Cells().Cell(row, field.column));

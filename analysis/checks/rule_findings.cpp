@@ -42,10 +42,10 @@ class RuleFindings {
       : table_(table), analysis_(analysis), raise_(raise), model_(MakeRuleModel(tables)), space_({&model_}) {}
 
   RuleAnalysisEnd Run() {
-    const MaskedRows masked = FindMaskedRows(model_, space_);
+    const MaskedRows masked = FindMaskedRows(model_, space_, analysis_.work);
     Keep(masked.unconfirmed);
     RaiseMasked(masked);
-    if (!masked.undecided.empty()) NoteUndecided(masked.undecided);
+    NoteUndecided(masked.undecided);
     if (Wants("row-shared-bound")) RaiseSharedBounds(masked);
     if (Wants("rows-mergeable")) RaiseMergeable();
     if (Wants("gap")) RaiseGaps();
@@ -73,6 +73,7 @@ class RuleFindings {
   }
 
   void NoteUndecided(const std::vector<int>& rows) {
+    if (rows.empty()) return;
     Word text = RowsText(rows);
     text.english += rows.size() == 1 ? " was not fully compared with the rows above it: too many cases"
                                      : " were not fully compared with the rows above them: too many cases";
@@ -112,8 +113,9 @@ class RuleFindings {
   }
 
   void RaiseSharedBounds(const MaskedRows& masked) {
-    const SharedBounds shared = FindSharedBounds(model_, space_, masked);
+    const SharedBounds shared = FindSharedBounds(model_, space_, masked, analysis_.work);
     Keep(shared.unconfirmed);
+    NoteUndecided(shared.undecided);
     for (const SharedBound& bound : shared.bounds) {
       Finding finding = RowFinding("row-shared-bound", bound.row);
       finding.members.emplace_back("otherRow", bound.otherRow);

@@ -2,6 +2,7 @@
 
 // What the exact analysis of a rule table says, as findings.
 
+#include <cstdint>
 #include <functional>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,7 @@ namespace plateconfig {
 
 struct RuleAnalysis {
   GapOptions gaps;
+  std::uint64_t work = kUsualWork;  ///< Steps for what rows above take of a row, and again for shared bounds.
   /// Which codes are wanted; what nobody wants is not computed.
   std::function<bool(std::string_view code)> wants = [](std::string_view) { return true; };
 };

@@ -104,9 +104,10 @@ Value BoxValue(const Box& box) {
 }
 
 Value GroupValue(const GroupName& group) {
-  return Object{{"colors", ListOf(group.colors)},
-                {NameOf(Condition::kProfile), group.answers.profile},
-                {NameOf(Condition::kWireCutting), group.answers.wireCutting}};
+  Object members = {{"colors", ListOf(group.colors)}};
+  members.emplace_back(NameOf(Condition::kProfile), group.answers.profile);
+  members.emplace_back(NameOf(Condition::kWireCutting), group.answers.wireCutting);
+  return members;
 }
 
 Value GroupValue(const RegionGroup& group, bool answersAgree) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace plateconfig {
 namespace {
@@ -12,12 +13,9 @@ struct SideBySide {
   std::size_t along;
 
   bool operator()(const Box& a, const Box& b) const {
-    for (std::size_t i = 1; i <= kSizeCount; ++i) {
-      const std::size_t size = (along + i) % kSizeCount;
-      if (a[size].low != b[size].low) return a[size].low < b[size].low;
-      if (a[size].high != b[size].high) return a[size].high < b[size].high;
-    }
-    return false;
+    std::size_t size = (along + 1) % kSizeCount;
+    while (size != along && a[size] == b[size]) size = (size + 1) % kSizeCount;
+    return std::tie(a[size].low, a[size].high) < std::tie(b[size].low, b[size].high);
   }
 };
 

@@ -107,7 +107,8 @@ class Snapshot {
   template <typename Record, typename... Further>
   static Cells Taken(const Key<Record, Further...>& key, const Cells& cells) {
     Record record = FreshRecord<Record>();
-    ReadKey(key, cells, record);
+    const std::vector<std::string_view> views(cells.begin(), cells.end());
+    ReadKey(key, views, record);
     return PrintKey(key, record);
   }
 

@@ -28,14 +28,19 @@ namespace plateconfig {
 inline std::uint64_t HashOf(std::string_view text) {
   constexpr std::uint64_t kFactor = 0x9E37'79B9'7F4A'7C15;
   std::uint64_t hash = text.size();
-  for (std::uint64_t piece; text.size() >= sizeof piece; text.remove_prefix(sizeof piece)) {
-    std::memcpy(&piece, text.data(), sizeof piece);
+  std::uint64_t piece = 0;
+  if (text.size() < sizeof piece) {
+    for (const char byte : text) piece = piece << 8 | static_cast<unsigned char>(byte);
+    return (hash ^ piece) * kFactor;
+  }
+  for (std::size_t at = 0; at + sizeof piece < text.size(); at += sizeof piece) {
+    std::memcpy(&piece, text.data() + at, sizeof piece);
     hash = (hash ^ piece) * kFactor;
     hash ^= hash >> 32;
   }
-  std::uint64_t rest = 0;
-  for (const char byte : text) rest = rest << 8 | static_cast<unsigned char>(byte);
-  return (hash ^ rest) * kFactor;
+  // The last bytes at once, those that had their turn among them, instead of what is left one by one.
+  std::memcpy(&piece, text.data() + text.size() - sizeof piece, sizeof piece);
+  return (hash ^ piece) * kFactor;
 }
 
 /// True when the text of a cell, as the file has it, equals `text`.

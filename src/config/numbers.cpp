@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -22,8 +23,8 @@ struct SignedText {
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
   const auto isBlank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-  return text.substr(
-      static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isBlank) - text.begin()));
+  while (!text.empty() && isBlank(text[0])) text.remove_prefix(1);
+  return text;
 }
 
 SignedText TakeSign(std::string_view text) {
@@ -52,6 +53,29 @@ double OutOfRange(std::string_view number, bool hexadecimal) {
   long long place = (point - significant) * (hexadecimal ? bitsOfAHexDigit : 1);
   if (exponentAt != std::string_view::npos) place += ParseInt(number.substr(exponentAt + 1));
   return place > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+
+/// The number of a text of a few digits, perhaps with a point among them, as almost every cell is; nothing
+/// for a longer text and for one with anything else in it. The digits and the power of ten are exact as
+/// doubles, so that their quotient is the double nearest to the number: what from_chars gives, in a fraction
+/// of the time.
+std::optional<double> ShortDecimal(std::string_view text) {
+  static_assert(FLT_EVAL_METHOD == 0, "a quotient is rounded once");
+  if (text.size() > std::size(kPowersOfTen)) return std::nullopt;
+  std::int64_t digits = 0;
+  std::size_t decimalsAt = text.size();
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] >= '0' && text[at] <= '9')
+      digits = 10 * digits + (text[at] - '0');
+    else if (text[at] == '.' && decimalsAt == text.size())
+      decimalsAt = at + 1;
+    else
+      return std::nullopt;
+  }
+  return static_cast<double>(digits) / kPowersOfTen[text.size() - decimalsAt];
 }
 
 /// The number without a sign that the text begins with; nothing when there is none.
@@ -112,6 +136,7 @@ int ParseInt(std::string_view text) {
 }
 
 double ParseDouble(std::string_view text) {
+  if (const std::optional<double> number = ShortDecimal(text)) return *number;
   const auto [negative, digits] = TakeSign(text);
   if (!digits.empty() && digits[0] == '-') return 0;  // from_chars would take a second sign.
   const std::optional<double> magnitude = Magnitude(digits);

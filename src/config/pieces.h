@@ -20,7 +20,7 @@ void ForEachPiece(std::string_view text, std::string_view separator, Take take) 
   if (text.empty()) return;
   std::size_t begin = 0;
   for (std::size_t at = 0; at < text.size() && !separator.empty();) {
-    if (text[at] != separator[0] || !text.substr(at).starts_with(separator)) {
+    if (text[at] != separator[0] || (separator.size() > 1 && !text.substr(at).starts_with(separator))) {
       at += GbkCharLength(text, at);
       continue;
     }

@@ -27,7 +27,7 @@ struct BlockBits {
   bool operator==(const BlockBits&) const = default;
 };
 
-/// The same for any processor, and for the last bytes of a file: at most 64.
+/// The same for any processor, of at most 64 bytes.
 inline BlockBits PlainBlockBits(std::string_view bytes) {
   BlockBits bits;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -44,14 +44,14 @@ inline BlockBits PlainBlockBits(std::string_view bytes) {
 struct EqualBytes {
   __m128i parts[4];
 
-  EqualBytes(const __m128i (&block)[4], char byte) {
-    for (std::size_t i = 0; i < 4; ++i) parts[i] = _mm_cmpeq_epi8(block[i], _mm_set1_epi8(byte));
+  EqualBytes(const char* block, char byte) {
+    for (std::size_t i = 0; i < 4; ++i) {
+      __m128i part;
+      std::memcpy(&part, block + i * sizeof part, sizeof part);
+      parts[i] = _mm_cmpeq_epi8(part, _mm_set1_epi8(byte));
+    }
   }
 
-  bool Any() const {
-    return _mm_movemask_epi8(
-               _mm_or_si128(_mm_or_si128(parts[0], parts[1]), _mm_or_si128(parts[2], parts[3]))) != 0;
-  }
   std::uint64_t Bits() const {
     std::uint64_t bits = 0;
     for (std::size_t i = 0; i < 4; ++i)
@@ -60,16 +60,14 @@ struct EqualBytes {
   }
 };
 
-/// For a whole block. Most hold no quote, and many no line feed.
-inline BlockBits WholeBlockBits(const char* bytes) {
-  __m128i block[4];
-  std::memcpy(block, bytes, sizeof block);
+/// For a whole block.
+inline BlockBits WholeBlockBits(const char* block) {
   const EqualBytes commas(block, ',');
   const EqualBytes lineFeeds(block, '\n');
   const EqualBytes quotes(block, kQuote);
   BlockBits bits;
-  if (lineFeeds.Any()) bits.lineFeeds = lineFeeds.Bits();
-  if (quotes.Any()) bits.quotes = quotes.Bits();
+  bits.lineFeeds = lineFeeds.Bits();
+  bits.quotes = quotes.Bits();
   bits.separators = commas.Bits() | bits.lineFeeds;
   return bits;
 }
@@ -81,7 +79,10 @@ inline BlockBits WholeBlockBits(const char* block) {
 
 /// For the first block of `bytes`, which may end earlier.
 inline BlockBits FindInBlock(std::string_view bytes) {
-  return bytes.size() >= kBlock ? WholeBlockBits(bytes.data()) : PlainBlockBits(bytes);
+  if (bytes.size() >= kBlock) return WholeBlockBits(bytes.data());
+  char last[kBlock] = {};  // What matters to nobody stands behind the end.
+  bytes.copy(last, kBlock);
+  return WholeBlockBits(last);
 }
 
 }  // namespace plateconfig

@@ -12,29 +12,34 @@
 namespace plateconfig {
 namespace {
 
-constexpr std::uint64_t kAllBits = ~std::uint64_t{0};
+// Sets of bytes of a block, bit i for byte i. A single byte is the set that holds no other.
 
-std::size_t FirstBit(std::uint64_t bits) {
-  return static_cast<std::size_t>(std::countr_zero(bits));
+constexpr std::uint64_t FirstOf(std::uint64_t bytes) {
+  return bytes & (0 - bytes);
 }
 
-/// Bits 0 to `last`.
-std::uint64_t BitsUpTo(std::size_t last) {
-  return kAllBits >> (kBlock - 1 - last);
+constexpr std::uint64_t UpTo(std::uint64_t byte) {
+  return (byte << 1) - 1;
 }
 
-/// What `EndOfQuotes` gives for a cell whose opening quote stands at `begin`; `quotes` are those of the block
-/// at `at`. Most quoted cells end in the block in which they begin.
-std::size_t EndOfQuotesFrom(std::size_t begin, std::string_view bytes, std::size_t at, std::uint64_t quotes) {
-  std::uint64_t left = begin + 1 - at < kBlock ? quotes & kAllBits << (begin + 1 - at) : 0;
-  while (left != 0) {
-    const std::size_t quote = FirstBit(left);
-    if (quote == kBlock - 1) break;  // Whether it is doubled shows in the next block.
-    const std::uint64_t next = std::uint64_t{2} << quote;
-    if ((left & next) == 0) return at + quote + 1;
-    left &= ~BitsUpTo(quote + 1);
+/// Behind none, as behind the last one, there is none.
+constexpr std::uint64_t Behind(std::uint64_t byte) {
+  return 0 - (byte << 1);
+}
+
+constexpr std::size_t IndexOf(std::uint64_t byte) {
+  return static_cast<std::size_t>(std::countr_zero(byte));
+}
+
+/// The first of these quotes that closes a cell; none when that is in a later block, or shows there.
+std::uint64_t ClosingQuoteOf(std::uint64_t quotes) {
+  while (true) {
+    const std::uint64_t quote = FirstOf(quotes);
+    const std::uint64_t next = quote << 1;
+    if (next == 0) return 0;
+    if ((quotes & next) == 0) return quote;
+    quotes &= ~(quote | next);
   }
-  return EndOfQuotes(bytes, begin);
 }
 
 /// The bytes up to the end of the last line that is not blank, without its line feed. No quotes are open
@@ -75,21 +80,26 @@ class CellFinder {
     std::uint64_t beforeQuotes = bits.quotes >> 1;
     if (next < bytes_.size() && bytes_[next] == kQuote) beforeQuotes |= std::uint64_t{1} << (kBlock - 1);
     std::uint64_t separators = bits.separators;
-    while ((separators & beforeQuotes) != 0) {
-      const std::size_t last = FirstBit(separators & beforeQuotes);
-      AddLines(at, separators & BitsUpTo(last), bits.lineFeeds);
-      const std::size_t end = EndOfQuotesFrom(at + last + 1, bytes_, at, bits.quotes);
-      if (end >= next) return end;
-      separators &= kAllBits << (end - at);
+    std::size_t end = next;
+    for (std::uint64_t opening = separators & beforeQuotes; opening != 0;) {
+      const std::uint64_t last = FirstOf(opening);
+      const std::uint64_t closing = ClosingQuoteOf(bits.quotes & Behind(last << 1));
+      std::uint64_t behind = Behind(closing);
+      if (closing == 0) {  // One quoted cell in three goes on in the next block.
+        end = EndOfQuotes(bytes_, at + IndexOf(last) + 1);
+        behind = end < next ? ~std::uint64_t{0} << (end - at) : 0;
+      }
+      separators &= UpTo(last) | behind;
+      opening = separators & beforeQuotes & behind;
     }
     AddLines(at, separators, bits.lineFeeds);
-    return next;
+    return std::max(end, next);
   }
 
   /// Notes the cells that begin behind these separators, and the lines.
   void AddLines(std::size_t at, std::uint64_t separators, std::uint64_t lineFeeds) {
     while ((separators & lineFeeds) != 0) {
-      const std::uint64_t line = separators & BitsUpTo(FirstBit(separators & lineFeeds));
+      const std::uint64_t line = separators & UpTo(FirstOf(separators & lineFeeds));
       AddCells(at, line);
       rowBegins_.Add(cellBegins_.Size() - 1);
       separators &= ~line;
@@ -101,7 +111,7 @@ class CellFinder {
     std::uint32_t* const room = cellBegins_.Room(kBlock);
     std::uint32_t* end = room;
     for (; separators != 0; separators &= separators - 1)
-      *end++ = static_cast<std::uint32_t>(at + FirstBit(separators) + 1);
+      *end++ = static_cast<std::uint32_t>(at + IndexOf(separators) + 1);
     cellBegins_.Keep(static_cast<std::size_t>(end - room));
   }
 
@@ -177,6 +187,12 @@ std::string Table::Cell(std::size_t row, std::size_t column) const {
   const std::string_view raw = RawCell(row, column);
   const std::optional<std::string_view> text = TextInPlace(raw);
   return text ? std::string(*text) : Unquoted(raw);
+}
+
+std::string_view Table::CellText(std::size_t row, std::size_t column, std::string& memory) const {
+  const std::string_view raw = RawCell(row, column);
+  if (const std::optional<std::string_view> text = TextInPlace(raw)) return *text;
+  return memory = Unquoted(raw);
 }
 
 std::vector<std::string> Table::Column(std::size_t column) const {

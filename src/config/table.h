@@ -47,6 +47,10 @@ class Table {
   /// row does not have are empty.
   std::string Cell(std::size_t row, std::size_t column) const;
 
+  /// The same without a copy of what stands in the file: only a text with doubled quotes, or with something
+  /// behind its quotes, is put together in `memory`. For as long as both are there.
+  std::string_view CellText(std::size_t row, std::size_t column, std::string& memory) const;
+
   /// The texts of a column's cells, one per data row.
   std::vector<std::string> Column(std::size_t column) const;
 

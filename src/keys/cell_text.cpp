@@ -16,7 +16,7 @@ constexpr std::string_view kJoint = "_";
 constexpr int kFirstLayer = 1;
 constexpr int kLastLayer = 256;
 
-bool IsTaken(TakenCells taken, const std::string& cell, int number) {
+bool IsTaken(TakenCells taken, std::string_view cell, int number) {
   if (taken == TakenCells::kFilled) return !cell.empty();
   if (taken == TakenCells::kLayerNumbers) return number >= kFirstLayer && number <= kLastLayer;
   return number != 0;
@@ -66,7 +66,7 @@ CellForm FormOf(FlagLetters letters) {
 }
 
 void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
-  for (const std::string& cell : cells) {
+  for (const std::string_view cell : cells) {
     const int number = ParseInt(cell);
     if (IsTaken(taken, cell, number)) list.push_back(number);
   }

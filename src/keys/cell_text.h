@@ -17,7 +17,7 @@ namespace plateconfig {
 using Cells = std::vector<std::string>;
 
 /// The same, of which only a look is wanted: a column, or one cell of a row.
-using CellsView = std::span<const std::string>;
+using CellsView = std::span<const std::string_view>;
 
 /// What the value of a cell is, for whoever hands it on.
 enum class CellType { kNumber, kInteger, kFlag, kText };

@@ -151,9 +151,17 @@ class Loader {
   template <typename AnyKind, typename Record>
   void ReadColumn(const AnyKind& kind, Position column, Record& record) const {
     if (!column || table_.RowCount() == 0) return kind.Read(record, {});
-    if constexpr (AnyKind::kIsList) return kind.Read(record, table_.Column(*column));
-    const std::string first = table_.Cell(1, *column);
+    if constexpr (AnyKind::kIsList) return ReadList(kind, *column, record);
+    std::string memory;
+    const std::string_view first = table_.CellText(1, *column, memory);
     kind.Read(record, {&first, 1});
+  }
+
+  template <typename AnyKind, typename Record>
+  void ReadList(const AnyKind& kind, std::size_t column, Record& record) const {
+    const Cells texts = table_.Column(column);
+    const std::vector<std::string_view> cells(texts.begin(), texts.end());
+    kind.Read(record, cells);
   }
 
   /// How many rows the columns have; none when all are absent.
@@ -182,7 +190,9 @@ class Loader {
     if constexpr (KnowsItsLine<Record>)
       record->lineNumber = static_cast<int>(row) + 1;  // The header is line 1.
     for (std::size_t i = 0; i < std::size(keys); ++i) {
-      const std::string cell = columns[i] ? table_.Cell(row, *columns[i]) : std::string();
+      std::string memory;
+      const std::string_view cell =
+          columns[i] ? table_.CellText(row, *columns[i], memory) : std::string_view();
       if (!Allows(keys[i], cell)) return std::nullopt;
       ReadKey(keys[i], {&cell, 1}, *record);
     }
@@ -190,7 +200,7 @@ class Loader {
   }
 
   template <typename AnyKey>
-  static bool Allows(const AnyKey& key, const std::string& cell) {
+  static bool Allows(const AnyKey& key, std::string_view cell) {
     if (key.rowRule == RowRule::kNone || key.rowRule == RowRule::kBounds) return true;
     return std::visit([&](const auto& kind) { return kind.Accepts(cell); }, key.kind);
   }

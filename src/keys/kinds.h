@@ -45,8 +45,8 @@ struct KindOf {
   static constexpr CellType kType = type;
   static constexpr bool kIsList = isList;
   static bool EmptyIsAbsent() { return false; }
-  static bool Accepts(const std::string& cell) { return !cell.empty(); }
-  static bool Says(const std::string&) { return true; }
+  static bool Accepts(std::string_view cell) { return !cell.empty(); }
+  static bool Says(std::string_view) { return true; }
   static ExactTexts Exact() { return {}; }
   static Cells WhenAbsent() { return {}; }
 };
@@ -116,7 +116,7 @@ struct Text : KindOf<CellType::kText> {
   }
   bool EmptyIsAbsent() const { return emptyCell == EmptyCell::kIsAbsent; }
   void Read(Record& record, CellsView cells) const {
-    record.*field = IsAbsent(cells, emptyCell) ? std::string(whenAbsent) : cells.front();
+    record.*field = IsAbsent(cells, emptyCell) ? whenAbsent : cells.front();
   }
   Cells Print(const Record& record) const { return {record.*field}; }
   Cells WhenAbsent() const { return {std::string(whenAbsent)}; }
@@ -182,7 +182,7 @@ struct JoinedInts : KindOf<CellType::kText> {
 
   static CellForm Form() { return CellForm::kJoinedIntegers; }
   void Read(Record& record, CellsView cells) const {
-    record.*field = SplitInts(cells.empty() ? std::string() : cells.front());
+    record.*field = SplitInts(cells.empty() ? std::string_view() : cells.front());
   }
   Cells Print(const Record& record) const { return {JoinInts(record.*field)}; }
 };
@@ -196,8 +196,8 @@ struct Range : KindOf<CellType::kText> {
   double Record::*maximum;
 
   static CellForm Form() { return CellForm::kRange; }
-  static bool Accepts(const std::string& cell) { return SplitRange(cell).has_value(); }
-  static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
+  static bool Accepts(std::string_view cell) { return SplitRange(cell).has_value(); }
+  static bool Says(std::string_view cell) { return SplitRange(cell).has_value(); }
   void Read(Record& record, CellsView cells) const {
     const auto bounds = cells.empty() ? std::nullopt : SplitRange(cells.front());
     if (!bounds) return;
@@ -209,7 +209,7 @@ struct Range : KindOf<CellType::kText> {
 
 /// What the walkers ask of every kind.
 template <typename Any, typename Record>
-concept KindOfCell = requires(const Any& kind, Record& record, CellsView cells, const std::string& cell) {
+concept KindOfCell = requires(const Any& kind, Record& record, CellsView cells, std::string_view cell) {
   { kind.Form() } -> std::same_as<CellForm>;
   { Any::kType } -> std::convertible_to<CellType>;
   { Any::kIsList } -> std::convertible_to<bool>;

@@ -51,14 +51,15 @@ std::optional<FileBytes> ReadOpened(const OpenedFile& file) {
   // A first guess: files such as pipes do not know their size.
   const std::size_t guess = file.Size();
   if (guess > kMostFileBytes) return std::nullopt;
-  // One byte more than the size, so that the read which meets the end needs no larger buffer.
+  // One byte more than the size shows whether the file has grown.
   std::size_t capacity = guess == 0 ? kUnknownCapacity : guess + 1;
   FileBytes bytes{MemoryFor(capacity), 0};
   while (true) {
     const long long count = file.Read(bytes.data.get() + bytes.size, capacity - bytes.size);
     if (count < 0) return std::nullopt;
-    if (count == 0) return bytes;
     bytes.size += static_cast<std::size_t>(count);
+    // All that the system told of, although there was room for more: who asks once more hears the same.
+    if (count == 0 || bytes.size == guess) return bytes;
     if (bytes.size > kMostFileBytes) return std::nullopt;
     if (bytes.size == capacity) Grow(bytes, capacity);
   }

@@ -19,7 +19,7 @@ struct Sizes : KindOf<CellType::kText> {
   SizeRange Record::*field;
 
   static CellForm Form() { return CellForm::kRange; }
-  static bool Says(const std::string& cell) { return SplitRange(cell).has_value(); }
+  static bool Says(std::string_view cell) { return SplitRange(cell).has_value(); }
   void Read(Record& record, CellsView cells) const {
     if (const auto bounds = SplitRange(cells.front())) record.*field = {bounds->first, bounds->second};
   }
@@ -47,7 +47,7 @@ struct Exactly : KindOf<CellType::kText> {
 
   CellForm Form() const { return form; }
   ExactTexts Exact() const { return {wanted.cell, otherwise.cell}; }
-  static bool Says(const std::string& cell) { return !cell.empty(); }
+  static bool Says(std::string_view cell) { return !cell.empty(); }
   void Read(Record& record, CellsView cells) const {
     record.*field = cells.front() == wanted.cell ? wanted.value : otherwise.value;
   }

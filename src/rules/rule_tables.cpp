@@ -22,6 +22,7 @@ void LoadColors(RuleTables& tables, const Loader& loader) {
 void LoadProcessList(RuleTables& tables, const Loader& loader) {
   std::vector<ProcessRow> rows;
   loader.WalkRows<kProcessListKeys>(rows);
+  tables.processRules.reserve(rows.size());
   for (const ProcessRow& row : rows) {
     const int number = static_cast<int>(tables.processRules.size());
     tables.processRules.emplace_back(number, row.condition->type, row.name, row.parameter);

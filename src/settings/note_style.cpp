@@ -26,7 +26,7 @@ std::string Join(const NoteStyleFields& style, ToText toText) {
 
 }  // namespace
 
-NoteStyleFields ParseNoteStyle(const std::string& cell) {
+NoteStyleFields ParseNoteStyle(std::string_view cell) {
   std::array<std::string_view, kFieldCount> fields;
   // Kept: all or nothing. Five good fields give the default font too.
   if (TakePieces(cell, "|", fields) < kFieldCount) return {};

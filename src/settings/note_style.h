@@ -3,6 +3,7 @@
 // The text form of styles, for both classes that have a record of that name: one parser, three writers.
 
 #include <string>
+#include <string_view>
 
 #include "settings/default_manager.h"
 
@@ -18,7 +19,7 @@ To CopyStyle(const From& from) {
 }
 
 /// What a cell (GBK) says; with fewer than six fields the default style.
-NoteStyleFields ParseNoteStyle(const std::string& cell);
+NoteStyleFields ParseNoteStyle(std::string_view cell);
 
 /// The cell of a style, its numbers with three decimals and cut to 221 characters.
 std::string WriteNoteStyle(const NoteStyleFields& style);

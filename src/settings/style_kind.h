@@ -18,7 +18,7 @@ struct Style : KindOf<CellType::kText> {
 
   static CellForm Form() { return CellForm::kStyle; }
   void Read(Record& record, CellsView cells) const {
-    record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string() : cells.front()));
+    record.*field = CopyStyle<NoteStyle>(ParseNoteStyle(cells.empty() ? std::string_view() : cells.front()));
   }
   Cells Print(const Record& record) const {
     return {ShortNoteStyle(CopyStyle<NoteStyleFields>(record.*field))};

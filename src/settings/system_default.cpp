@@ -32,11 +32,10 @@ void SystemDefault::InitialText(const std::string& path) {
 }
 
 void SystemDefault::InitialConnectString(const std::string& path) {
-  if (!plateconfig::FileExists(path)) {
+  ReadConfigFile table;
+  if (!table.OpenConfigFile(path) && !plateconfig::FileExists(path)) {
     throw std::runtime_error(std::string("配置文件："_gbk).append(path).append(" 不存在！"_gbk));
   }
-  ReadConfigFile table;
-  table.OpenConfigFile(path);
   plateconfig::WalkConnectString(*this, Loader(table));
 }
 

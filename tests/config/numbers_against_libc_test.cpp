@@ -70,6 +70,17 @@ TEST(ParsedNumbers, AreThoseOfTheCLibraryForRandomTexts) {
   }
 }
 
+TEST(ParsedNumbers, AreThoseOfTheCLibraryForDecimalsOfAnyLength) {
+  std::mt19937 random(15);
+  for (int i = 0; i < kRandomTexts; ++i) {
+    std::string text(random() % 20, '0');
+    for (char& digit : text) digit = static_cast<char>('0' + random() % 10);
+    for (std::size_t points = random() % 3; points > 0; --points)
+      text.insert(random() % (text.size() + 1), ".");
+    ASSERT_EQ(ParseDouble(text), CLibraryDouble(text)) << text;
+  }
+}
+
 TEST(ParsedNumbers, AreThoseOfTheCLibraryForLongTextsWithExponents) {
   std::mt19937 random(12);
   for (int i = 0; i < 20'000; ++i) {

@@ -345,6 +345,8 @@ void ExpectAsTheReferenceReads(const std::string& text) {
   for (std::size_t row = 0; row < expected.size(); ++row) {
     for (std::size_t column = 0; column < expected[row].size(); ++column) {
       ASSERT_TRUE(table.CellEquals(row, column, expected[row][column])) << testing::PrintToString(text);
+      std::string memory;
+      ASSERT_EQ(table.CellText(row, column, memory), expected[row][column]) << testing::PrintToString(text);
     }
   }
 }
@@ -404,6 +406,20 @@ TEST(TableAgainstTheReference, ReadsLongTextsAlikeWhereverTheirCellsEnd) {
     const std::string text = RandomText(random, "\",\n\rabcdefghijklmnopqrstuvwxyz\xB1\xEA", 300);
     ExpectAsTheReferenceReads(text);
     ExpectColumnsAsTheReferenceReads(text);
+  }
+}
+
+TEST(TableAgainstTheReference, ReadsQuotedCellsAlikeWhereverTheirQuotesStand) {
+  std::mt19937 random(64);
+  for (int i = 0; i < 20'000 && !testing::Test::HasFatalFailure(); ++i) {
+    std::string text;
+    while (text.size() < 200) {
+      const std::string inside(random() % 12, 'x');
+      for (const char* piece : {"\"", inside.c_str(), ",\n\"\"", "\"", ","}) {
+        if (random() % 5 > 0) text += piece;
+      }
+    }
+    ExpectAsTheReferenceReads(text);
   }
 }
 

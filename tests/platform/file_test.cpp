@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "support/failing_files.h"
 #include "support/temporary_folder.h"
 
 namespace plateconfig::test {
@@ -41,6 +42,23 @@ TEST_F(HostFile, OfAnySizeIsReadWhole) {
     bytes.back() = 'y';
     EXPECT_EQ(ReadBack(bytes), bytes) << size;
   }
+}
+
+TEST_F(HostFile, ThatGrowsBeforeItIsReadIsReadWhole) {
+  const std::string longer(100'000, 'y');
+  const std::string path = folder_.WriteBytes("file", "x");
+  const BeforeEach grow(FileOperation::kRead, [&] { folder_.WriteBytes("file", longer); });
+  const auto bytes = ReadWholeFile(path);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(bytes->View(), longer);
+}
+
+TEST_F(HostFile, ThatShrinksBeforeItIsReadIsWhatIsLeft) {
+  const std::string path = folder_.WriteBytes("file", "longer");
+  const BeforeEach shrink(FileOperation::kRead, [&] { folder_.WriteBytes("file", "x"); });
+  const auto bytes = ReadWholeFile(path);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(bytes->View(), "x");
 }
 
 TEST_F(HostFile, ThatIsMissingGivesNothing) {

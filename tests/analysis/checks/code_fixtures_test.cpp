@@ -301,6 +301,21 @@ TEST(ListValues, ThatAreIgnoredAreToldWhatToWrite) {
   EXPECT_EQ(AdviceOf(layer[0], Language::kChinese), "请写 1 到 256 的整数");
 }
 
+TEST(ConditionParameters, AColorThatNoPlateHasIsToldInItsCell) {
+  const auto found =
+      FindingsNamed("color-out-of-range", Role::kProcessRules, With("圆孔颜色,36", "圆孔颜色,217_36_0_216"));
+  ASSERT_EQ(found.size(), 2u);
+  EXPECT_EQ(found[0].cell, "E3");
+  EXPECT_EQ(found[0].text, "217");
+  EXPECT_EQ(found[1].cell, "E3");
+  EXPECT_EQ(found[1].text, "0");
+}
+
+TEST(ConditionParameters, AreNoColorsWhereTheConditionIsAboutDiameters) {
+  const std::string diameters = With("圆孔颜色,36", "圆孔直径,217");
+  EXPECT_THAT(FindingsNamed("color-out-of-range", Role::kProcessRules, diameters), IsEmpty());
+}
+
 TEST(RowLists, RowsCountDownToTheLastFilledCellOfTheirBoundingColumn) {
   const auto found = FindingsNamed("row-skipped", Role::kLayoutDefaults,
                                    "表头-X位置比例,表头-显示名称\n0.1,序号\n,名称\n0.3,规格\n,备注\n");

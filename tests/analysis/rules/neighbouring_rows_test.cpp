@@ -99,6 +99,18 @@ TEST(SharedBound, RowsThatAreNotKnownToTakePlatesTakeNoPart) {
   EXPECT_THAT(FindSharedBounds(scene.model, scene.space, masked).bounds, IsEmpty());
 }
 
+// The tables are changed behind the back of the analysis, which stands for a mistake of its own.
+TEST(SharedBound, WhatTheEvaluationDoesNotConfirmIsToldApart) {
+  Scene scene({{.length = "0_100", .drilling = "a"}, {.length = "100_200", .drilling = "b"}});
+  const MaskedRows masked = FindMaskedRows(scene.model, scene.space);
+  scene.tables.ruleRows.clear();
+  const SharedBounds found = FindSharedBounds(scene.model, scene.space, masked);
+  EXPECT_THAT(found.bounds, IsEmpty());
+  ASSERT_THAT(found.unconfirmed, SizeIs(1));
+  EXPECT_EQ(found.unconfirmed[0].row, 3);
+  EXPECT_EQ(found.unconfirmed[0].witness.length, 100);
+}
+
 // ---- mergeable rows ----
 
 std::vector<MergeableRow> Mergeable(const std::vector<Row>& rows, const Lists& lists = {}) {

@@ -54,6 +54,11 @@ TEST(RuleRegions, RowsThatOnlyMovedOrChangedNothingAreNoDifference) {
   EXPECT_THAT(Compare({a, b}, {b, a}).regions, IsEmpty());
   EXPECT_THAT(Compare({a, b}, {{.layer = ""}, a, b}).regions, IsEmpty());
   EXPECT_THAT(Compare({a, b}, {a, shadowed, b}).regions, IsEmpty());
+  // Rows one within the other that write the same.
+  const Row within{.length = "0_50", .drilling = "a"};
+  const Row innermost{.length = "0_20", .drilling = "a"};
+  EXPECT_THAT(Compare({a}, {within, a}).regions, IsEmpty());
+  EXPECT_THAT(Compare({a}, {innermost, within, a}).regions, IsEmpty());
   EXPECT_THAT(
       Compare({a}, {{.length = "0_50", .drilling = "a"}, {.length = "50_100", .drilling = "a"}}).regions,
       IsEmpty());

@@ -47,6 +47,12 @@ TEST(FoldedNameWithoutUnit, ABracketAtTheEndIsAUnit) {
   EXPECT_EQ(FoldedNameWithoutUnit("长度"), "长度");
 }
 
+TEST(MeantYes, IsAnAnswerInEitherLanguageAndAnyWidth) {
+  for (const char* yes : {"Y", "ｙ", "yes", "YES", " 是 "}) EXPECT_EQ(MeantYes(yes), true) << yes;
+  for (const char* no : {"N", "ｎ", "no", "NO", " 否 "}) EXPECT_EQ(MeantYes(no), false) << no;
+  for (const char* neither : {"", "1", "不是", "yn"}) EXPECT_EQ(MeantYes(neither), std::nullopt) << neither;
+}
+
 TEST(WithoutOuterBlanks, TakesEveryKindOfBlankOffBothEnds) {
   EXPECT_EQ(WithoutOuterBlanks(" \t甲 乙\u3000\r\n"), "甲 乙");
   EXPECT_EQ(WithoutOuterBlanks("\u00A0甲\uFEFF"), "甲");

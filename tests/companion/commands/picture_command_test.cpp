@@ -296,6 +296,153 @@ TEST_F(PictureCommand, HolesWantAFileOfThem) {
   EXPECT_THAT(missing.err, EndsWith("there is no such file\n"));
 }
 
+// ---- sheet ----
+
+class SheetCommand : public PictureCommand {
+ protected:
+  SheetCommand() {
+    folder_.WriteBytes("tables.json", R"({"layout-defaults": "布局.csv", "frame-info": "图框.csv"})");
+    folder_.WriteTable("布局.csv",
+                       "图框的颜色,图框的图层,俯视图左上角交点X坐标所占图纸长度的比例,"
+                       "俯视图左上角交点Y坐标所占图纸高度的比例,"
+                       "表头-X位置比例,表头-Y位置比例,表头-显示名称,表头-属性名称,表头-文字样式,"
+                       "基准圆的标准直径,加工要求左上角交点X坐标所占图纸长度的比例-小图\n"
+                       "7,230,0.25,0.75,0.5,0.125,序号,NO,宋体|5|1|1|1|1,12,0.125\n");
+    folder_.WriteTable("图框.csv", "图框信息-左边距,图框信息-顶边距,图框信息-属性名称\n0.5,0.25,MOLD\n");
+  }
+
+  Json Sheet(std::vector<std::string> options = {}) const {
+    std::vector<std::string> arguments = {"sheet", "--config", Path("")};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return Drawn(arguments);
+  }
+
+  Json Key(const std::string& column, const std::string& cell, const std::string& value) const {
+    return {{"role", "layout-defaults"},
+            {"column", column},
+            {"file", Path("布局.csv")},
+            {"cell", cell},
+            {"value", value},
+            {"source", "table"}};
+  }
+
+  /// The first entry of a list whose label is this in Chinese.
+  static Json Named(const Json& list, const std::string& member, const std::string& name) {
+    for (const Json& entry : list) {
+      if (entry[member]["zh"] == name) return entry;
+    }
+    ADD_FAILURE() << name;
+    return {};
+  }
+};
+
+TEST_F(SheetCommand, PartsStandInMillimetresWithTheirCells) {
+  const Json json = Sheet({"--paper", "400x200"});
+  EXPECT_EQ(json["paper"], Json({{"width", 400.0}, {"height", 200.0}, {"given", true}}));
+  EXPECT_EQ(json["size"], "large");
+  ASSERT_EQ(json["sheets"].size(), 3U);
+  const Json& sheet = json["sheets"][0];
+  EXPECT_EQ(sheet["name"], "layout-defaults");
+  EXPECT_EQ(sheet["title"], Json({{"zh", "布局默认值"}, {"en", "layout defaults"}}));
+  EXPECT_EQ(sheet["width"], 400);
+  EXPECT_EQ(sheet["height"], 200);
+  EXPECT_EQ(sheet["parts"][0],
+            Json({{"kind", "rectangle"},
+                  {"x", 0},
+                  {"y", 0},
+                  {"width", 400},
+                  {"height", 200},
+                  {"color", 7},
+                  {"layer", 230},
+                  {"label", {{"zh", "图框"}, {"en", "frame"}}},
+                  {"assumes", {"paper", "frame"}},
+                  {"keys", {Key("图框的颜色", "A2", "7"), Key("图框的图层", "B2", "230")}}}));
+  const Json corner = sheet["parts"][1];
+  EXPECT_EQ(corner["kind"], "point");
+  EXPECT_EQ(corner["x"], 100);
+  EXPECT_EQ(corner["y"], 150);
+  EXPECT_EQ(corner["anchor"], "top-left");
+  EXPECT_EQ(corner["color"], nullptr);
+  const Json column = Named(sheet["parts"], "label", "材料表表头的一列");
+  EXPECT_EQ(column["kind"], "text");
+  EXPECT_EQ(column["x"], 200);
+  EXPECT_EQ(column["y"], 25);
+  EXPECT_EQ(column["anchor"], nullptr);
+  EXPECT_EQ(column["text"], "序号");
+  EXPECT_EQ(column["attribute"], "NO");
+  EXPECT_EQ(column["textHeight"], 5);
+  EXPECT_EQ(column["font"], "宋体");
+  EXPECT_EQ(column["layer"], 1);
+  EXPECT_EQ(column["keys"].back()["source"], "absent column");
+  EXPECT_EQ(column["keys"].back()["cell"], nullptr);
+  const Json text = Named(json["sheets"][2]["parts"], "label", "图框信息");
+  EXPECT_EQ(text["text"], nullptr);
+  EXPECT_EQ(text["attribute"], "MOLD");
+  EXPECT_EQ(text["y"], 150);
+}
+
+TEST_F(SheetCommand, WhatHasNoPlaceSaysWhyAndShowsASpecimen) {
+  const Json json = Sheet();
+  EXPECT_EQ(json["paper"], Json({{"width", 420.0}, {"height", 297.0}, {"given", false}}));
+  const Json& unknown = json["sheets"][0]["unknown"];
+  const Json circle = Named(unknown, "what", "爆炸图基准圆");
+  EXPECT_EQ(circle["why"]["en"], "no table says where on the sheet it is drawn");
+  EXPECT_EQ(circle["specimen"], Json({{"kind", "circle"}, {"diameter", 12}, {"color", 1}, {"layer", 1}}));
+  EXPECT_EQ(circle["keys"][0], Key("基准圆的标准直径", "J2", "12"));
+  EXPECT_EQ(Named(unknown, "what", "图层间距")["specimen"],
+            Json({{"kind", "length"}, {"length", 5000}, {"color", nullptr}, {"layer", nullptr}}));
+  EXPECT_EQ(Named(unknown, "what", "视图外框")["specimen"],
+            Json({{"kind", "line"}, {"color", 1}, {"layer", nullptr}}));
+  EXPECT_EQ(Named(unknown, "what", "全部视图合起来的范围")["specimen"]["width"], 336);
+  const Json& custom = json["sheets"][1]["unknown"];
+  EXPECT_EQ(Named(custom, "what", "特征代号")["specimen"]["textHeight"], 3);
+  EXPECT_EQ(Named(custom, "what", "外形注解")["specimen"], nullptr);
+  EXPECT_EQ(Named(custom, "what", "代号文字")["keys"][0]["source"], "class");
+  EXPECT_EQ(Named(custom, "what", "代号文字")["keys"][0]["file"], nullptr);
+}
+
+TEST_F(SheetCommand, SmallSheetsHaveTheirOwnPlaces) {
+  const Json json = Sheet({"--size", "small", "--paper", "400x200"});
+  EXPECT_EQ(json["size"], "small");
+  EXPECT_EQ(Named(json["sheets"][0]["parts"], "label", "加工要求")["x"], 50);
+}
+
+TEST_F(SheetCommand, WhatIsAssumedIsSaidInBothLanguages) {
+  const Json assumed = Sheet()["assumed"];
+  ASSERT_EQ(assumed.size(), 8U);
+  EXPECT_EQ(assumed[0],
+            Json({{"id", "paper"},
+                  {"text", {{"zh", "各表中没有纸张的大小"}, {"en", "no table has the size of the paper"}}}}));
+}
+
+TEST_F(SheetCommand, AFolderThatCanNotBeUsedGivesNoSheet) {
+  const auto none = Picture({"sheet", "--config", Path("fehlt")});
+  EXPECT_EQ(none.exitCode, 2);
+  EXPECT_THAT(none.out, IsEmpty());
+}
+
+TEST_F(SheetCommand, ATableThatIsMissingIsReportedAndTheSheetDrawnWithoutIt) {
+  folder_.WriteBytes("tables.json", R"({"layout-defaults": "fehlt.csv"})");
+  const auto result = Picture({"sheet", "--config", Path("")});
+  EXPECT_THAT(result.err, HasSubstr("fehlt.csv"));
+  EXPECT_EQ(Json::parse(result.out)["sheets"].size(), 3U);
+}
+
+TEST_F(SheetCommand, ATableCanStandInForTheFoldersOwn) {
+  folder_.WriteTable("neu.csv", "俯视图左上角交点X坐标所占图纸长度的比例\n0.5\n");
+  const Json json = Sheet({"--layout-defaults", Path("neu.csv"), "--paper", "400x200"});
+  EXPECT_EQ(json["sheets"][0]["parts"][1]["x"], 200);
+  EXPECT_EQ(json["sheets"][0]["parts"][1]["keys"][0]["file"], Path("neu.csv"));
+  EXPECT_EQ(Named(json["sheets"][2]["parts"], "label", "图框信息")["attribute"], "MOLD");
+}
+
+TEST_F(SheetCommand, PaperIsTwoNumbersAboveZero) {
+  for (const char* paper : {"a4", "420", "420x", "x297", "0x297", "420x0", "420x297x1", "-1x2"})
+    ExpectRefused({"sheet", "--paper", paper},
+                  "--paper: \"" + std::string(paper) + "\" is no paper size in mm; write it like 420x297",
+                  "--paper: “" + std::string(paper) + "”不是以毫米计的纸张尺寸；请写成 420x297 这样的形式");
+}
+
 TEST_F(PictureCommand, APictureGoesIntoAFile) {
   folder_.WriteTable("a.csv", "a\n");
   const auto result = Picture({"cells", Path("a.csv"), "-o", Path("a.json")});

@@ -57,17 +57,13 @@ void WriteText(Role role, const std::optional<TableFile>& file, const std::vecto
   out << "\n";
 }
 
-const char* JsonName(Source source) {
-  return source == Source::kTable ? "table" : source == Source::kAbsent ? "absent column" : "class";
-}
-
 Json ToJson(Role role, const std::optional<TableFile>& file, const Setting& setting) {
   return {{"role", NameOf(role)},
           {"file", file ? Json(file->shownAs) : nullptr},
           {"column", GbkToUtf8(setting.schema.column)},
           {"value", SettingToJson(setting.schema, setting.value)},
           {"unit", WordsOf(setting.schema.unit).english},
-          {"source", JsonName(setting.source)},
+          {"source", NameOf(setting.source)},
           {"help", InWords(setting.schema.help)}};
 }
 

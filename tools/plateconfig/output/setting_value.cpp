@@ -31,6 +31,18 @@ Json CellToJson(CellType type, const std::string& cell) {
 
 }  // namespace
 
+const char* NameOf(Source source) {
+  switch (source) {
+    case Source::kTable:
+      return "table";
+    case Source::kAbsent:
+      return "absent column";
+    case Source::kClass:
+      break;
+  }
+  return "class";
+}
+
 Json SettingToJson(const ColumnSchema& column, const Cells& value) {
   if (!HasManyValues(column)) return CellToJson(column.type, value.front());
   Json values = Json::array();

@@ -8,15 +8,10 @@
 #include <vector>
 
 #include "analysis/pictures/rule_map.h"
+#include "analysis/pictures/sheet_builder.h"
 #include "plateconfig/tables/configuration.h"
 
 namespace plateconfig {
-
-/// mm.
-struct PaperSize {
-  double width = 0;
-  double height = 0;
-};
 
 struct PictureJob {
   std::string kind;                ///< One of `kPictureKinds`.

@@ -24,6 +24,7 @@ constexpr PictureKind kKinds[] = {
     {picture_kinds::kCells, WriteCells},
     {picture_kinds::kMap, WriteMap},
     {picture_kinds::kHoles, WriteHoles},
+    {picture_kinds::kSheet, WriteSheet},
 };
 
 /// What each picture takes; the others would ignore it, which is refused.
@@ -117,6 +118,15 @@ CLI::Validator IsFixedSize() {
   return CLI::Validator(check, "");
 }
 
+CLI::Validator IsPaper() {
+  const auto check = [](std::string& text) {
+    return PaperSizeOf(text) ? std::string()
+                             : Say("\"{}\" is no paper size in mm; write it like 420x297",
+                                   "“{}”不是以毫米计的纸张尺寸；请写成 420x297 这样的形式", text);
+  };
+  return CLI::Validator(check, "");
+}
+
 CLI::Validator IsColor() {
   const auto check = [](std::string& text) {
     return StrictInteger(text) ? std::string() : Say("\"{}\" is no colour index", "“{}”不是颜色号", text);
@@ -154,15 +164,29 @@ void AddMapOptions(CLI::App& command, PictureJob& job) {
   }
 }
 
+void AddSheetOptions(CLI::App& command, PictureJob& job) {
+  command
+      .add_option("--size", job.sheetSize,
+                  Say("sheet: places of small or large sheets", "图纸：小图或大图的位置"))
+      ->type_name("small|large")
+      ->check(OneOf({"small", "large"}));
+  command
+      .add_option(
+          "--paper", job.paper,
+          Say("sheet: width and height in mm, which no table says", "图纸：以毫米计的宽和高，各表中没有"))
+      ->type_name("420x297")
+      ->check(IsPaper());
+}
+
 }  // namespace
 
 Run PictureOptions(CLI::App& command) {
   const auto job = std::make_shared<PictureJob>();
   command
       .add_option("picture", job->kind,
-                  Say("cells of a table, map of the rules, holes in section",
-                      "cells：表的单元格；map：规则图；holes：孔的剖面"))
-      ->type_name("cells|map|holes")
+                  Say("cells of a table, map of the rules, holes in section, drawing sheet",
+                      "cells：表的单元格；map：规则图；holes：孔的剖面；sheet：图纸"))
+      ->type_name("cells|map|holes|sheet")
       ->check(OneOf(KindNames()))
       ->required();
   command
@@ -176,6 +200,7 @@ Run PictureOptions(CLI::App& command) {
       ->type_name(Say("FILE", "文件"))
       ->check(NotEmpty())
       ->allow_extra_args(false);
+  AddSheetOptions(command, *job);
   return WithOutput(command, [job, &command](Context& context) { RunPicture(*job, command, context); });
 }
 

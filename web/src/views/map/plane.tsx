@@ -138,7 +138,7 @@ export function MapPicture(props: MapPictureProps) {
       viewBox={`0 0 ${width} ${height}`}
       role="application"
       aria-label={description}
-      tabIndex={0}
+      tabindex={0}
       {...handlers}
     >
       <defs>
