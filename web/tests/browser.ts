@@ -12,8 +12,13 @@ import { type Browser, type BrowserContext, chromium, type Page } from "playwrig
 export const samples = resolve("../samples");
 export const screenshots = resolve("../build/page/screenshots");
 const given = process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html";
-const isServed = given.startsWith("http");
+export const isServed = given.startsWith("http");
 const address = isServed ? given : pathToFileURL(resolve(given)).href;
+
+/** The page's own text. */
+export async function readPage(): Promise<string> {
+  return isServed ? (await fetch(address)).text() : readFileSync(resolve(given), "utf8");
+}
 
 export type Language = "zh" | "en";
 export const languages: readonly Language[] = ["zh", "en"];
