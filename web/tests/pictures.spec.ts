@@ -119,6 +119,10 @@ test("The steps go through the gaps of the check, each with its example in the p
   assert.match(await text(page, ".map-new-row"), /长度范围\s*50_99\.999/);
   await page.waitForFunction(() => document.querySelector(".map-readout")?.textContent?.includes("空缺"));
   assert.match(await text(page, ".map-readout"), /长度 80\s+宽度 600\s+空缺/);
+  await page.click("text=试这块板");
+  await page.waitForSelector(".process-text .status-no-row");
+  assert.equal(await page.inputValue("#plate-length"), "80");
+  assert.equal(await page.inputValue("#plate-thickness"), "200");
   await closePage(open);
 });
 
