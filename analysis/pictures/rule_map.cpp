@@ -11,7 +11,7 @@
 namespace plateconfig {
 namespace {
 
-using Rows = std::vector<const ModelRow*>;
+using Rows = MapRows;
 
 /// Shown of a size in which no row has a bound: most plates are smaller.
 constexpr double kUsualSize = 1000;
@@ -36,12 +36,6 @@ std::vector<double> StatedBounds(const Rows& rows, std::size_t size) {
     }
   }
   return {bounds.begin(), bounds.end()};
-}
-
-MapSize SizeOf(const Rows& rows, std::size_t size) {
-  MapSize shown{{0, kUsualSize}, StatedBounds(rows, size)};
-  if (!shown.bounds.empty()) shown.shown.high = shown.bounds.back() + shown.bounds.back() / kShareBeyond;
-  return shown;
 }
 
 /// The first interval of values that most of the rows accept.
@@ -78,14 +72,6 @@ std::optional<std::size_t> GroupOf(const PlateSpace& space, std::size_t bodyClas
   });
   if (found == groups.end()) return std::nullopt;
   return static_cast<std::size_t>(found - groups.begin());
-}
-
-std::size_t ClassOf(const PlateSpace& space, int color) {
-  const auto& classes = space.BodyClasses();
-  const auto found = std::find_if(classes.begin(), classes.end(), [&](const ColorClass& each) {
-    return std::binary_search(each.colors.begin(), each.colors.end(), color);
-  });
-  return found == classes.end() ? 0 : static_cast<std::size_t>(found - classes.begin());
 }
 
 /// The first class for whose plates most rows are.
@@ -127,7 +113,7 @@ class MapDrawing {
       : model_(model), space_(space), question_(question), work_(question.work) {}
 
   RuleMap Draw() {
-    const std::size_t bodyClass = question_.bodyColor ? ClassOf(space_, *question_.bodyColor)
+    const std::size_t bodyClass = question_.bodyColor ? space_.ClassOf(*question_.bodyColor)
                                                       : ClassOfMostRows(model_, space_, question_.answers);
     map_.bodyColor = question_.bodyColor.value_or(space_.BodyColor(bodyClass));
     map_.group = {space_.BodyClasses()[bodyClass].colors, question_.answers};
@@ -146,7 +132,7 @@ class MapDrawing {
  private:
   void TakeSizes(const Rows& rows) {
     for (std::size_t size = 0; size < kSizeCount; ++size) {
-      map_.sizes[size] = SizeOf(rows, size);
+      map_.sizes[size] = MapSizeOf(rows, size);
       map_.fixed[size] = question_.fixed[size].value_or(RoundNumber(MostAccepted(rows, size)));
       picture_[size] = {map_.fixed[size], map_.fixed[size]};
     }
@@ -222,6 +208,12 @@ class MapDrawing {
 };
 
 }  // namespace
+
+MapSize MapSizeOf(const MapRows& rows, std::size_t size) {
+  MapSize shown{{0, kUsualSize}, StatedBounds(rows, size)};
+  if (!shown.bounds.empty()) shown.shown.high = shown.bounds.back() + shown.bounds.back() / kShareBeyond;
+  return shown;
+}
 
 RuleMap DrawRuleMap(const RuleModel& model, const PlateSpace& space, const MapQuestion& question) {
   return MapDrawing(model, space, question).Draw();

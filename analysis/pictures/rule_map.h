@@ -64,6 +64,10 @@ struct MapSize {
   std::vector<double> bounds;  ///< What rows of the group state, ascending; without 0 and "no bound".
 };
 
+using MapRows = std::vector<const ModelRow*>;
+
+MapSize MapSizeOf(const MapRows& rows, std::size_t size);
+
 /// Plates of the body colours that the rules do not tell apart.
 struct ColorChoice {
   std::vector<int> colors;  ///< Empty stands for every colour that no list has.

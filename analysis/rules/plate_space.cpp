@@ -189,6 +189,14 @@ bool PlateSpace::AnswersAgree() const {
                      [](const PlateGroup& group) { return group.Answers(0) == group.Answers(1); });
 }
 
+std::size_t PlateSpace::ClassOf(int bodyColor) const {
+  const auto found = std::find_if(bodyClasses_.begin(), bodyClasses_.end(), [&](const ColorClass& each) {
+    return std::binary_search(each.colors.begin(), each.colors.end(), bodyColor);
+  });
+  // The first class is of the colours that no list has.
+  return found == bodyClasses_.end() ? 0 : static_cast<std::size_t>(found - bodyClasses_.begin());
+}
+
 int PlateSpace::BodyColor(std::size_t bodyClass) const {
   const std::vector<int>& colors = bodyClasses_[bodyClass].colors;
   if (!colors.empty()) return colors.front();

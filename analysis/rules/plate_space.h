@@ -103,6 +103,8 @@ class PlateSpace {
   /// Whether both tables always give the same answers about faces.
   bool AnswersAgree() const;
 
+  /// The place in `BodyClasses` of the class of a colour.
+  std::size_t ClassOf(int bodyColor) const;
   /// A colour of the class, such as a plate would have.
   int BodyColor(std::size_t bodyClass) const;
   /// Few face colours that together give a group's answers, ascending.

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "support/companion.h"
@@ -103,11 +105,21 @@ TEST_F(PictureCommand, CellsWantOneFileThatCanBeRead) {
 
 // ---- options ----
 
-TEST_F(PictureCommand, AnOptionOfAnotherPictureIsRefused) {
-  ExpectRefused({"cells", "a", "--x", "length"}, "picture cells takes no --x; picture map does",
-                "picture cells 没有选项 --x；picture map 才有");
-  ExpectRefused({"map", "--types", "a"}, "picture map takes no --types; picture holes does",
-                "picture map 没有选项 --types；picture holes 才有");
+TEST_F(PictureCommand, AnOptionOrAFileOfAnotherPictureIsRefused) {
+  const auto expectRefused = [](const std::vector<std::string>& arguments, const std::string& what) {
+    ExpectRefused(arguments, "picture " + arguments[0] + " takes no " + what,
+                  "picture " + arguments[0] + " 不接受 " + what);
+  };
+  expectRefused({"cells", "a", "--x", "length"}, "--x");
+  expectRefused({"cells", "a", "--config", "b"}, "--config");
+  expectRefused({"map", "--types", "a"}, "--types");
+  expectRefused({"changes", "a", "b", "--config", "c"}, "--config");
+  expectRefused({"holes", "a", "--paper", "1x1"}, "--paper");
+  expectRefused({"sheet", "--profile"}, "--profile");
+  ExpectRefused({"map", "a.csv"}, "picture map takes no file such as a.csv",
+                "picture map 不接受 a.csv 这样的文件");
+  ExpectRefused({"sheet", "a.csv"}, "picture sheet takes no file such as a.csv",
+                "picture sheet 不接受 a.csv 这样的文件");
 }
 
 TEST_F(PictureCommand, ValuesThatAreNoneAreRefusedWithAnExample) {
@@ -238,6 +250,74 @@ TEST_F(MapCommand, ATableInAnotherFormIsReported) {
   const auto result = Picture({"map", "--config", Path(""), "--x", "length", "--y", "width"});
   EXPECT_THAT(result.err, HasSubstr("UTF-8"));
   EXPECT_EQ(Json::parse(result.out)["regions"], Json::array());
+}
+
+// ---- changes ----
+
+class ChangesCommand : public PictureCommand {
+ protected:
+  static constexpr const char* kHeader =
+      "通用要求,通用参数,排工艺顺序,排顺序工艺类型,模板所在图层,长度范围,宽度范围,下料\n";
+
+  void Write(const std::string& folder, const std::string& rows) const {
+    folder_.WriteBytes(folder + "/tables.json", R"({"process-rules": "规则.csv"})");
+    folder_.WriteTable(folder + "/规则.csv", kHeader + rows);
+  }
+
+  std::vector<std::string> Arguments(std::vector<std::string> options) const {
+    std::vector<std::string> arguments = {"changes", Path("old"), Path("new"), "--x",
+                                          "length",  "--y",       "width"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return arguments;
+  }
+};
+
+TEST_F(ChangesCommand, ABoxHasTheRowsOfBothTables) {
+  Write("old", ",,下料,自定义追加工艺,12,100_500,100_400,锯\n");
+  Write("new", ",,下料,自定义追加工艺,12,100_300,100_400,铣\n,,,,13,301_500,100_400,锯\n");
+  const Json json = Drawn(Arguments({"--fixed", "thickness=30,weight=8"}));
+  EXPECT_EQ(json["x"], Json({{"size", "length"}, {"from", 0.0}, {"to", 550.0}}));
+  EXPECT_EQ(json["y"], Json({{"size", "width"}, {"from", 0.0}, {"to", 440.0}}));
+  EXPECT_EQ(json["plate"], Json({{"bodyColor", 1}, {"profile", false}, {"wireCutting", false}}));
+  EXPECT_EQ(json["fixed"], Json({{"thickness", 30.0}, {"weight", 8.0}}));
+  EXPECT_EQ(json["sizes"]["length"], Json({{"shown", {0.0, 550.0}}, {"bounds", {100, 300, 301, 500}}}));
+  EXPECT_EQ(json["answersAgree"], true);
+  EXPECT_EQ(json["complete"], true);
+  Json regions = Boxes(
+      {{100, 300.001, 100, 400.001}, {std::nextafter(300.001, 400), std::nextafter(301, 0), 100, 400.001}});
+  regions[0].update({{"oldRow", 2}, {"newRow", 2}});
+  regions[1].update({{"oldRow", 2}, {"newRow", nullptr}});
+  EXPECT_EQ(json["regions"], regions);
+  ASSERT_EQ(json["groups"].size(), 1U);
+  EXPECT_EQ(json["groups"][0]["regions"], 2);
+  EXPECT_EQ(json["groups"][0]["colors"], Json::array());
+  EXPECT_EQ(json["groups"][0]["example"]["length"], 200);
+}
+
+TEST_F(ChangesCommand, WhereAnswersDifferEachBoxTellsItsGroup) {
+  Write("old", "有型面,190,下料,自定义追加工艺,12,100_500,100_400,锯\n");
+  Write("new", "有型面,191,下料,自定义追加工艺,12,100_500,100_400,铣\n");
+  const Json json = Drawn(Arguments({}));
+  EXPECT_EQ(json["answersAgree"], false);
+  ASSERT_EQ(json["regions"].size(), 2U);  // With and without the old table's profile.
+  EXPECT_EQ(json["regions"][0]["group"]["newProfile"], false);
+  EXPECT_NE(json["regions"][0]["group"]["oldProfile"], json["regions"][1]["group"]["oldProfile"]);
+}
+
+TEST_F(ChangesCommand, TwoFoldersAreWanted) {
+  for (const std::vector<std::string>& folders : {std::vector<std::string>{}, {"a"}, {"a", "b", "c"}}) {
+    std::vector<std::string> arguments = {"changes"};
+    arguments.insert(arguments.end(), folders.begin(), folders.end());
+    ExpectRefused(arguments, "give two configuration folders, the old one and the new one",
+                  "请给出两个配置文件夹：先旧后新");
+  }
+  ExpectRefused({"changes", "a", "b"}, "a map spans two sizes: give --x SIZE and --y SIZE",
+                "规则图由两个尺寸展开：请给出 --x 尺寸 和 --y 尺寸");
+  Write("old", "");
+  const auto missing = Picture(Arguments({}));
+  EXPECT_EQ(missing.exitCode, 2);
+  EXPECT_THAT(missing.out, IsEmpty());
+  EXPECT_THAT(missing.err, HasSubstr("this configuration folder does not exist"));
 }
 
 // ---- holes ----

@@ -1,38 +1,19 @@
 // The rule map: see analysis/pictures/rule_map.h for what is computed.
 
-#include <cmath>
-#include <memory>
 #include <nlohmann/json.hpp>
 
 #include "analysis/checks/rule_values.h"
-#include "analysis/checks/table_check.h"
 #include "analysis/pictures/rule_map.h"
 #include "plateconfig/output/findings_json.h"
 #include "plateconfig/output/json_output.h"
+#include "plateconfig/pictures/map_json.h"
 #include "plateconfig/pictures/pictures.h"
-#include "plateconfig/tables/reported_table.h"
 #include "text/gbk.h"
 
 namespace plateconfig {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-const char* NameOfSize(std::size_t size) {
-  return NameOf(kSizeConditions[size].condition);
-}
-
-Json EndOf(double bound) {
-  return std::isinf(bound) ? Json(nullptr) : Json(bound);
-}
-
-Json ToJson(const Interval& interval) {
-  return {EndOf(interval.low), EndOf(interval.high)};
-}
-
-Json ToJson(const FlatBox& box) {
-  return {{"x", ToJson(box.x)}, {"y", ToJson(box.y)}};
-}
 
 Json ToJson(const HiddenBox& hidden) {
   Json json = ToJson(hidden.box);
@@ -42,10 +23,6 @@ Json ToJson(const HiddenBox& hidden) {
 
 Json ToJson(const ColorChoice& choice) {
   return {{"colors", choice.colors}, {"example", choice.example}};
-}
-
-Json ToJson(const FaceAnswers& answers) {
-  return {{"profile", answers.profile}, {"wireCutting", answers.wireCutting}};
 }
 
 template <typename Item>
@@ -64,19 +41,6 @@ Json ToJson(const MapRegion& region, const TableText& text) {
           {"hidden", ListOf(region.hidden)}};
 }
 
-Json AxisToJson(const RuleMap& map, std::size_t size) {
-  const Interval& shown = map.sizes[size].shown;
-  return {{"size", NameOfSize(size)}, {"from", shown.low}, {"to", shown.high}};
-}
-
-Json FixedToJson(const RuleMap& map, const MapQuestion& question) {
-  Json fixed;
-  for (std::size_t size = 0; size < kSizeCount; ++size) {
-    if (size != question.x && size != question.y) fixed[NameOfSize(size)] = map.fixed[size];
-  }
-  return fixed;
-}
-
 Json SizesToJson(const RuleMap& map) {
   Json sizes;
   for (std::size_t size = 0; size < kSizeCount; ++size) {
@@ -91,12 +55,10 @@ Json SizesToJson(const RuleMap& map) {
 Json ToJson(const RuleMap& map, const MapQuestion& question, const TableText& text) {
   Json regions = Json::array();
   for (const MapRegion& region : map.regions) regions.push_back(ToJson(region, text));
-  Json plate = {{"bodyColor", map.bodyColor}};
-  plate.update(ToJson(map.group.answers));
-  return {{"x", AxisToJson(map, question.x)},
-          {"y", AxisToJson(map, question.y)},
-          {"plate", plate},
-          {"fixed", FixedToJson(map, question)},
+  return {{"x", AxisToJson(map.sizes, question.x)},
+          {"y", AxisToJson(map.sizes, question.y)},
+          {"plate", PlateToJson(map.bodyColor, map.group.answers)},
+          {"fixed", FixedToJson(map.fixed, question)},
           {"possible", map.isPossible},
           {"group", ToJson(GroupValue(map.group))},
           {"choices", {{"colors", ListOf(map.colorChoices)}, {"answers", ListOf(map.answerChoices)}}},
@@ -107,23 +69,12 @@ Json ToJson(const RuleMap& map, const MapQuestion& question, const TableText& te
           {"complete", map.isComplete}};
 }
 
-/// The rule table. Nothing when it can not be read; what is wrong with the file as a whole is reported.
-std::optional<GivenTable> RuleTable(const ConfigurationOptions& options, Reporter& reporter) {
-  Configuration configuration(options, reporter);
-  const auto file = configuration.Find(Role::kProcessRules);
-  if (!file) return std::nullopt;
-  GivenTable given = GivenFrom(Role::kProcessRules, *file);
-  ReportFile(given, reporter);
-  if (!given.table) return std::nullopt;
-  return given;
-}
-
 }  // namespace
 
 void WriteMap(const PictureJob& job, const Streams& streams, Reporter& reporter) {
   const auto question = QuestionOf(job, reporter);
   if (!question) return;
-  const auto given = RuleTable(job.configuration, reporter);
+  const auto given = RuleTableOf(job.configuration, reporter);
   if (!given) return;
   const RuleTables tables = LoadRuleTables(ReaderOf(*given), ReadConfigFile());
   const RuleModel model = MakeRuleModel(tables);

@@ -15,7 +15,7 @@ namespace plateconfig {
 
 struct PictureJob {
   std::string kind;                ///< One of `kPictureKinds`.
-  std::vector<std::string> files;  ///< Of cells the table, of holes the holes.
+  std::vector<std::string> files;  ///< Of cells the table, of changes the folders, of holes the holes.
   ConfigurationOptions configuration;
   std::string x;  ///< Names of sizes.
   std::string y;
@@ -33,6 +33,7 @@ namespace picture_kinds {
 
 inline constexpr const char* kCells = "cells";
 inline constexpr const char* kMap = "map";
+inline constexpr const char* kChanges = "changes";
 inline constexpr const char* kHoles = "holes";
 inline constexpr const char* kSheet = "sheet";
 

@@ -11,6 +11,7 @@ namespace plateconfig {
 
 void WriteCells(const PictureJob& job, const Streams& streams, Reporter& reporter);
 void WriteMap(const PictureJob& job, const Streams& streams, Reporter& reporter);
+void WriteChanges(const PictureJob& job, const Streams& streams, Reporter& reporter);
 void WriteHoles(const PictureJob& job, const Streams& streams, Reporter& reporter);
 void WriteSheet(const PictureJob& job, const Streams& streams, Reporter& reporter);
 

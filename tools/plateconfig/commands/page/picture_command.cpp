@@ -15,42 +15,36 @@
 namespace plateconfig {
 namespace {
 
+using namespace picture_kinds;
+
 struct PictureKind {
   const char* name;
+  bool takesFiles;
   void (*write)(const PictureJob& job, const Streams& streams, Reporter& reporter);
 };
 
 constexpr PictureKind kKinds[] = {
-    {picture_kinds::kCells, WriteCells},
-    {picture_kinds::kMap, WriteMap},
-    {picture_kinds::kHoles, WriteHoles},
-    {picture_kinds::kSheet, WriteSheet},
+    {kCells, true, WriteCells}, {kMap, false, WriteMap},     {kChanges, true, WriteChanges},
+    {kHoles, true, WriteHoles}, {kSheet, false, WriteSheet},
 };
 
-/// What each picture takes; the others would ignore it, which is refused.
+/// The pictures that take an option; the others would ignore it, which is refused.
 struct OptionUse {
   const char* option;
-  const char* kind;
+  std::string_view kind;
+  std::string_view otherKind = {};
 };
 
 constexpr OptionUse kUses[] = {
-    {"--x", picture_kinds::kMap},
-    {"--y", picture_kinds::kMap},
-    {"--fixed", picture_kinds::kMap},
-    {"--body-color", picture_kinds::kMap},
-    {"--profile", picture_kinds::kMap},
-    {"--wire-cutting", picture_kinds::kMap},
-    {"--x-range", picture_kinds::kMap},
-    {"--y-range", picture_kinds::kMap},
-    {"--process-rules", picture_kinds::kMap},
-    {"--types", picture_kinds::kHoles},
-    {"--size", picture_kinds::kSheet},
-    {"--paper", picture_kinds::kSheet},
-    {"--layout-defaults", picture_kinds::kSheet},
-    {"--custom-settings", picture_kinds::kSheet},
-    {"--frame-info", picture_kinds::kSheet},
-    {"--system-settings", picture_kinds::kSheet},
-    {"--texts", picture_kinds::kSheet},
+    {"--config", kMap, kSheet},    {"--process-rules", kMap},
+    {"--x", kMap, kChanges},       {"--y", kMap, kChanges},
+    {"--fixed", kMap, kChanges},   {"--body-color", kMap, kChanges},
+    {"--profile", kMap, kChanges}, {"--wire-cutting", kMap, kChanges},
+    {"--x-range", kMap, kChanges}, {"--y-range", kMap, kChanges},
+    {"--types", kHoles},           {"--size", kSheet},
+    {"--paper", kSheet},           {"--layout-defaults", kSheet},
+    {"--custom-settings", kSheet}, {"--frame-info", kSheet},
+    {"--system-settings", kSheet}, {"--texts", kSheet},
 };
 
 /// The tables that a picture is made of, each an option of its own.
@@ -66,24 +60,27 @@ bool IsGiven(const CLI::App& command, const char* option) {
                      [&](const CLI::Option* each) { return each->check_name(option) && each->count() > 0; });
 }
 
-/// False, with an error, for an option that this picture does not take.
-bool TakesOptions(const CLI::App& command, const std::string& kind, Reporter& reporter) {
+void Refuse(const std::string& kind, const std::string& what, Reporter& reporter) {
+  reporter.Error({"plateconfig"}, Say("picture {} takes no {}", "picture {} 不接受 {}", kind, what));
+}
+
+/// False, with an error, for an option or a file that this picture does not take.
+bool TakesAll(const CLI::App& command, const PictureKind& kind, const PictureJob& job, Reporter& reporter) {
   for (const OptionUse& use : kUses) {
-    if (kind == use.kind || !IsGiven(command, use.option)) continue;
-    reporter.Error({"plateconfig"},
-                   Say("picture {0} takes no {1}; picture {2} does",
-                       "picture {0} 没有选项 {1}；picture {2} 才有", kind, use.option, use.kind));
+    if (kind.name == use.kind || kind.name == use.otherKind || !IsGiven(command, use.option)) continue;
+    Refuse(job.kind, use.option, reporter);
     return false;
   }
-  return true;
+  if (kind.takesFiles || job.files.empty()) return true;
+  Refuse(job.kind, Say("file such as {}", "{} 这样的文件", job.files.front()), reporter);
+  return false;
 }
 
 void RunPicture(const PictureJob& job, const CLI::App& command, Context& context) {
   context.reporter.ShowWarningsOnly();
-  if (!TakesOptions(command, job.kind, context.reporter)) return;
   const auto kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                  [&](const PictureKind& each) { return job.kind == each.name; });
-  kind->write(job, context.streams, context.reporter);
+  if (TakesAll(command, *kind, job, context.reporter)) kind->write(job, context.streams, context.reporter);
 }
 
 // ---- options ----
@@ -184,14 +181,15 @@ Run PictureOptions(CLI::App& command) {
   const auto job = std::make_shared<PictureJob>();
   command
       .add_option("picture", job->kind,
-                  Say("cells of a table, map of the rules, holes in section, drawing sheet",
-                      "cells：表的单元格；map：规则图；holes：孔的剖面；sheet：图纸"))
-      ->type_name("cells|map|holes|sheet")
+                  Say("cells of a table, map of the rules, changes between two, holes in section, sheet",
+                      "cells：表的单元格；map：规则图；changes：规则的变化；holes：孔的剖面；sheet：图纸"))
+      ->type_name("cells|map|changes|holes|sheet")
       ->check(OneOf(KindNames()))
       ->required();
   command
       .add_option("files", job->files,
-                  Say("cells: the table; holes: files of combined holes", "cells：表文件；holes：组合孔文件"))
+                  Say("cells: the table; changes: both folders; holes: files of combined holes",
+                      "cells：表文件；changes：两个文件夹；holes：组合孔文件"))
       ->type_name(Say("FILE", "文件"))
       ->check(NotEmpty());
   AddConfigurationOptions(command, DrawnRoles(), job->configuration);
