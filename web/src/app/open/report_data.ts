@@ -2,15 +2,17 @@
 
 import { fromBase64 } from "../../engine/base64";
 import { dataSource, type Source } from "./source";
+import { kUses } from "./uses";
 
+/** The configuration's files lie in a folder of its name, the others beside it. */
 interface ReportData {
   readonly name: string;
-  readonly files: readonly { readonly path: string; readonly base64: string }[];
-}
-
-/** The configuration's own files lie in the engine's folder; what was opened is that folder. */
-function withoutFolder(path: string): string {
-  return path.replace(/^config\//, "");
+  readonly files: readonly {
+    readonly path: string;
+    readonly base64: string;
+    /** "plates", "holes" or "hole-types"; nothing for the configuration's own. */
+    readonly use?: string;
+  }[];
 }
 
 /** Undefined in a page without data. */
@@ -18,8 +20,9 @@ export function reportSource(): Source | undefined {
   const text = document.getElementById("plateconfig-data")?.textContent?.trim() ?? "";
   if (text === "") return undefined;
   const { name, files } = JSON.parse(text) as ReportData;
-  return dataSource(
-    name,
-    files.map(({ path, base64 }) => ({ path: withoutFolder(path), bytes: fromBase64(base64) })),
-  );
+  const entries = files.map(({ path, base64, use }) => {
+    const known = kUses.find((each) => each === use);
+    return { path, bytes: fromBase64(base64), ...(known && { use: known }) };
+  });
+  return dataSource(name, entries);
 }

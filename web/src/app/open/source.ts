@@ -1,9 +1,13 @@
 // Where files come from, and how they are read once more: a folder's handle reads what is on disk now, a file of an <input> does not.
 
+import type { Use } from "./uses";
+
 export interface Entry {
   /** Below the opened folder, with '/'. */
   readonly path: string;
   readonly bytes: Uint8Array;
+  /** Where it is known what the file is used as. */
+  readonly use?: Use;
 }
 
 export interface Source {

@@ -48,8 +48,8 @@ async function usesByColumns(engine: Engine, entries: readonly Entry[]): Promise
 /** What each of these files looks like. */
 export async function usesOf(engine: Engine, entries: readonly Entry[]): Promise<Uses> {
   const uses = await usesByColumns(engine, entries);
-  for (const { path } of entries) {
-    const use = useByName(path);
+  for (const { path, use: known } of entries) {
+    const use = known ?? useByName(path);
     if (use !== undefined) uses.set(path, use);
   }
   return uses;
