@@ -119,6 +119,10 @@ test("The steps go through the gaps of the check, each with its example in the p
   assert.match(await text(page, ".map-new-row"), /长度范围\s*50_99\.999/);
   await page.waitForFunction(() => document.querySelector(".map-readout")?.textContent?.includes("空缺"));
   assert.match(await text(page, ".map-readout"), /长度 80\s+宽度 600\s+空缺/);
+  await page.click("text=试这块板");
+  await page.waitForSelector(".process-text .status-no-row");
+  assert.equal(await page.inputValue("#plate-length"), "80");
+  assert.equal(await page.inputValue("#plate-thickness"), "200");
   await closePage(open);
 });
 
@@ -157,7 +161,7 @@ test("Holes without a type come first, with the type that is nearest and why it 
   const open = await opened("holes");
   const { page } = open;
   await page.waitForSelector(".hole-detail");
-  assert.match(await text(page, ".plate-list p"), /共 60 个，7 个无类型，5 个并列/);
+  assert.match(await text(page, ".side-list p"), /共 60 个，7 个无类型，5 个并列/);
   assert.match(await text(page, ".hole-detail h2"), /A板-浇口套-小圈/);
   assert.match(await text(page, ".hole-refusals li"), /浇口套孔\s*顶第 1 段：直径 90 不符，允许 100、120/);
   await closePage(open);
@@ -166,7 +170,7 @@ test("Holes without a type come first, with the type that is nearest and why it 
 test("A hole shows its types with their scores", async () => {
   const open = await opened("holes");
   const { page } = open;
-  await page.fill(".plate-list input[type=search]", "A板-M12-1");
+  await page.fill(".side-list input[type=search]", "A板-M12-1");
   await page.click(".hole-item");
   await page.waitForFunction(() => document.querySelector(".hole-detail h2")?.textContent === "A板-M12-1");
   assert.match((await page.textContent(".hole-section")) ?? "", /⌀20 · 顶 · 颜色 36/);

@@ -121,7 +121,7 @@ function HolesPane({ picture, matches }: { picture: HolesPicture; matches: reado
   const without = holes.filter(({ types }) => types.length === 0).length;
   return (
     <div class="holes">
-      <section class="plate-list" aria-label={say(kHoleWords.holes)}>
+      <section class="side-list" aria-label={say(kHoleWords.holes)}>
         <h2>{say(kHoleWords.holes)}</h2>
         <p class="quiet">
           {say(kHoleWords.counts, holes.length, without, holes.filter(({ tied }) => tied).length)}

@@ -72,7 +72,7 @@ export function PlateList({ answer, chosen, choose }: PlateListProps) {
   if (answer.state === "failed") return <Failure error={answer.error} />;
   const without = (all ?? []).filter(({ status }) => status !== "written").length;
   return (
-    <section class="plate-list" aria-label={say(kPlateWords.plates)}>
+    <section class="side-list" aria-label={say(kPlateWords.plates)}>
       <h2>{say(kPlateWords.plates)}</h2>
       {answer.state === "idle" ? (
         <p class="quiet">{say(kPlateWords.noPlates)}</p>
