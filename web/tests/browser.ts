@@ -12,8 +12,13 @@ import { type Browser, type BrowserContext, chromium, type Page } from "playwrig
 export const samples = resolve("../samples");
 export const screenshots = resolve("../build/page/screenshots");
 const given = process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html";
-const isServed = given.startsWith("http");
+export const isServed = given.startsWith("http");
 const address = isServed ? given : pathToFileURL(resolve(given)).href;
+
+/** The page's own text. */
+export async function readPage(): Promise<string> {
+  return isServed ? (await fetch(address)).text() : readFileSync(resolve(given), "utf8");
+}
 
 export type Language = "zh" | "en";
 export const languages: readonly Language[] = ["zh", "en"];
@@ -64,9 +69,13 @@ export async function closePage({ context, complaints }: Opened): Promise<void> 
 export async function drop(page: Page, paths: readonly string[], at = { x: 400, y: 400 }): Promise<void> {
   const session = await page.context().newCDPSession(page);
   const data = { items: [], files: paths.map((path) => resolve(path)), dragOperationsMask: 1 };
-  for (const type of ["dragEnter", "dragOver", "drop"] as const) {
-    await session.send("Input.dispatchDragEvent", { type, ...at, data });
-  }
+  const send = (type: "dragEnter" | "dragOver" | "drop") =>
+    session.send("Input.dispatchDragEvent", { type, ...at, data });
+  await send("dragEnter");
+  // A drop counts only where the page has said that it takes one; a hand is slower than this test.
+  while (!(await page.isVisible(".drop-zones"))) await send("dragOver");
+  await send("dragOver");
+  await send("drop");
   await session.detach();
 }
 
@@ -78,7 +87,9 @@ export async function showView(page: Page, name: string): Promise<void> {
 
 /** Waits until nothing is under way: the check is done, tables are read. */
 export async function settled(page: Page): Promise<void> {
-  await page.waitForSelector(".counts");
+  await page.waitForSelector(".counts").catch(async (error: Error) => {
+    throw new Error(`${error.message}\nThe page says: ${await page.innerText("body")}`);
+  });
   await page.waitForFunction(() => !/正在|Reading|Checking|Comparing/.test(document.body.innerText));
 }
 

@@ -3,14 +3,17 @@ import assert from "node:assert/strict";
 import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
+import { pathToFileURL } from "node:url";
 import { after, afterEach, before, beforeEach, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
 import {
   assertAccessible,
   closePage,
   drop,
+  isServed,
   type Opened,
   openPage,
+  readPage,
   samples,
   screenshot,
   settled,
@@ -266,4 +269,53 @@ test("On paper the whole list stands, without the controls", async () => {
   await page.waitForFunction(() => document.querySelectorAll(".finding").length === 69);
   assert.equal(await page.isVisible(".side"), false);
   assert.equal(await page.isVisible(".tabs"), false);
+});
+
+test("A report opens by itself with the files inside it", async () => {
+  const text = await readPage();
+  const file = (path: string, from: string, use = "") => ({
+    path,
+    base64: readFileSync(join(samples, from)).toString("base64"),
+    use,
+  });
+  const tables = ["tables.json", "工艺规则.csv", "工艺设置.csv"];
+  const data = {
+    name: "标准",
+    files: [
+      ...tables.map((name) => file(`标准/${name}`, `config/标准/${name}`)),
+      file("plates.csv", "plates.csv", "plates"),
+    ],
+  };
+  const place = '<script type="application/json" id="plateconfig-data">';
+  assert.ok(text.includes(place));
+  const report = join(folder, "report.html");
+  writeFileSync(
+    report,
+    text.replace(place, () => place + JSON.stringify(data)),
+  );
+  if (isServed) return;
+  await page.goto(pathToFileURL(report).href);
+  await settled(page);
+  assert.equal(await page.innerText(".folder-name"), "标准");
+  assert.match(await page.innerText(".finding-list"), /加长托板/);
+});
+
+test("A folder that was chosen in a dialog can not be read again after a save, and the page says so", async () => {
+  const copy = copied("标准");
+  await page.evaluate(() => {
+    delete (Window.prototype as { showDirectoryPicker?: unknown }).showDirectoryPicker;
+    delete (window as { showDirectoryPicker?: unknown }).showDirectoryPicker;
+  });
+  const [chooser] = await Promise.all([page.waitForEvent("filechooser"), page.click("text=打开文件夹")]);
+  await chooser.setFiles(copy);
+  await settled(page);
+  replaceInFile(join(copy, "列宽.csv"), "120", "12O5");
+  await page.keyboard.press("F5");
+  assert.match(await page.innerText(".notice"), /请把文件夹重新拖进来/);
+});
+
+test("The last folder is offered again, or opens by itself where the browser still allows it", async () => {
+  await open(mistakes);
+  await page.reload();
+  await page.waitForSelector('.counts, button:has-text("再次打开“带错误”")');
 });

@@ -30,15 +30,15 @@ const text = (page: Page, selector: string) => page.locator(selector).first().in
 test("A plate without a text stands first, and the nearest row says what has to change", async () => {
   const open = await opened("plate");
   const { page } = open;
-  assert.match(await text(page, ".plate-items li"), /加长托板/);
-  await page.click(".plate-items li button");
+  assert.match(await text(page, ".item-list li"), /加长托板/);
+  await page.click(".item-list li button");
   await page.waitForFunction(
     () => document.querySelector<HTMLInputElement>("#plate-length")?.value === "1203",
   );
   await page.waitForSelector(".process-text .status-no-row");
   assert.match(await text(page, ".refused li"), /第 41 行\s*长度 1203 超出 700–1200，多 3/);
-  assert.match(await text(page, ".changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
-  await page.click(".changes button");
+  assert.match(await text(page, ".plate-changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
+  await page.click(".plate-changes button");
   await page.waitForSelector(".process-text .status-written");
   assert.equal(await page.inputValue("#plate-length"), "1200");
   assert.match(await text(page, ".process-text"), /符合第 41 行/);
@@ -119,6 +119,10 @@ test("The steps go through the gaps of the check, each with its example in the p
   assert.match(await text(page, ".map-new-row"), /长度范围\s*50_99\.999/);
   await page.waitForFunction(() => document.querySelector(".map-readout")?.textContent?.includes("空缺"));
   assert.match(await text(page, ".map-readout"), /长度 80\s+宽度 600\s+空缺/);
+  await page.click("text=试这块板");
+  await page.waitForSelector(".process-text .status-no-row");
+  assert.equal(await page.inputValue("#plate-length"), "80");
+  assert.equal(await page.inputValue("#plate-thickness"), "200");
   await closePage(open);
 });
 
@@ -157,7 +161,7 @@ test("Holes without a type come first, with the type that is nearest and why it 
   const open = await opened("holes");
   const { page } = open;
   await page.waitForSelector(".hole-detail");
-  assert.match(await text(page, ".plate-list p"), /共 60 个，7 个无类型，5 个并列/);
+  assert.match(await text(page, ".side-list p"), /共 60 个，7 个无类型，5 个并列/);
   assert.match(await text(page, ".hole-detail h2"), /A板-浇口套-小圈/);
   assert.match(await text(page, ".hole-refusals li"), /浇口套孔\s*顶第 1 段：直径 90 不符，允许 100、120/);
   await closePage(open);
@@ -166,7 +170,7 @@ test("Holes without a type come first, with the type that is nearest and why it 
 test("A hole shows its types with their scores", async () => {
   const open = await opened("holes");
   const { page } = open;
-  await page.fill(".plate-list input[type=search]", "A板-M12-1");
+  await page.fill(".side-list input[type=search]", "A板-M12-1");
   await page.click(".hole-item");
   await page.waitForFunction(() => document.querySelector(".hole-detail h2")?.textContent === "A板-M12-1");
   assert.match((await page.textContent(".hole-section")) ?? "", /⌀20 · 顶 · 颜色 36/);
@@ -179,5 +183,46 @@ test("A hole shows its types with their scores", async () => {
 test("Without hole types the view says what to open", async () => {
   const open = await opened("holes", "标准", [join(samples, "holes.csv")]);
   assert.match(await text(open.page, ".panel-holes, main"), /还缺孔类型文件/);
+  await closePage(open);
+});
+
+// ---- The sheet ----
+
+test("A part of the sheet shows the settings that place it, and opens their cell", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.click("label:has-text('分图') >> nth=-1");
+  const part = page.locator(".sheet-list li", { hasText: "<HARDNESS>" });
+  await part.hover();
+  await page.waitForSelector(".sheet-keys");
+  assert.match(await part.innerText(), /图框信息-左边距\s*0\.8/);
+  assert.match((await page.textContent(".sheet-picture")) ?? "", /图框信息 · 图框信息-左边距/);
+  await part.locator(".sheet-keys button", { hasText: "图框信息-顶边距" }).click();
+  await page.waitForSelector('.panel-tables .cell.is-selected:has-text("0.93")');
+  await closePage(open);
+});
+
+test("The paper is what the reader chooses, and what was taken for granted is told", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.waitForSelector(".sheet-picture");
+  assert.match((await page.getAttribute(".sheet-picture", "aria-label")) ?? "", /420 x 297 mm/);
+  assert.match(await text(page, ".sheet-assumed"), /各表中没有纸张的大小/);
+  await page.selectOption(".sheet-paper select", "594x420");
+  await page.waitForFunction(() =>
+    document.querySelector(".sheet-picture")?.getAttribute("aria-label")?.includes("594 x 420"),
+  );
+  await closePage(open);
+});
+
+test("A second folder's sheet stands beside, and what differs is marked", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  await page.waitForSelector(".sheet-picture");
+  assert.equal(await page.locator(".sheet-differs").count(), 0);
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await page.waitForSelector("figure:nth-child(2) .sheet-picture");
+  assert.deepEqual(await page.locator(".sheet-pictures figcaption").allInnerTexts(), ["标准", "精密模"]);
+  await page.waitForSelector(".sheet-differs");
   await closePage(open);
 });

@@ -144,7 +144,9 @@ TEST_F(ExplainCommand, JsonListsEveryConditionThatFailed) {
   EXPECT_EQ(
       result.out,
       "[\n{\"name\":\"长板\",\"line\":null,\"text\":\"\",\"status\":\"no-row\",\"file\":\"standard "
-      "input\",\"fileLine\":2,\"processes\":[],\"refusedRows\":["
+      "input\",\"fileLine\":2,\"plate\":{\"name\":\"长板\",\"length\":1203.0,\"width\":300.0,\"thickness\":"
+      "50.0,"
+      "\"weight\":140.0,\"layer\":12,\"color\":12,\"faceColors\":[]},\"processes\":[],\"refusedRows\":["
       "{\"line\":2,\"refusals\":["
       "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":500.0,\"value\":1203.0,\"missedBy\":703.0}]},"
       "{\"line\":3,\"refusals\":["

@@ -33,7 +33,8 @@ double SizeIn(const SizeRange& range, double otherwise) {
 /// That of solid steel in kg, unless the row wants another one.
 double WeightIn(const SizeRange& range, const Plate& plate) {
   constexpr double kSteel = 7.85e-6;  // kg/mm³
-  const double weight = plate.length * plate.width * plate.height * kSteel;
+  // As it is shown, so that both forms have one number.
+  const double weight = ParseDouble(ShownNumber(plate.length * plate.width * plate.height * kSteel));
   return range.Accepts(weight) ? weight : SizeIn(range, weight);
 }
 

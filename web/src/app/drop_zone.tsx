@@ -1,6 +1,6 @@
 // Dropping works anywhere on the page; with a folder open there are two places, one to open and one to compare.
 
-import { useEffect, useState } from "preact/hooks";
+import { useCallback, useLayoutEffect, useState } from "preact/hooks";
 import { kOpenWords } from "../words/open";
 import { droppedSources } from "./open/dropped";
 import type { Opening, Side } from "./open/use_opening";
@@ -10,23 +10,34 @@ function holdsFiles(event: DragEvent): boolean {
   return event.dataTransfer?.types.includes("Files") ?? false;
 }
 
-/** True while something is dragged over the page. Leaving fires for each element, so that enters are counted. */
+/** While something is dragged over the page the browser says so at least every half second. */
+const kSilence = 900;
+
+/** True while files are dragged over the page. A drag that ends elsewhere may end without a word, so that silence ends it too. */
 function useDragging(): [boolean, () => void] {
-  const [depth, setDepth] = useState(0);
-  useEffect(() => {
-    const enter = (event: DragEvent) => holdsFiles(event) && setDepth((now) => now + 1);
-    const leave = (event: DragEvent) => holdsFiles(event) && setDepth((now) => Math.max(0, now - 1));
-    const allow = (event: DragEvent) => holdsFiles(event) && event.preventDefault();
-    document.addEventListener("dragenter", enter);
-    document.addEventListener("dragleave", leave);
-    document.addEventListener("dragover", allow);
-    return () => {
-      document.removeEventListener("dragenter", enter);
-      document.removeEventListener("dragleave", leave);
-      document.removeEventListener("dragover", allow);
+  const [isDragging, setDragging] = useState(false);
+  const end = useCallback(() => setDragging(false), []);
+  useLayoutEffect(() => {
+    let silence: ReturnType<typeof setTimeout> | undefined;
+    const over = (event: DragEvent) => {
+      if (!holdsFiles(event)) return;
+      event.preventDefault();
+      setDragging(true);
+      clearTimeout(silence);
+      silence = setTimeout(end, kSilence);
     };
-  }, []);
-  return [depth > 0, () => setDepth(0)];
+    const leave = (event: DragEvent) => event.relatedTarget === null && end();
+    document.addEventListener("dragenter", over);
+    document.addEventListener("dragover", over);
+    document.addEventListener("dragleave", leave);
+    return () => {
+      clearTimeout(silence);
+      document.removeEventListener("dragenter", over);
+      document.removeEventListener("dragover", over);
+      document.removeEventListener("dragleave", leave);
+    };
+  }, [end]);
+  return [isDragging, end];
 }
 
 function sideOf(event: DragEvent): Side {
@@ -35,11 +46,12 @@ function sideOf(event: DragEvent): Side {
     : "config";
 }
 
+/** Listens from the first picture on: layout effects come before it. */
 export function DropZone({ opening, isOpen }: { opening: Opening; isOpen: boolean }) {
   const say = useSay();
   const [isDragging, endDragging] = useDragging();
   const { open } = opening;
-  useEffect(() => {
+  useLayoutEffect(() => {
     const drop = (event: DragEvent) => {
       if (event.dataTransfer === null || !holdsFiles(event)) return;
       event.preventDefault();
@@ -48,7 +60,7 @@ export function DropZone({ opening, isOpen }: { opening: Opening; isOpen: boolea
     };
     document.addEventListener("drop", drop);
     return () => document.removeEventListener("drop", drop);
-  }, [open]);
+  }, [open, endDragging]);
   if (!isDragging) return null;
   return (
     <div class="drop-zones">

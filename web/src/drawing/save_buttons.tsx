@@ -1,6 +1,7 @@
 import type { RefObject } from "preact";
 import { useSay } from "../app/state";
 import { kDrawingWords } from "../words/drawing";
+import "../app/parts/common.css";
 import { savePng, saveSvg } from "./save";
 
 /** Saves a picture; `name` is the file's, without its ending. */

@@ -1,7 +1,7 @@
 // What of a large picture is in sight: moved by dragging, zoomed by the wheel and by buttons.
 
 import type { RefObject } from "preact";
-import { useCallback, useEffect, useRef, useState } from "preact/hooks";
+import { useCallback, useEffect, useLayoutEffect, useRef, useState } from "preact/hooks";
 
 export interface ViewBox {
   readonly x: number;
@@ -45,6 +45,21 @@ export interface Zoomable {
   reset(): void;
   readonly latest: Latest;
   setBox(box: ViewBox): void;
+}
+
+/** How many units of the picture a pixel of the screen is: for lines and labels that keep their size. */
+export function usePixel(picture: RefObject<SVGSVGElement | null>, box: ViewBox): number {
+  const [pixel, setPixel] = useState(box.width / 900);
+  useLayoutEffect(() => {
+    const measure = () => {
+      const scale = picture.current?.getScreenCTM()?.a ?? 0;
+      if (scale > 0) setPixel(1 / scale);
+    };
+    measure();
+    window.addEventListener("resize", measure);
+    return () => window.removeEventListener("resize", measure);
+  }, [picture.current, box]);
+  return pixel;
 }
 
 interface Latest {

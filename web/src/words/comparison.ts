@@ -77,7 +77,16 @@ export const kComparisonWords = {
   no: { zh: "否", en: "no" },
   anySize: { zh: "不限", en: "any" },
   witness: { zh: "例如", en: "such as" },
-  regionsMap: { zh: "受影响的板，按长度和宽度", en: "Affected plates, by length and width" },
+  regionsMap: {
+    zh: (thickness: string, weight: string, color: number) =>
+      `受影响的板：厚度 ${thickness} mm、重量 ${weight}、体颜色 ${color} 处的截面`,
+    en: (thickness: string, weight: string, color: number) =>
+      `Affected plates, cut at thickness ${thickness} mm, weight ${weight}, body colour ${color}`,
+  } satisfies TextOf<[string, string, number]>,
+  mapLegend: {
+    zh: "方框内是旧行号→新行号，∅ 表示没有符合的规则行；十字是所选区域的例子。",
+    en: "In the boxes: old row → new row, ∅ for no row that fits; the cross is the example of the chosen region.",
+  },
   incomplete: { zh: "没有全部列出：", en: "Not listed in full:" },
   all: { zh: "全部列出", en: "List all" },
   chooseTable: { zh: "哪一张表", en: "Which table" },

@@ -87,6 +87,6 @@ export const kMapWords = {
     en: (sizes: string) => `for instance ${sizes}`,
   } satisfies TextOf<[string]>,
   newRow: { zh: "补上这一行就够：", en: "This row would take it:" },
-  witness: { zh: "例子", en: "example" },
+  tryIt: { zh: "试这块板", en: "Try this plate" },
   reset: { zh: "复原", en: "Reset" },
 } as const;

@@ -40,7 +40,7 @@ export const kSheetWords = {
     zh: (x: string, y: string) => `(${x}, ${y})`,
     en: (x: string, y: string) => `(${x}, ${y})`,
   } satisfies TextOf<[string, string]>,
-  differs: { zh: "另一配置不同", en: "differs in the other folder" },
+  differs: { zh: "不同", en: "differs" },
   layer: { zh: (layer: number) => `图层 ${layer}`, en: (layer: number) => `layer ${layer}` } satisfies TextOf<
     [number]
   >,

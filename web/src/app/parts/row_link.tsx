@@ -2,6 +2,7 @@
 
 import { kPlateWords } from "../../words/plate";
 import { useApp, useSay } from "../state";
+import "./common.css";
 
 /** The rule table as findings name it; undefined while `check` runs, or when there is none. */
 export function useRuleTable(): string | undefined {

@@ -67,7 +67,12 @@ function Compared({ pair, difference, listAll }: ComparedProps) {
         )}
         {part === "settings" && <ChangedSettings settings={difference.settings} />}
         {part === "regions" && (
-          <ChangedRegions regions={difference.regions} incomplete={difference.incomplete} listAll={listAll} />
+          <ChangedRegions
+            pair={pair}
+            regions={difference.regions}
+            incomplete={difference.incomplete}
+            listAll={listAll}
+          />
         )}
         {part === "tables" && (
           <SideBySide

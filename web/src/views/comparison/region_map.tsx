@@ -1,33 +1,56 @@
-// The boxes of one group in the plane of length and width. They overlap here where they differ in thickness or weight alone.
+// Where plates change in the plane of length and width: a cut through the example of the chosen region.
 
 import { scaleLinear } from "d3-scale";
-import { useSay } from "../../app/state";
+import { useMemo } from "preact/hooks";
+import { useAnswer } from "../../app/answer";
+import { Failure } from "../../app/parts/failure";
+import { useApp, useSay } from "../../app/state";
+import type { ChangedBox, PictureOfChanges } from "../../model/changes";
 import type { ChangedRegion } from "../../model/diff";
-import type { SizeName } from "../../model/plate";
 import { kComparisonWords } from "../../words/comparison";
+import type { Pair } from "./use_difference";
 
 const kWidth = 640;
 const kHeight = 480;
 const kLeft = 56;
-const kBottom = 40;
+const kBottom = 44;
 const kTop = 12;
 const kRight = 16;
 
-interface RegionMapProps {
-  readonly regions: readonly ChangedRegion[];
-  readonly most: Readonly<Record<SizeName, number>>;
-  readonly chosen: number;
-  choose(index: number): void;
+/** The cut lies where the region's example lies: its thickness, weight, colour and faces. */
+function cutArguments({ old, now }: Pair, { witness, group }: ChangedRegion): readonly string[] {
+  const isProfile = group.profile ?? group.newProfile ?? false;
+  const isWireCutting = group.wireCutting ?? group.newWireCutting ?? false;
+  return [
+    ...["picture", "changes", old.folder, now.folder, "--x", "length", "--y", "width"],
+    ...["--fixed", `thickness=${witness.thickness},weight=${witness.weight}`],
+    ...["--body-color", String(witness.color)],
+    ...(isProfile ? ["--profile"] : []),
+    ...(isWireCutting ? ["--wire-cutting"] : []),
+  ];
 }
 
-/** The picture reaches a little beyond the greatest bound, so that a box without end is seen to go on. */
-function useScales(most: Readonly<Record<SizeName, number>>) {
-  const x = scaleLinear([0, most.length * 1.08], [kLeft, kWidth - kRight]).clamp(true);
-  const y = scaleLinear([0, most.width * 1.08], [kHeight - kBottom, kTop]).clamp(true);
-  return { x, y };
+function usePicture(pair: Pair, region: ChangedRegion) {
+  const { engine } = useApp();
+  const { old, now } = pair;
+  const files = useMemo(() => [...old.files, ...now.files], [old, now]);
+  const args = useMemo(() => cutArguments({ old, now }, region), [old, now, region]);
+  return useAnswer<PictureOfChanges>(engine, args, files, 80);
 }
 
-function Axes({ x, y }: ReturnType<typeof useScales>) {
+interface Scales {
+  readonly x: ReturnType<typeof scaleLinear<number>>;
+  readonly y: ReturnType<typeof scaleLinear<number>>;
+}
+
+function scalesOf(picture: PictureOfChanges): Scales {
+  return {
+    x: scaleLinear([picture.x.from, picture.x.to], [kLeft, kWidth - kRight]).clamp(true),
+    y: scaleLinear([picture.y.from, picture.y.to], [kHeight - kBottom, kTop]).clamp(true),
+  };
+}
+
+function Axes({ x, y }: Scales) {
   const say = useSay();
   return (
     <g class="axes" aria-hidden="true">
@@ -47,15 +70,13 @@ function Axes({ x, y }: ReturnType<typeof useScales>) {
           </text>
         </g>
       ))}
-      <text x={kWidth - kRight} y={kHeight - 6} text-anchor="end" class="axis-name">
+      <text x={(kLeft + kWidth) / 2} y={kHeight - 8} text-anchor="middle" class="axis-name">
         {say(kComparisonWords.sizes.length)} mm
       </text>
       <text
-        x={4}
-        y={kTop + 2}
+        text-anchor="middle"
         class="axis-name"
-        dominant-baseline="hanging"
-        transform={`rotate(-90 12 ${kHeight / 2}) translate(0 ${kHeight / 2 - 20})`}
+        transform={`translate(13 ${(kTop + kHeight - kBottom) / 2}) rotate(-90)`}
       >
         {say(kComparisonWords.sizes.width)} mm
       </text>
@@ -63,33 +84,66 @@ function Axes({ x, y }: ReturnType<typeof useScales>) {
   );
 }
 
-export function RegionMap({ regions, most, chosen, choose }: RegionMapProps) {
+function holds({ x, y }: ChangedBox, { witness }: ChangedRegion): boolean {
+  return x[0] <= witness.length && witness.length <= x[1] && y[0] <= witness.width && witness.width <= y[1];
+}
+
+/** Narrower boxes have no room for their rows; the title tells them all the same. */
+const kRoom = 44;
+
+function Box({ box, scales, isChosen }: { box: ChangedBox; scales: Scales; isChosen: boolean }) {
   const say = useSay();
-  const { x, y } = useScales(most);
-  const placed = regions.map(({ box }, index) => {
-    const [left, right] = [x(box.length[0]), x(box.length[1] ?? Infinity)];
-    const [bottom, top] = [y(box.width[0]), y(box.width[1] ?? Infinity)];
-    return { index, left, top, width: Math.max(2, right - left), height: Math.max(2, bottom - top) };
-  });
-  const inOrder = [...placed].sort((one, two) => Number(one.index === chosen) - Number(two.index === chosen));
+  const { x, y } = scales;
+  const [left, top] = [x(box.x[0]), y(box.y[1])];
+  const [width, height] = [Math.max(1.5, x(box.x[1]) - left), Math.max(1.5, y(box.y[0]) - top)];
+  const row = (line: number | null) =>
+    line === null ? say(kComparisonWords.noRow) : say(kComparisonWords.row, line);
+  return (
+    <g class={isChosen ? "map-region is-chosen" : "map-region"}>
+      <title>{`${row(box.oldRow)} → ${row(box.newRow)}`}</title>
+      <rect x={left} y={top} width={width} height={height} />
+      {width > kRoom && height > 16 && (
+        <text x={left + width / 2} y={top + height / 2 + 4} text-anchor="middle">
+          {box.oldRow ?? "∅"}→{box.newRow ?? "∅"}
+        </text>
+      )}
+    </g>
+  );
+}
+
+/** Where the example itself lies. */
+function Example({ region, scales }: { region: ChangedRegion; scales: Scales }) {
+  const { x, y } = scales;
+  return (
+    <path
+      class="map-example"
+      d="M-6 0H6M0 -6V6"
+      transform={`translate(${x(region.witness.length)} ${y(region.witness.width)})`}
+    />
+  );
+}
+
+export function RegionMap({ pair, region }: { pair: Pair; region: ChangedRegion }) {
+  const say = useSay();
+  const answer = usePicture(pair, region);
+  if (answer.state === "failed") return <Failure error={answer.error} />;
+  const picture = answer.value;
+  if (picture === undefined) return <figure class="region-map" />;
+  const scales = scalesOf(picture);
+  const { thickness, weight, color } = region.witness;
+  const title = say(kComparisonWords.regionsMap, String(thickness), String(weight), color);
+  const chosen = picture.regions.filter((box) => holds(box, region));
   return (
     <figure class="region-map">
-      <figcaption>{say(kComparisonWords.regionsMap)}</figcaption>
-      <svg viewBox={`0 0 ${kWidth} ${kHeight}`} role="img" aria-label={say(kComparisonWords.regionsMap)}>
-        <Axes x={x} y={y} />
-        {inOrder.map(({ index, left, top, width, height }) => (
-          <g
-            key={index}
-            class={index === chosen ? "map-region is-chosen" : "map-region"}
-            onClick={() => choose(index)}
-          >
-            <rect x={left} y={top} width={width} height={height} />
-            <text x={left + 4} y={top + 13}>
-              {index + 1}
-            </text>
-          </g>
+      <figcaption>{title}</figcaption>
+      <svg viewBox={`0 0 ${kWidth} ${kHeight}`} role="img" aria-label={title}>
+        <Axes {...scales} />
+        {picture.regions.map((box, index) => (
+          <Box key={index} box={box} scales={scales} isChosen={chosen.includes(box)} />
         ))}
+        <Example region={region} scales={scales} />
       </svg>
+      <p class="quiet">{say(kComparisonWords.mapLegend)}</p>
     </figure>
   );
 }

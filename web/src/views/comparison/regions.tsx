@@ -9,6 +9,7 @@ import { kComparisonWords } from "../../words/comparison";
 import type { Say } from "../../words/say";
 import { PlateLine } from "../findings/finding_detail";
 import { RegionMap } from "./region_map";
+import type { Pair } from "./use_difference";
 
 const kSizes: readonly SizeName[] = ["length", "width", "thickness", "weight"];
 
@@ -98,7 +99,7 @@ function Region({ region, number: index, most, isChosen, choose }: RegionProps) 
   const row = (line: number | null) =>
     line === null ? say(kComparisonWords.noRow) : say(kComparisonWords.row, line);
   return (
-    <article class={`region ${isChosen ? "is-chosen" : ""}`} onPointerEnter={choose}>
+    <article class={`region ${isChosen ? "is-chosen" : ""}`}>
       <h2>
         <button type="button" class="region-number" aria-pressed={isChosen} onClick={choose}>
           {index}
@@ -127,12 +128,13 @@ function groupsOf(
 }
 
 interface RegionsProps {
+  readonly pair: Pair;
   readonly regions: readonly ChangedRegion[];
   readonly incomplete: readonly string[];
   listAll(): void;
 }
 
-export function ChangedRegions({ regions, incomplete, listAll }: RegionsProps) {
+export function ChangedRegions({ pair, regions, incomplete, listAll }: RegionsProps) {
   const say = useSay();
   const groups = useMemo(() => groupsOf(regions), [regions]);
   const [key, setKey] = useState<string | undefined>();
@@ -189,7 +191,7 @@ export function ChangedRegions({ regions, incomplete, listAll }: RegionsProps) {
             />
           ))}
         </div>
-        <RegionMap regions={shown} most={most} chosen={chosen} choose={setChosen} />
+        <RegionMap pair={pair} region={shown[Math.min(chosen, shown.length - 1)] ?? shown[0]!} />
       </div>
     </>
   );

@@ -65,7 +65,7 @@ function Chosen({ row, pair, table, showInTables }: RowsProps & { row: ChangedRo
           {say(kComparisonWords.showInTables)}
         </button>
       </div>
-      <table class="plain changes">
+      <table class="plain difference">
         <thead>
           <tr>
             <th scope="col">{say(kComparisonWords.column)}</th>

@@ -43,7 +43,7 @@ export function ChangedSettings({ settings }: { settings: readonly ChangedSettin
   return (
     <div class="scroll" tabIndex={0} role="group" aria-label={say(kComparisonWords.parts.settings)}>
       {byRole(settings).map(([role, ofRole]) => (
-        <table key={role} class="plain changes">
+        <table key={role} class="plain difference">
           <caption>
             {role} <span class="count">{ofRole.length}</span>
           </caption>

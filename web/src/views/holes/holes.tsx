@@ -13,6 +13,7 @@ import { kHoleWords } from "../../words/holes";
 import { useFiles } from "../plate/asking";
 import { Detail } from "./detail";
 import { SectionMark } from "./section";
+import "../../app/parts/common.css";
 import "./holes.css";
 
 const kRowHeight = 38;
@@ -70,7 +71,7 @@ function List({ entries, colors, chosen, choose }: ListProps) {
   const scroller = useRef<HTMLDivElement>(null);
   const virtual = useVirtual({ scroller, count: entries.length, sizeOf: rowHeight });
   return (
-    <div class="plate-items" ref={scroller}>
+    <div class="item-list" ref={scroller}>
       <ul style={{ height: `${virtual.getTotalSize()}px` }} aria-label={say(kHoleWords.holes)}>
         {virtual.getVirtualItems().map(({ index: at, start }) => {
           const entry = entries[at];
@@ -86,7 +87,7 @@ function List({ entries, colors, chosen, choose }: ListProps) {
               >
                 <SectionMark hole={hole} colors={colors} />
                 <span class="hole-names">
-                  <span class="plate-name">{hole.name}</span>
+                  <span class="item-name">{hole.name}</span>
                   <Verdict hole={hole} />
                 </span>
               </button>
@@ -120,7 +121,7 @@ function HolesPane({ picture, matches }: { picture: HolesPicture; matches: reado
   const without = holes.filter(({ types }) => types.length === 0).length;
   return (
     <div class="holes">
-      <section class="plate-list" aria-label={say(kHoleWords.holes)}>
+      <section class="side-list" aria-label={say(kHoleWords.holes)}>
         <h2>{say(kHoleWords.holes)}</h2>
         <p class="quiet">
           {say(kHoleWords.counts, holes.length, without, holes.filter(({ tied }) => tied).length)}

@@ -1,6 +1,6 @@
 // What the map shows: its axes, and the plates in it.
 
-import { useId } from "preact/hooks";
+import { useId, useState } from "preact/hooks";
 import { useSay } from "../../app/state";
 import { typed } from "../../drawing/numbers";
 import type { ColorClass, RuleMapPicture } from "../../model/pictures";
@@ -53,6 +53,25 @@ function Axis({ axis, question, picture, logs, ask, setLogs }: ControlsProps & {
   );
 }
 
+/** What is being typed stays while an answer arrives; it counts when the field is left. */
+function NumberInput({ id, value, set }: { id: string; value: number; set(text: string): void }) {
+  const [draft, setDraft] = useState<string | undefined>();
+  return (
+    <input
+      type="number"
+      id={id}
+      min="0"
+      step="any"
+      value={draft ?? typed(value)}
+      onInput={(event) => setDraft(event.currentTarget.value)}
+      onChange={(event) => {
+        set(event.currentTarget.value);
+        setDraft(undefined);
+      }}
+    />
+  );
+}
+
 /** A slider with the rows' bounds as marks, and the exact number beside. */
 function Fixed({ size, question, picture, ask }: ControlsProps & { size: SizeName }) {
   const say = useSay();
@@ -68,14 +87,7 @@ function Fixed({ size, question, picture, ask }: ControlsProps & { size: SizeNam
   return (
     <div class="map-fixed">
       <label for={id}>{sizeLabel(size, say)}</label>
-      <input
-        type="number"
-        id={id}
-        min="0"
-        step="any"
-        value={typed(value)}
-        onChange={(event) => set(event.currentTarget.value)}
-      />
+      <NumberInput id={id} value={value} set={set} />
       <input
         type="range"
         aria-label={say(kSizeWords[size])}

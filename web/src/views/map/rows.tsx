@@ -7,8 +7,12 @@ import { kMapWords } from "../../words/map";
 import { kPlateWords } from "../../words/plate";
 import type { Say } from "../../words/say";
 
+/** Ranges that share a bound overlap by the tolerance of a thousandth; nobody sees that, nor should be told. */
+const kSeen = 0.01;
+
 /** What becomes of the row in this picture. */
-function fate({ wins, hidden }: Region, say: Say): string {
+function fate({ wins, hidden: all }: Region, say: Say): string {
+  const hidden = all.filter(({ x, y }) => x[1] - x[0] > kSeen && y[1] - y[0] > kSeen);
   if (hidden.length === 0) return "";
   const blockers = [...new Set(hidden.map(({ by }) => by))].sort((a, b) => a - b);
   return wins.length === 0

@@ -1,5 +1,6 @@
 // The gaps and the rows without plates that the check found, one after another, each shown with its example.
 
+import { keep } from "../../app/parts/kept";
 import { RowLink } from "../../app/parts/row_link";
 import { SeverityMark } from "../../app/parts/severity";
 import { useApp, useSay } from "../../app/state";
@@ -9,6 +10,7 @@ import type { Plate } from "../../model/plate";
 import type { Setting } from "../../model/show";
 import { kMapWords } from "../../words/map";
 import { kSizeWords } from "../../words/plate";
+import { formOf, kTriedForm } from "../plate/form";
 import type { MapQuestion } from "./question";
 import { kSizes } from "./question";
 
@@ -65,7 +67,12 @@ function NewRow({ cells }: { cells: Readonly<Record<string, string>> }) {
 
 function Step({ finding }: { finding: Finding }) {
   const say = useSay();
+  const { show } = useApp();
   const { witness } = finding;
+  const tryIt = (plate: Plate) => {
+    keep(kTriedForm, formOf(plate));
+    show("plate");
+  };
   return (
     <div class="map-step">
       <p>
@@ -80,12 +87,17 @@ function Step({ finding }: { finding: Finding }) {
         </p>
       )}
       {witness && (
-        <p class="quiet">
-          {say(
-            kMapWords.example,
-            kSizes.map((size) => `${say(kSizeWords[size])} ${typed(witness[size])}`).join("  "),
-          )}
-        </p>
+        <>
+          <p class="quiet">
+            {say(
+              kMapWords.example,
+              kSizes.map((size) => `${say(kSizeWords[size])} ${typed(witness[size])}`).join("  "),
+            )}
+          </p>
+          <button type="button" class="small no-print" onClick={() => tryIt(witness)}>
+            {say(kMapWords.tryIt)}
+          </button>
+        </>
       )}
       {finding.newRow && <NewRow cells={finding.newRow} />}
     </div>

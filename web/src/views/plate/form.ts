@@ -66,6 +66,9 @@ export function formOf(plate: Plate): PlateForm {
   };
 }
 
+/** Under which the view keeps the plate that is tried, so that another view can hand it one. */
+export const kTriedForm = "tried-plate";
+
 export function withField(form: PlateForm, field: FieldName, text: string): PlateForm {
   return { ...form, fields: { ...form.fields, [field]: text } };
 }

@@ -9,7 +9,7 @@ import { kPlateWords } from "../../words/plate";
 import { useChosen, useColors, useExample, usePlates, useTried } from "./asking";
 import { changed } from "./changes";
 import type { AskedFeatures, PlateForm } from "./form";
-import { askedBy, formOf, withoutFeatures } from "./form";
+import { askedBy, formOf, kTriedForm, withoutFeatures } from "./form";
 import { PlateFields } from "./plate_fields";
 import { PlateList } from "./plate_list";
 import { Result } from "./result";
@@ -21,10 +21,14 @@ const kNothingAsked: AskedFeatures = { ticked: [], typed: [], ordered: [] };
 function useChoice(plates: readonly ProcessedPlate[] | undefined, fill: (form: PlateForm) => void) {
   const { triedPlate } = useApp();
   const [chosen, choose] = useState<ProcessedPlate | undefined>();
+  const [taken, take] = useKept<string | undefined>("taken-plate", undefined);
   const read = useChosen(chosen?.name);
   useEffect(() => {
     const asked = plates?.find(({ name }) => name === triedPlate);
-    if (asked !== undefined) choose(asked);
+    // Once: who comes back to this view goes on with the plate as it was changed.
+    if (asked === undefined || triedPlate === taken) return;
+    choose(asked);
+    take(triedPlate);
   }, [plates, triedPlate]);
   const entry =
     read.state === "done" ? read.value.find(({ fileLine }) => fileLine === chosen?.fileLine) : undefined;
@@ -39,7 +43,7 @@ function Trial() {
   const example = useExample();
   const colors = useColors();
   const plates = usePlates();
-  const [form, setForm] = useKept<PlateForm | undefined>("tried-plate", undefined);
+  const [form, setForm] = useKept<PlateForm | undefined>(kTriedForm, undefined);
   const [chosen, choose] = useChoice(plates.value, setForm);
   const [isComplete, askAll] = useState(false);
   const [first] = example.value ?? [];

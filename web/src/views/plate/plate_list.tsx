@@ -8,6 +8,7 @@ import { useSay } from "../../app/state";
 import type { PlateStatus, ProcessedPlate } from "../../model/process";
 import { kPlateWords } from "../../words/plate";
 import { StatusMark } from "./status_mark";
+import "../../app/parts/common.css";
 
 const kOrder: Readonly<Record<PlateStatus, number>> = { "no-row": 0, "no-text": 1, written: 2 };
 const kRowHeight = 30;
@@ -33,7 +34,7 @@ function Items({
   const scroller = useRef<HTMLDivElement>(null);
   const virtual = useVirtual({ scroller, count: plates.length, sizeOf: rowHeight });
   return (
-    <div class="plate-items" ref={scroller}>
+    <div class="item-list" ref={scroller}>
       <ul style={{ height: `${virtual.getTotalSize()}px` }} aria-label={say(kPlateWords.plates)}>
         {virtual.getVirtualItems().map(({ index, start }) => {
           const plate = plates[index];
@@ -45,7 +46,7 @@ function Items({
                 aria-current={plate === chosen ? "true" : undefined}
                 onClick={() => choose(plate)}
               >
-                <span class="plate-name">{plate.name}</span>
+                <span class="item-name">{plate.name}</span>
                 {plate.status === "written" && plate.line !== null ? (
                   <span class="quiet">{say(kPlateWords.row, plate.line)}</span>
                 ) : (
@@ -71,7 +72,7 @@ export function PlateList({ answer, chosen, choose }: PlateListProps) {
   if (answer.state === "failed") return <Failure error={answer.error} />;
   const without = (all ?? []).filter(({ status }) => status !== "written").length;
   return (
-    <section class="plate-list" aria-label={say(kPlateWords.plates)}>
+    <section class="side-list" aria-label={say(kPlateWords.plates)}>
       <h2>{say(kPlateWords.plates)}</h2>
       {answer.state === "idle" ? (
         <p class="quiet">{say(kPlateWords.noPlates)}</p>

@@ -119,7 +119,7 @@ function Changes({ row, apply }: { row: RefusedRow; apply: Apply }) {
   const changes = changesFor(row.refusals);
   if (changes.length < row.refusals.length) return null;
   return (
-    <div class="changes">
+    <div class="plate-changes">
       <p>
         <strong>{say(kPlateWords.change, row.line)}</strong>
       </p>

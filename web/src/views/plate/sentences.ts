@@ -67,7 +67,11 @@ export function changeText(change: Change, say: Say): string {
 /** What the plate has of what the process looks at; of one that is ordered by hand, whether it is. */
 export function hasText({ plate }: ExplainedProcess, isByHand: boolean, say: Say): string {
   if (plate === null) return say(kPlateWords.uncounted);
-  if (isByHand) return say(plate ? kPlateWords.isOrdered : kPlateWords.notOrdered);
-  if (typeof plate === "boolean") return say(plate ? kPlateWords.yes : kPlateWords.no);
+  if (typeof plate === "boolean") {
+    const [yes, no] = isByHand
+      ? [kPlateWords.isOrdered, kPlateWords.notOrdered]
+      : [kPlateWords.yes, kPlateWords.no];
+    return say(plate ? yes : no);
+  }
   return typeof plate === "number" ? shown(plate) : joined(plate, say);
 }

@@ -67,15 +67,24 @@ function facts(part: SheetPart, say: Say): string {
   ].join(" · ");
 }
 
+/** What a text says, or the attribute that fills it. */
+function content(part: SheetPart): string {
+  if (part.kind !== "text") return "";
+  if (part.text !== null) return `“${part.text}”`;
+  return part.attribute === null ? "" : `<${part.attribute}>`;
+}
+
 interface PartsProps {
   readonly parts: readonly SheetPart[];
+  /** Ids of what was taken for granted, in the order of the notes. */
+  readonly notes: readonly string[];
   readonly marked: SheetPart | undefined;
   readonly differing: ReadonlySet<SheetPart>;
   readonly side: "config" | "other";
   mark(part: SheetPart | undefined): void;
 }
 
-export function Parts({ parts, marked, differing, side, mark }: PartsProps) {
+export function Parts({ parts, notes, marked, differing, side, mark }: PartsProps) {
   const say = useSay();
   const { language } = useApp();
   const open = useOpenPart(side);
@@ -91,7 +100,8 @@ export function Parts({ parts, marked, differing, side, mark }: PartsProps) {
             onBlur={() => mark(undefined)}
             onClick={() => open(part)}
           >
-            {part.label[language]}
+            {part.label[language]} <span class="sheet-content">{content(part)}</span>
+            <sup>{part.assumes.map((id) => notes.indexOf(id) + 1).join(" ")}</sup>
             {differing.has(part) && <span class="sheet-differs"> ≠ {say(kSheetWords.differs)}</span>}
           </button>
           <span class="quiet sheet-facts">{facts(part, say)}</span>
@@ -165,11 +175,11 @@ export function Assumed({ picture }: { picture: SheetPicture }) {
   return (
     <section>
       <h2>{say(kSheetWords.assumed)}</h2>
-      <ul class="sheet-assumed">
+      <ol class="sheet-assumed">
         {picture.assumed.map(({ id, text }) => (
           <li key={id}>{text[language]}</li>
         ))}
-      </ul>
+      </ol>
     </section>
   );
 }

@@ -8,6 +8,8 @@ export const kLinePerHeight = 1.15;
 
 interface ShapeProps {
   readonly part: SheetPart;
+  /** What stands for a text that no setting has. */
+  readonly label: string;
   /** Height of the paper. */
   readonly paper: number;
   readonly color: string;
@@ -38,7 +40,7 @@ function Cross({
   );
 }
 
-export function ShapeOf({ part, paper, color, line }: ShapeProps) {
+export function ShapeOf({ part, label, paper, color, line }: ShapeProps) {
   const y = paper - part.y;
   switch (part.kind) {
     case "rectangle":
@@ -75,7 +77,7 @@ export function ShapeOf({ part, paper, color, line }: ShapeProps) {
             fill={color}
             font-style={part.text === null ? "italic" : undefined}
           >
-            {part.text ?? (part.attribute === null ? "…" : `<${part.attribute}>`)}
+            {part.text ?? `<${part.attribute ?? label}>`}
           </text>
         </>
       );
@@ -110,7 +112,7 @@ export function boxOf(
       return { x: part.x, y, width: 0, height: 0 };
     case "text": {
       const size = (part.textHeight ?? 3) * kLinePerHeight;
-      const letters = part.text ?? `<${part.attribute ?? "…"}>`;
+      const letters = part.text ?? `<${part.attribute ?? part.label.zh}>`;
       const width = [...letters].reduce((sum, letter) => sum + (letter > "\u02ff" ? 1 : 0.55), 0) * size;
       return { x: part.x, y: part.anchor === "top-left" ? y : y - size, width, height: size };
     }

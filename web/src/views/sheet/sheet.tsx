@@ -17,6 +17,7 @@ import { kPapers, landscape, portrait } from "./paper";
 import { Assumed, Parts, Unknowns, useOpenPart } from "./parts";
 import { differing } from "./sameness";
 import { SheetDrawing, wholeOf } from "./sheet_drawing";
+import "../../app/parts/common.css";
 import "./sheet.css";
 
 const kZoomStep = 0.7;
@@ -217,7 +218,14 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
             {say(kSheetWords.parts)} <span class="quiet">{sheet.parts.length}</span>
           </h2>
           <p class="quiet no-print">{say(kSheetWords.partsHint)}</p>
-          <Parts parts={sheet.parts} marked={marked} differing={changed} side="config" mark={mark} />
+          <Parts
+            parts={sheet.parts}
+            notes={picture.assumed.map(({ id }) => id)}
+            marked={marked}
+            differing={changed}
+            side="config"
+            mark={mark}
+          />
         </section>
         <Unknowns places={sheet.unknown} side="config" />
         <Assumed picture={picture} />

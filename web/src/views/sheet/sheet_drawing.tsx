@@ -4,7 +4,7 @@ import type { RefObject } from "preact";
 import { useApp, useSay } from "../../app/state";
 import { kFont, kInk, kPaper, kQuiet } from "../../drawing/looks";
 import { shown } from "../../drawing/numbers";
-import { useFollowing, type ViewBox, type Zoomable } from "../../drawing/view_box";
+import { useFollowing, usePixel, type ViewBox, type Zoomable } from "../../drawing/view_box";
 import type { DrawnSheet, SheetPart } from "../../model/pictures";
 import { kSheetWords } from "../../words/sheet";
 import { boxOf, ShapeOf } from "./shapes";
@@ -14,9 +14,6 @@ export function wholeOf({ width, height }: { width: number; height: number }): V
   const rim = Math.max(width, height) * 0.03;
   return { x: -rim, y: -rim, width: width + 2 * rim, height: height + 2 * rim };
 }
-
-/** About the pixels that the picture has on a screen: lines and labels keep their size while zooming. */
-const kPixels = 900;
 
 interface SheetDrawingProps {
   readonly sheet: DrawnSheet;
@@ -29,10 +26,16 @@ interface SheetDrawingProps {
   open(part: SheetPart): void;
 }
 
-function Marked({ part, paper, view }: { part: SheetPart; paper: number; view: ViewBox }) {
+interface MarkedProps {
+  readonly part: SheetPart;
+  readonly paper: number;
+  readonly view: ViewBox;
+  readonly line: number;
+}
+
+function Marked({ part, paper, view, line }: MarkedProps) {
   const { language } = useApp();
   const { x, y, width, height } = boxOf(part, paper);
-  const line = view.width / kPixels;
   const rim = 5 * line;
   const size = 13 * line;
   const key = part.keys[0]?.column;
@@ -54,13 +57,7 @@ function Marked({ part, paper, view }: { part: SheetPart; paper: number; view: V
         stroke-dasharray={`${line * 5} ${line * 3}`}
       />
       <rect x={left} y={above} width={length} height={size * 1.5} fill={kInk} rx={line * 2} />
-      <text
-        x={x - rim + size * 0.4}
-        y={above + size * 1.1}
-        font-family={kFont}
-        font-size={size}
-        fill={kPaper}
-      >
+      <text x={left + size * 0.4} y={above + size * 1.1} font-family={kFont} font-size={size} fill={kPaper}>
         {label}
       </text>
     </g>
@@ -73,7 +70,7 @@ export function SheetDrawing(props: SheetDrawingProps) {
   const { language } = useApp();
   useFollowing(svg, zoom);
   const { box } = zoom;
-  const line = box.width / kPixels;
+  const line = usePixel(svg, box);
   return (
     <svg
       ref={svg}
@@ -85,7 +82,8 @@ export function SheetDrawing(props: SheetDrawingProps) {
       <rect width={sheet.width} height={sheet.height} fill={kPaper} stroke={kQuiet} stroke-width={line} />
       {sheet.parts.map((part, index) => {
         const hit = boxOf(part, sheet.height);
-        const isLarge = hit.width > sheet.width / 2 && hit.height > sheet.height / 2;
+        // A frame would hide what lies within it.
+        const isFrame = part.kind === "rectangle";
         const rim = 6 * line;
         return (
           <g
@@ -102,7 +100,7 @@ export function SheetDrawing(props: SheetDrawingProps) {
                 width={hit.width + 2 * rim}
                 height={hit.height + 2 * rim}
                 fill="#fdf1d3"
-                fill-opacity={isLarge ? 0 : 1}
+                fill-opacity={isFrame ? 0 : 1}
                 stroke="#e69f00"
                 stroke-width={line}
                 stroke-dasharray={`${line * 3} ${line * 2}`}
@@ -114,16 +112,24 @@ export function SheetDrawing(props: SheetDrawingProps) {
               width={hit.width + 2 * rim}
               height={hit.height + 2 * rim}
               fill="none"
-              pointer-events={isLarge ? "stroke" : "all"}
+              pointer-events={isFrame ? "stroke" : "all"}
               stroke="transparent"
               stroke-width={rim * 1.5}
               data-page-only
             />
-            <ShapeOf part={part} paper={sheet.height} color={colors.get(part.color) ?? kInk} line={line} />
+            <ShapeOf
+              part={part}
+              label={part.label[language]}
+              paper={sheet.height}
+              color={colors.get(part.color) ?? kInk}
+              line={line}
+            />
           </g>
         );
       })}
-      {marked && sheet.parts.includes(marked) && <Marked part={marked} paper={sheet.height} view={box} />}
+      {marked && sheet.parts.includes(marked) && (
+        <Marked part={marked} paper={sheet.height} view={box} line={line} />
+      )}
     </svg>
   );
 }
