@@ -43,9 +43,8 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
   std::vector<double> lows;
   std::vector<double> highs;
   for (const ModelRow* row : rows) {
-    const Box reach = WithoutZero(row->box);
-    lows.push_back(reach[size].low);
-    highs.push_back(reach[size].high);
+    lows.push_back(row->box[size].low);
+    highs.push_back(row->box[size].high);
   }
   std::sort(lows.begin(), lows.end());
   std::sort(highs.begin(), highs.end());
@@ -57,7 +56,7 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
     const std::ptrdiff_t accepting = (begun - lows.begin()) - (ended - highs.begin());
     if (accepting <= most) continue;
     most = accepting;
-    best = {low, begun == lows.end() ? *ended : std::min(*ended, Before(*begun))};
+    best = {low, *ended};  // If a row began before that end, it would be one more.
   }
   return best;
 }

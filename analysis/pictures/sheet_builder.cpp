@@ -89,8 +89,8 @@ void SheetBuilder::AddUnknown(const Words& what, const Words& why, const std::ve
 void SheetBuilder::Add(SheetPart part, const SheetSetting& x, const SheetSetting& y) {
   part.keys.insert(part.keys.begin(), {x.key, y.key});
   if (part.kind == PartKind::kText) part.assumes.push_back(Assumption::kTextSize);
-  const bool hasPlace = std::isfinite(part.x) && std::isfinite(part.y) && std::isfinite(part.width) &&
-                        std::isfinite(part.height);
+  // A size that is no number is in the place.
+  const bool hasPlace = std::isfinite(part.x) && std::isfinite(part.y);
   if (hasPlace) return sheet_.parts.push_back(std::move(part));
   sheet_.unknown.push_back({part.label, reasons::kNoNumber, SpecimenOf(part), std::move(part.keys)});
 }

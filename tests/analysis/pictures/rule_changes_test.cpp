@@ -94,6 +94,16 @@ TEST(RuleChanges, WithoutColourAndSizesTheGroupOfMostChangesIsShownAtItsLargestO
   EXPECT_EQ(DrawRuleChanges(before.model, after.model, question).fixed[kThickness], 30);
 }
 
+TEST(RuleChanges, OfGroupsWithAsManyChangesTheFirstIsShown) {
+  const Scene before({{.length = "100_200"}, {.length = "100_200", .material = "硬料（体颜色）"}});
+  const Scene after({{.length = "100_200", .drilling = "mill"},
+                     {.length = "100_200", .material = "硬料（体颜色）", .drilling = "mill"},
+                     {.length = "900_800"}});
+  const RuleChanges changes = DrawRuleChanges(before.model, after.model, {});
+  EXPECT_EQ(changes.bodyColor, 42);
+  EXPECT_THAT(changes.sizes[0].bounds, ElementsAre(100, 200));  // Without the row that never matches.
+}
+
 TEST(RuleChanges, AColourThatNoListHasIsOfTheOtherColours) {
   const Scene before({{.length = "100_200"}}, {.soft = "", .hard = "42"});
   const Scene after({{.length = "100_300"}}, {.soft = "", .hard = "42"});

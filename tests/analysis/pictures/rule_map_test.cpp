@@ -122,6 +122,27 @@ TEST(RuleMap, ASizeThatIsNotFixedIsARoundNumberThatMostRowsAccept) {
   EXPECT_EQ(MapOf(scene, question).fixed[kThickness], 15);
 }
 
+TEST(RuleMap, OfSeveralSuchNumbersItIsTheFirst) {
+  const Scene scene({{.thickness = "10_20"}, {.thickness = "30_80"}});
+  MapQuestion question;
+  question.bodyColor = 12;
+  EXPECT_EQ(MapOf(scene, question).fixed[kThickness], 15);
+  const Scene oneOfEach({{.length = "1_2"}, {.length = "1_2", .material = "硬料（体颜色）"}});
+  EXPECT_EQ(MapOf(oneOfEach).bodyColor, 42);
+}
+
+TEST(RuleMap, ARowThatNeverMatchesHasNoBounds) {
+  const Scene scene({{.length = "100_200"}, {.length = "900_800"}});
+  EXPECT_THAT(MapOf(scene, Question()).sizes[kLength].bounds, ElementsAre(100, 200));
+}
+
+TEST(RuleMap, RowsBesideEachOtherHideNothing) {
+  const Scene scene({{.length = "100_200", .width = "100_200"},
+                     {.length = "100_200", .width = "300_400"},
+                     {.length = "300_400", .width = "100_200"}});
+  for (const MapRegion& region : MapOf(scene, Question()).regions) EXPECT_THAT(region.hidden, IsEmpty());
+}
+
 TEST(RuleMap, OutsideOfTheHullNothingIsAGap) {
   const Scene scene(
       {{.length = "100_200", .thickness = "20_40"}, {.length = "300_400", .thickness = "20_40"}});
@@ -136,7 +157,10 @@ TEST(RuleMap, OutsideOfTheHullNothingIsAGap) {
 TEST(RuleMap, AGapOfWidthZeroIsNone) {
   const Scene scene({{.length = "4.9e-324_200"}, {.length = "300_400"}});
   EXPECT_THAT(MapOf(scene, Question()).gaps, ElementsAre(Flat(After(End(200)), Before(300), 0, 1000)));
-  const Scene beginsAbove({{.length = "4.9e-324_200"}, {.length = "0_100", .width = "10_20"}});
+  const Scene beginsAbove({{.length = "4.9e-324_200"},
+                           {.length = "0_100", .width = "10_20"},
+                           {.length = "300_400", .width = "5_30"}});
+  EXPECT_FALSE(MapOf(beginsAbove, Question()).gaps.empty());
   for (const FlatBox& gap : MapOf(beginsAbove, Question()).gaps) EXPECT_GT(gap.x.high, 0);
 }
 
