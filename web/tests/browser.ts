@@ -37,7 +37,7 @@ export function startBrowser(): Promise<Browser> {
 
 const kLocales = { zh: "zh-CN", en: "en-US" } as const;
 
-export async function openPage(browser: Browser, language: Language = "zh", file?: string): Promise<Opened> {
+export async function openPage(browser: Browser, language: Language = "zh"): Promise<Opened> {
   const context = await browser.newContext({
     viewport: { width: 1400, height: 860 },
     locale: kLocales[language],
@@ -55,7 +55,7 @@ export async function openPage(browser: Browser, language: Language = "zh", file
   page.on("request", (request) => {
     if (!isServed && /^(https?|wss?):/.test(request.url())) complaints.push(`asks ${request.url()}`);
   });
-  await page.goto(file === undefined ? address : pathToFileURL(file).href);
+  await page.goto(address);
   return { page, context, complaints };
 }
 
