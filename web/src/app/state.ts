@@ -29,7 +29,7 @@ export type ViewName = "findings" | "tables" | "map" | "plate" | "sheet" | "hole
 /** A cell of a table: of the engine's path of the table, with the spreadsheet's own row and column, both from 1. */
 export interface CellPlace {
   readonly file: string;
-  /** As findings name it, "C17"; or a whole row, "17". */
+  /** As findings name it, "C17"; a whole row, "17"; or the row that line 19 of the file is in, "@19". */
   readonly cell: string;
   /** "other" for the second folder's table. */
   readonly side?: "config" | "other";

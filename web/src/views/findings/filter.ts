@@ -1,6 +1,8 @@
 // Which findings are listed.
 
 import type { Finding, Severity } from "../../model/check";
+import { kGridWords } from "../../words/grid";
+import type { Say } from "../../words/say";
 
 export interface Filter {
   readonly severities: readonly Severity[];
@@ -42,11 +44,18 @@ export function countsOf(values: readonly string[]): readonly (readonly [string,
   return [...counts].sort((one, two) => two[1] - one[1]);
 }
 
-/** Where a finding points to, as a keeper looks for it: the cell, the row, the line. */
+/** Where a finding points to, for `select`: the cell, the row, or the line of the file; the table's begin for the whole file. */
 export function placeOf(finding: Finding): string {
   if (finding.cell !== null) return finding.cell;
   if (finding.row !== undefined) return String(finding.row);
-  return finding.line === null ? "" : String(finding.line);
+  return finding.line === null ? "A1" : `@${finding.line}`;
+}
+
+/** The same for people; a line of the file is no row of the spreadsheet where cells hold line breaks. */
+export function shownPlace(finding: Finding, say: Say): string {
+  if (finding.cell !== null) return finding.cell;
+  if (finding.row !== undefined) return say(kGridWords.row, finding.row);
+  return finding.line === null ? say(kGridWords.wholeFile) : say(kGridWords.line, finding.line);
 }
 
 /** A file's path without the engine's folder. */

@@ -7,7 +7,7 @@ import type { Finding } from "../../model/check";
 import type { Plate } from "../../model/plate";
 import { kFindingsWords } from "../../words/findings";
 import { TablePane } from "../grid/table_pane";
-import { placeOf, shownFile } from "./filter";
+import { placeOf, shownFile, shownPlace } from "./filter";
 
 /** A feature as a file of plates would have it: its column and its cell. */
 function featureText([name, value]: [string, boolean | number | readonly number[]]): string {
@@ -76,12 +76,12 @@ export function FindingDetail({ finding, open }: { finding: Finding; open: () =>
   const ofFile = check.value?.findings.filter(({ file }) => file === finding.file) ?? [];
   const place = placeOf(finding);
   const [at, setAt] = useState(place);
-  useEffect(() => setAt(place || "A1"), [finding, place]);
+  useEffect(() => setAt(place), [finding, place]);
   return (
     <div class="detail">
       <div class="detail-head">
         <h2>
-          {shownFile(finding.file)} {place}
+          {shownFile(finding.file)} {shownPlace(finding, say)}
         </h2>
         <span class="spring" />
         {/\.csv$/i.test(finding.file) && (

@@ -7,16 +7,15 @@ import { useSay } from "../../app/state";
 import type { Finding } from "../../model/check";
 import { kFindingsWords } from "../../words/findings";
 import { kGridWords } from "../../words/grid";
-import { placeOf, shownFile } from "./filter";
+import { shownFile, shownPlace } from "./filter";
 
 const kItemHeight = 46;
 
 /** A cell's name, or what stands in its place. */
 function Place({ finding }: { finding: Finding }) {
   const say = useSay();
-  const place = placeOf(finding);
-  if (place === "") return <>{say(kGridWords.wholeFile)}</>;
-  return finding.cell === null ? <>{say(kGridWords.row, Number(place))}</> : <b>{place}</b>;
+  const place = shownPlace(finding, say);
+  return finding.cell === null ? <>{place}</> : <b>{place}</b>;
 }
 
 function Change({ finding }: { finding: Finding }) {

@@ -11,7 +11,7 @@ import type { CheckReport, Finding } from "../../model/check";
 import { kFindingsWords } from "../../words/findings";
 import { kPageWords } from "../../words/page";
 import type { Say } from "../../words/say";
-import { kNoFilter, listedFindings, placeOf, shownFile } from "./filter";
+import { kNoFilter, listedFindings, placeOf, shownFile, shownPlace } from "./filter";
 import { FilterSide } from "./filter_side";
 import { FindingDetail } from "./finding_detail";
 import { FindingList } from "./finding_list";
@@ -21,7 +21,7 @@ import { FoundManifest, MissingManifest } from "./missing_manifest";
 function asText(findings: readonly Finding[], say: Say): string {
   return findings
     .map((finding) => {
-      const place = [shownFile(finding.file), placeOf(finding)].filter((part) => part !== "").join(" ");
+      const place = `${shownFile(finding.file)} ${shownPlace(finding, say)}`;
       const fix = finding.fix === null ? "" : `  ${say(kFindingsWords.fix)}: ${finding.fix}`;
       return `${place}  ${say(kPageWords.severity[finding.severity])}  ${finding.message}${fix}`;
     })
@@ -83,7 +83,7 @@ function Reported({ report }: { report: CheckReport }) {
   const listed = useMemo(() => listedFindings(report.findings, filter), [report, filter]);
   const at = chosen === undefined ? -1 : listed.indexOf(chosen);
   const open = (finding: Finding | undefined) =>
-    finding !== undefined && select({ file: finding.file, cell: placeOf(finding) || "A1" });
+    finding !== undefined && select({ file: finding.file, cell: placeOf(finding) });
   const shown = listed[at];
   return (
     <div class="with-side">

@@ -34,6 +34,13 @@ function rowOfLine(cells: TableCells, line: number): number | undefined {
   return index < 0 ? undefined : index + 1;
 }
 
+/** The spot that `select` was given: a cell, a row, or "@19" for the row of that line of the file. */
+export function spotIn(cells: TableCells, name: string): Spot | undefined {
+  if (!name.startsWith("@")) return spotOf(name);
+  const row = rowOfLine(cells, Number(name.slice(1)));
+  return row === undefined ? undefined : { row, column: 0 };
+}
+
 /** Where a finding points: a cell, a whole row, or nowhere within the table. */
 export function spotOfFinding(finding: Finding, cells: TableCells): Spot | undefined {
   if (finding.cell !== null) return spotOf(finding.cell);

@@ -9,7 +9,7 @@ import type { Finding } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 import { kGridWords } from "../../words/grid";
 import { Grid } from "./grid";
-import { type FindingsBySpot, findingsBySpot, nameOfSpot, type Spot, spotOf, spotOfFinding } from "./places";
+import { type FindingsBySpot, findingsBySpot, nameOfSpot, type Spot, spotIn, spotOfFinding } from "./places";
 import { fileNamed, useCells } from "./use_cells";
 
 /** What stands in the selected cell, whole: in the grid it may be cut off. */
@@ -179,7 +179,7 @@ interface TablePaneProps {
 
 function Loaded({ cells, findings, at, select, isCompact = false }: TablePaneProps & { cells: TableCells }) {
   const say = useSay();
-  const spot = at === undefined ? undefined : spotOf(at);
+  const spot = at === undefined ? undefined : spotIn(cells, at);
   const bySpot = useMemo(() => findingsBySpot(findings, cells), [findings, cells]);
   const selectSpot = (next: Spot) => select(nameOfSpot(next));
   const form = kGridWords.forms[cells.form];
