@@ -13,14 +13,24 @@ const forBrowsers = {
   bundle: true,
   format: "iife",
   target: ["chrome113", "firefox113"],
-  charset: "utf8",
+  charset: "ascii",
   minify: true,
+  metafile: true,
   legalComments: "none",
   logLevel: "warning",
   jsx: "automatic",
   jsxImportSource: "preact",
   write: false,
 };
+
+const licences = () => readFileSync("licences.txt", "utf8");
+
+/** Whose code is in the page is said in the page. */
+function assertLicencesAreTold({ inputs }) {
+  const names = Object.keys(inputs).map((path) => /node_modules\/((?:@[^/]+\/)?[^/]+)/.exec(path)?.[1]);
+  const untold = names.filter((name) => name && !licences().includes(name));
+  if (untold.length > 0) throw new Error(`licences.txt lacks ${untold.join(", ")}`);
+}
 
 /** The page's script and styles. A served page asks its server instead of having an engine inside. */
 export async function bundle({ entry = "src/main.tsx", isServed = false, minify = true } = {}) {
@@ -32,6 +42,7 @@ export async function bundle({ entry = "src/main.tsx", isServed = false, minify 
     loader: { ".svg": "dataurl" },
     define: { IS_SERVED: String(isServed) },
   });
+  assertLicencesAreTold(result.metafile);
   const text = (ending) => result.outputFiles.find((file) => file.path.endsWith(ending))?.text ?? "";
   return { script: text(".js"), style: text(".css") };
 }
@@ -66,7 +77,7 @@ export async function page({ script, style, module = "", worker = "", isServed =
   const { script: start } = await bundle({ entry: "src/start.ts" });
   // The bundler writes these two in another way: the text of an element that holds them would end there.
   if (/<\/script|<!--/i.test(start)) throw new Error("the first script would end its own element");
-  return `<!doctype html>
+  const html = `<!doctype html>
 <html lang="zh-CN">
 <head>
 <meta charset="utf-8">
@@ -78,11 +89,16 @@ export async function page({ script, style, module = "", worker = "", isServed =
 <body>
 <script type="application/json" id="plateconfig-data"></script>
 <script type="text/plain" id="plateconfig-module">${module}</script>
+<script type="text/plain" id="plateconfig-licences">
+${licences()}</script>
 <script type="text/plain" id="plateconfig-page">${packed(JSON.stringify({ script, style, worker }))}</script>
 <script>${start}</script>
 </body>
 </html>
 `;
+  // Programs that hold the page cut it anywhere.
+  if (/[^\n -~]/.test(html)) throw new Error("the page is not ASCII");
+  return html;
 }
 
 /** The module and the worker's script as the page holds them, from the folder into which CMake builds the engine. */

@@ -31,11 +31,15 @@ const ColumnSchema& ColumnNamed(std::string_view name) {
 /// it, or much like it; empty when there is none.
 std::string Meant(const std::string& text, const std::vector<std::string>& known) {
   const std::string folded = FoldedName(text);
-  for (const std::string& name : known) {
-    if (!folded.empty() && FoldedName(name).find(folded) != std::string::npos) return name;
-    if (folded.find(FoldedName(name)) != std::string::npos) return name;
-  }
-  return MostSimilarName(folded, {known.begin(), known.end()});
+  std::vector<std::string> names(known.size());
+  std::transform(known.begin(), known.end(), names.begin(), FoldedName);
+  auto meant = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+    return (!folded.empty() && name.find(folded) != std::string::npos) ||
+           folded.find(name) != std::string::npos;
+  });
+  if (meant == names.end())
+    meant = std::find(names.begin(), names.end(), MostSimilarName(folded, {names.begin(), names.end()}));
+  return meant == names.end() ? std::string() : known[static_cast<std::size_t>(meant - names.begin())];
 }
 
 /// Two columns that stand side by side: a name and what belongs to it.

@@ -5,6 +5,7 @@ import argparse
 import collections
 import concurrent.futures
 import hashlib
+import itertools
 import json
 import os
 import pathlib
@@ -136,7 +137,7 @@ def tried(mutants, wanted, jobs, trial, kept):
     remaining = iter(mutants)
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         while made < wanted:
-            batch = [mutant for mutant, _ in zip(remaining, range(min(wanted - made, 8 * jobs)))]
+            batch = list(itertools.islice(remaining, min(wanted - made, 8 * jobs)))
             if not batch:
                 return
             for mutant, fate in pool.map(judge, batch):

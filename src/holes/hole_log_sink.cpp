@@ -34,14 +34,10 @@ constexpr InclusionTexts kDiameterTexts[] = {
     {"bottomDiaInclude", "no bottomDiaInclude"},
 };
 
-/// The length of the longest beginning of whole characters that fits into a line.
+/// The length of the longest beginning of whole characters that fits into a line; of a text that does not.
 std::size_t CutLength(std::string_view text) {
   std::size_t length = 0;
-  while (length < text.size()) {
-    const std::size_t next = length + GbkCharLength(text, length);
-    if (next > kLongestLine) break;
-    length = next;
-  }
+  for (std::size_t next = 0; next <= kLongestLine; next += GbkCharLength(text, next)) length = next;
   return length;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <type_traits>
 
 #include "holes/classification.h"
 #include "holes/hole_log_sink.h"
@@ -29,7 +30,7 @@ namespace {
 
 template <typename Function>
 auto MapSegments(const std::vector<HoleInfo>& holes, Function function) {
-  std::vector<decltype(function(holes[0]))> values(holes.size());
+  std::vector<std::invoke_result_t<Function, const HoleInfo&>> values(holes.size());
   std::transform(holes.begin(), holes.end(), values.begin(), function);
   return values;
 }

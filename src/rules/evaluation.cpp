@@ -41,6 +41,7 @@ class RowTest {
         plate_(plate),
         sink_(sink.Listens() ? &sink : nullptr),
         everyCondition_(sink_ != nullptr && sink_->WantsEveryCondition()),
+        whatFits_(sink_ != nullptr && sink_->WantsWhatFits()),
         softFits_(IsAccepted(Material::kSoft)),
         hardFits_(IsAccepted(Material::kHard)) {
     for (std::size_t i = 0; i < std::size(kFaceConditions); ++i)
@@ -106,14 +107,15 @@ class RowTest {
   template <bool listens>
   bool TestSize(const SizeCondition& size, const RuleRow& row) const {
     const bool passed = (row.*size.range).Accepts(plate_.*size.value);
-    if constexpr (listens) sink_->OnSize(size, row, plate_, passed);
+    if (listens && (whatFits_ || !passed)) sink_->OnSize(size, row, plate_, passed);
     return passed;
   }
 
   template <bool listens>
   bool TestMaterial(const RuleRow& row) const {
     const bool passed = row.material == Material::kSoft ? softFits_ : hardFits_;
-    if constexpr (listens) sink_->OnMaterial(tables_.MaterialColors(row.material), plate_, passed);
+    if (listens && (whatFits_ || !passed))
+      sink_->OnMaterial(tables_.MaterialColors(row.material), plate_, passed);
     return passed;
   }
 
@@ -128,6 +130,7 @@ class RowTest {
   const Plate& plate_;
   EvaluationSink* const sink_;  // Null when nobody listens.
   const bool everyCondition_;
+  const bool whatFits_;
   const bool softFits_;  // Whether the plate's colour is one of the material's.
   const bool hardFits_;
   std::array<bool, std::size(kFaceConditions)> present_{};  // Whether a face has one of the colours.

@@ -92,6 +92,8 @@ class EvaluationSink {
 
   /// True to see every condition of a row, also behind its first one that fails, and every process.
   virtual bool WantsEveryCondition() const { return false; }
+  /// False to be told only of the sizes and materials that refuse a row: most fit. Asked once per evaluation.
+  virtual bool WantsWhatFits() const { return true; }
   /// False to be told nothing once the plate is measured. Asked once per evaluation.
   virtual bool Listens() const { return true; }
 };

@@ -56,28 +56,40 @@ const Texts& TextsOf(const Texts (&texts)[count], Condition condition) {
                        [condition](const Texts& row) { return row.condition == condition; });
 }
 
+/// Characters that a line takes at most, beside those of its text or label.
+constexpr std::size_t kLineRoom = kNumberRoom + 1;
+
+// Each writes a line at `to` and tells where it ends.
+
+char* EndLine(char* to) {
+  *to = '\n';
+  return to + 1;
+}
+
+char* PutLine(char* to, std::string_view text) {
+  return EndLine(Put(to, text));
+}
+
+char* PutLine(char* to, std::string_view label, double value) {
+  return EndLine(PutStreamNumber(Put(to, label), value));
+}
+
+char* PutLine(char* to, std::string_view label, int value) {
+  return EndLine(PutInt(Put(to, label), value));
+}
+
 }  // namespace
 
 void TraceSink::Line(std::string_view text) {
-  EndLine(Put(text_.Room(text.size() + 1), text));
+  text_.KeepUpTo(PutLine(text_.Room(text.size() + kLineRoom), text));
 }
 
 void TraceSink::Line(std::string_view label, double value) {
-  EndLine(PutStreamNumber(Put(text_.Room(label.size() + kNumberRoom + 1), label), value));
+  text_.KeepUpTo(PutLine(text_.Room(label.size() + kLineRoom), label, value));
 }
 
 void TraceSink::Line(std::string_view label, int value) {
-  EndLine(PutInt(Put(text_.Room(label.size() + kNumberRoom + 1), label), value));
-}
-
-void TraceSink::EndLine(char* end) {
-  *end = '\n';
-  text_.KeepUpTo(end + 1);
-}
-
-void TraceSink::RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range) {
-  Line(minimum, range.minimum);
-  Line(maximum, range.maximum);
+  text_.KeepUpTo(PutLine(text_.Room(label.size() + kLineRoom), label, value));
 }
 
 void TraceSink::OnBody(const Plate& plate) {
@@ -108,15 +120,17 @@ void TraceSink::OnRow(const RuleRow& row) {
   Line("当前行号:"_gbk, row.lineNumber);
 }
 
-void TraceSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate&, bool passed) {
-  if (passed) return;
+void TraceSink::OnSize(const SizeCondition& size, const RuleRow& row, const Plate&, bool) {
   const SizeTexts& texts = TextsOf(kSizeTexts, size.condition);
-  Line(texts.refusal);
-  RangeLines(texts.minimum, texts.maximum, row.*size.range);
+  const SizeRange& range = row.*size.range;
+  // The lines that a trace has most of, in one go.
+  char* to = text_.Room(texts.refusal.size() + texts.minimum.size() + texts.maximum.size() + 3 * kLineRoom);
+  to = PutLine(to, texts.refusal);
+  to = PutLine(to, texts.minimum, range.minimum);
+  text_.KeepUpTo(PutLine(to, texts.maximum, range.maximum));
 }
 
-void TraceSink::OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool passed) {
-  if (passed) return;
+void TraceSink::OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool) {
   Line("材料颜色不符合此规则！"_gbk);
   Line("材料颜色:"_gbk, plate.color);
   for (const int color : accepted) Line("材料颜色配置:"_gbk, color);
@@ -131,9 +145,12 @@ void TraceSink::OnFaces(Condition condition, const std::vector<int>&, bool wante
 }
 
 void TraceSink::OnMatch(const RuleRow& row, const std::string& text) {
-  RangeLines("vecRuleInfos[i].dbMinLength；"_gbk, "vecRuleInfos[i].dbMaxLength；"_gbk, row.length);
-  RangeLines("vecRuleInfos[i].dbMinWidth；"_gbk, "vecRuleInfos[i].dbMaxWidth；"_gbk, row.width);
-  RangeLines("vecRuleInfos[i].dbMinHeight；"_gbk, "vecRuleInfos[i].dbMaxHeight；"_gbk, row.height);
+  Line("vecRuleInfos[i].dbMinLength；"_gbk, row.length.minimum);
+  Line("vecRuleInfos[i].dbMaxLength；"_gbk, row.length.maximum);
+  Line("vecRuleInfos[i].dbMinWidth；"_gbk, row.width.minimum);
+  Line("vecRuleInfos[i].dbMaxWidth；"_gbk, row.width.maximum);
+  Line("vecRuleInfos[i].dbMinHeight；"_gbk, row.height.minimum);
+  Line("vecRuleInfos[i].dbMaxHeight；"_gbk, row.height.maximum);
   Line(text);
 }
 

@@ -30,13 +30,12 @@ class TraceSink : public EvaluationSink {
   void OnMaterial(const std::vector<int>& accepted, const Plate& plate, bool passed) override;
   void OnFaces(Condition condition, const std::vector<int>& colors, bool wanted, bool present) override;
   void OnMatch(const RuleRow& row, const std::string& text) override;
+  bool WantsWhatFits() const override { return false; }
 
  private:
   void Line(std::string_view text);
   void Line(std::string_view label, double value);
   void Line(std::string_view label, int value);
-  void EndLine(char* end);
-  void RangeLines(std::string_view minimum, std::string_view maximum, const SizeRange& range);
   void ColorBlock(std::string_view title, std::string_view label, const std::vector<int>& colors);
 
   DiagnosticFile& file_;

@@ -26,7 +26,8 @@ class TextBuffer {
 
  private:
   void Grow(std::size_t least) {
-    constexpr std::size_t kFirstCapacity = 4096;
+    // As much as most have at the end: growing there copies all of it, and untouched memory costs nothing.
+    constexpr std::size_t kFirstCapacity = std::size_t{64} << 10;
     const std::size_t capacity = std::max({least, 2 * capacity_, kFirstCapacity});
     auto larger = UninitializedMemory<char>(capacity);
     if (size_ > 0) std::memcpy(larger.get(), text_.get(), size_);

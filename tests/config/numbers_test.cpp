@@ -47,6 +47,7 @@ TEST(ParsedInt, OutOfRangeIsTheNearestInt) {
   EXPECT_EQ(ParseInt("2147483648"), 2147483647);
   EXPECT_EQ(ParseInt("4294967296"), 2147483647);
   EXPECT_EQ(ParseInt("99999999999999999999"), 2147483647);
+  EXPECT_EQ(ParseInt("-2147483647"), -2147483647);
   EXPECT_EQ(ParseInt("-2147483648"), -2147483647 - 1);
   EXPECT_EQ(ParseInt("-2147483649"), -2147483647 - 1);
   EXPECT_EQ(ParseInt("-99999999999999999999"), -2147483647 - 1);
@@ -130,6 +131,11 @@ TEST(ParsedDouble, OfManyDigitsAndAnExponentWeighsBoth) {
   // 16^501 times 2^-700 is 2^1304; 16^-500 times 2^800 is 2^-1200.
   EXPECT_EQ(ParseDouble("0x1" + std::string(501, '0') + "p-700"), kInfinity);
   EXPECT_EQ(ParseDouble("0x0." + std::string(499, '0') + "1p800"), 0.0);
+  // 16^2000 is 2^8000: times 2^-5000 it is 2^3000, times 2^-9200 it is 2^-1200.
+  EXPECT_EQ(ParseDouble("0x1" + std::string(2000, '0') + "p-5000"), kInfinity);
+  EXPECT_EQ(ParseDouble("0x1" + std::string(2000, '0') + "p-9200"), 0.0);
+  EXPECT_EQ(ParseDouble("1" + std::string(2000, '0') + "e-3000"), 0.0);
+  EXPECT_EQ(ParseDouble("1" + std::string(400, '0') + "e-10"), kInfinity);
   EXPECT_EQ(ParseDouble("1" + std::string(400, '0') + "e-400"), 1.0);
   EXPECT_EQ(ParseDouble("0." + std::string(399, '0') + "1e400"), 1.0);
 }
@@ -152,7 +158,11 @@ TEST(StreamText, HasSixSignificantDigitsAtMost) {
   EXPECT_EQ(StreamNumber(-200), "-200");
   EXPECT_EQ(StreamNumber(1.0 / 3), "0.333333");
   EXPECT_EQ(StreamNumber(123456), "123456");
+  EXPECT_EQ(StreamNumber(999999), "999999");
+  EXPECT_EQ(StreamNumber(1000000), "1e+06");
   EXPECT_EQ(StreamNumber(1234567), "1.23457e+06");
+  EXPECT_EQ(StreamNumber(999.875), "999.875");
+  EXPECT_EQ(StreamNumber(123.0625), "123.062") << "halfway between two: the even one";
   EXPECT_EQ(StreamNumber(0.00001), "1e-05");
   EXPECT_EQ(StreamNumber(-1.23456e-300), "-1.23456e-300");
   EXPECT_EQ(StreamNumber(-0.0), "-0");

@@ -139,6 +139,9 @@ TEST(NumberText, IsTheShortestThatReadsBack) {
   EXPECT_EQ(NumberText(100000), "100000");
   EXPECT_EQ(NumberText(-2.5), "-2.5");
   EXPECT_EQ(NumberText(0), "0");
+  EXPECT_EQ(NumberText(999'999'999'999'999.0), "999999999999999");
+  EXPECT_EQ(NumberText(1e15), "1e+15");
+  EXPECT_EQ(NumberText(-1e15), "-1e+15");
   EXPECT_EQ(NumberText(1e22), "1e+22");
 }
 

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "platform/diagnostic_file.h"
+#include "support/descriptors_posix.h"
 #include "support/environment.h"
 #include "support/temporary_folder.h"
 
@@ -114,6 +115,18 @@ TEST_F(DiagnosticPlace, TakesTheTextsOfTwoProcessesEachInOnePiece) {
   for (std::string line; std::getline(lines, line); ++count)
     ASSERT_TRUE(line + "\n" == a || line + "\n" == b);
   EXPECT_EQ(count, 1 + 2 * kTimes);
+}
+
+TEST_F(DiagnosticPlace, MayHaveTheDescriptorOfAClosedStandardInput) {
+  const ScopedVariable state("XDG_STATE_HOME", folder_.Path().string());
+  EXPECT_TRUE(Append("a\n"));
+  {
+    const ClosedStandardInput closed;
+    ASSERT_EQ(LowestFreeDescriptor(), 0);
+    EXPECT_TRUE(Append("b\n"));
+    EXPECT_EQ(LowestFreeDescriptor(), 0);
+  }
+  EXPECT_EQ(ReadBytes(folder_.Path() / "plateconfig/log.txt"), "a\nb\n");
 }
 
 TEST_F(DiagnosticPlace, ThatIsFullIsIgnored) {

@@ -1,4 +1,3 @@
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
@@ -12,6 +11,7 @@
 #include "config/read_config_file.h"
 #include "platform/file.h"
 #include "platform/posix_path.h"
+#include "support/descriptors_posix.h"
 #include "support/gbk_text.h"
 #include "support/temporary_folder.h"
 #include "text/gbk.h"
@@ -234,10 +234,13 @@ TEST(PosixFile, WhoseReadingFailsGivesNothing) {
   EXPECT_FALSE(ReadWholeFile(unreadable));
 }
 
-int LowestFreeDescriptor() {
-  const int descriptor = open("/dev/null", O_RDONLY);
-  close(descriptor);
-  return descriptor;
+TEST(PosixFile, MayGetTheDescriptorOfAClosedStandardInput) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("file", "x");
+  const ClosedStandardInput closed;
+  ASSERT_EQ(LowestFreeDescriptor(), 0);
+  EXPECT_EQ(Read(path), "x");
+  EXPECT_EQ(LowestFreeDescriptor(), 0);
 }
 
 TEST(PosixFile, IsClosedAgainWhetherItCouldBeReadOrNot) {

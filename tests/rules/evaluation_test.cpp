@@ -239,6 +239,29 @@ TEST(EvaluationSteps, AnExplanationDoesNotChangeTheMatch) {
   EXPECT_EQ(sink.matchedLine, 3);
 }
 
+/// Notes of the sizes and materials those that refuse a row.
+class RefusalSink : public RecordingSink {
+ public:
+  using RecordingSink::RecordingSink;
+  bool WantsWhatFits() const override { return false; }
+};
+
+TEST(EvaluationSteps, ASinkMayBeToldOfTheSizesAndMaterialsThatRefuseAlone) {
+  const RuleTables tables = LoadTexts(
+      "通用要求,通用参数,模板所在图层,长度范围,材质要求\n"
+      "软料（体颜色）,12,,,\n"
+      ",,1,0_50,\n"
+      ",,1,0_100,软料（体颜色）\n"
+      ",,1,0_100,\n");
+  RefusalSink refusals;
+  EvaluatePlate(tables, MakePlate(80), {}, refusals);
+  EXPECT_EQ(refusals.steps, "row3 length- row4 material- row5 profile+ wire+");
+  EXPECT_EQ(refusals.matchedLine, 5);
+  RefusalSink ofAll(true);
+  EvaluatePlate(tables, MakePlate(80), {}, ofAll);
+  EXPECT_EQ(ofAll.steps, "row3 length- profile+ wire+ row4 material- profile+ wire+ row5 profile+ wire+");
+}
+
 /// Would note the steps, but does not listen.
 class DeafSink : public RecordingSink {
  public:

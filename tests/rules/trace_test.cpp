@@ -201,6 +201,16 @@ TEST(Trace, ShowsEachRowUpToTheMatch) {
   EXPECT_EQ(TraceOf(LibraryOf(kSeveralRows), {}), Gbk(Joined(Head(), kSeveralLines)));
 }
 
+TEST(Trace, ShowsThousandsOfRows) {
+  std::string rows;
+  std::string lines;
+  for (int line = 5; line < 4005; ++line) {
+    rows += ",,3,500_600.25,,,,,,,,\n";
+    lines += "当前行号:" + std::to_string(line) + "\n长度不符合此规则！\n最小长度：500\n最大长度：600.25\n";
+  }
+  EXPECT_EQ(TraceOf(LibraryOf(rows), {}), Gbk(Head() + lines));
+}
+
 TEST(Trace, CallsAreAppended) {
   const DiagnosticFolder diagnostics;
   const ProcessRuleLibrary library = LibraryOf(kSeveralRows);

@@ -110,7 +110,7 @@ std::vector<double> Numbers() {
     }
   }
   std::mt19937_64 random(7);
-  while (numbers.size() < 40'000) {
+  while (numbers.size() < 12'000) {
     const double any = std::bit_cast<double>(random());
     if (std::isfinite(any)) numbers.push_back(any);
     numbers.push_back(static_cast<double>(random() % 100'000'000) / 1000);

@@ -4,9 +4,11 @@
 
 #include <emscripten/em_js.h>
 #include <emscripten/emscripten.h>
+#include <spawn.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <sstream>
 #include <streambuf>
@@ -56,6 +58,12 @@ std::vector<std::string>& Arguments() {
 }  // namespace
 
 extern "C" {
+
+/// There is no other program that could be started; emscripten lacks this one word for that.
+int posix_spawnp(pid_t*, const char*, const posix_spawn_file_actions_t*, const posix_spawnattr_t*,
+                 char* const[], char* const[]) {
+  return ENOSYS;
+}
 
 /// What the system around JavaScript sets, and what emscripten makes up (a HOME, a LANG), are not the page's.
 EMSCRIPTEN_KEEPALIVE void ClearVariables() {

@@ -56,11 +56,6 @@ export async function openPage(browser: Browser, language: Language = "zh"): Pro
     if (!isServed && /^(https?|wss?):/.test(request.url())) complaints.push(`asks ${request.url()}`);
   });
   await page.goto(address);
-  // The page listens for drops once it was drawn.
-  await page.evaluate(
-    () =>
-      new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(() => setTimeout(done, 50)))),
-  );
   return { page, context, complaints };
 }
 

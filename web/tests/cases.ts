@@ -49,7 +49,11 @@ function everyWay(
 const all = ["text", "json", "csv"];
 
 export async function sampleCases(): Promise<Case[]> {
-  const files = await filesBelow(samples, "samples");
+  const page = {
+    path: "page.html",
+    bytes: new Uint8Array(await readFile("../tests/companion/report/stand_in.html")),
+  };
+  const files = [...(await filesBelow(samples, "samples")), page];
   const configurations = (await readdir(`${samples}/config`, { withFileTypes: true }))
     .filter((entry) => entry.isDirectory())
     .map((entry) => `samples/config/${entry.name}`);
@@ -62,6 +66,15 @@ export async function sampleCases(): Promise<Case[]> {
     ...everyWay(`show --config ${config} --meanings process-rules`, files),
     ...everyWay(`process --config ${config} samples/plates.json -o out.csv`, files, ["csv"]),
     ...everyWay(`init ${config}`, files, ["text"]),
+    ...everyWay(`picture map --config ${config} --x length --y width`, files, ["json"]),
+    ...everyWay(`picture map --config ${config} --x thickness --y weight --profile`, files, ["json"]),
+    ...files
+      .filter(({ path }) => path.startsWith(config) && path.endsWith(".csv"))
+      .flatMap(({ path }) => everyWay(`picture cells ${path}`, files, ["json"])),
+    ...everyWay(`report --page page.html --config ${config} --plates samples/plates.csv`, files, ["text"]),
+    ...everyWay(`report --page page.html --config ${config} --holes samples/holes.csv -o r.html`, files, [
+      "text",
+    ]),
     ...everyWay(
       `check --config ${config} --holes samples/holes.csv --hole-types samples/hole-types.csv`,
       files,
@@ -73,6 +86,7 @@ export async function sampleCases(): Promise<Case[]> {
   const others = [
     ...everyWay("holes --explain --types samples/hole-types.csv samples/holes.csv", files),
     ...everyWay("holes --types samples/hole-types.json samples/holes.json", files, all),
+    ...everyWay("picture holes --types samples/hole-types.csv samples/holes.csv", files, ["json"]),
     ...everyWay("schema", files, ["text", "json", "markdown"]),
     ...everyWay("folder", files),
     ...["folder", "explain samples/plates.csv --plate 加长托板", "check", "show"].flatMap((line) =>
@@ -98,6 +112,8 @@ function usageCases(files: readonly InputFile[]): Case[] {
     "show",
     "schema",
     "template",
+    "picture",
+    "report",
   ];
   const lines = [
     "",

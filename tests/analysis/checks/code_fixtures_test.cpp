@@ -301,6 +301,25 @@ TEST(ListValues, ThatAreIgnoredAreToldWhatToWrite) {
   EXPECT_EQ(AdviceOf(layer[0], Language::kChinese), "请写 1 到 256 的整数");
 }
 
+/// The parameters' names that are proposed where soft and hard material have these ones.
+std::vector<std::string> ProposedFor(const std::string& soft, const std::string& hard) {
+  std::string table = With("软料（体颜色）,12", soft + ",12");
+  table.replace(table.find("硬料（体颜色）,42"), std::string("硬料（体颜色）").size(), hard);
+  std::vector<std::string> proposed;
+  for (const Finding& finding : FindingsNamed("parameter-unknown", Role::kProcessRules, table))
+    proposed.push_back(finding.fix.value_or(""));
+  return proposed;
+}
+
+TEST(ParameterNames, OfWhichSeveralAreMissingAreProposedToTheNamesThatLookLikeThem) {
+  const auto both = ElementsAre("软料（体颜色）", "硬料（体颜色）");
+  EXPECT_THAT(ProposedFor("软料", "硬料"), both);
+  EXPECT_THAT(ProposedFor("软料（体颜色）的", "用于硬料(体颜色)"), both);
+  EXPECT_THAT(ProposedFor("软科（体颜色）", "硬科（体颜色）"), both);
+  EXPECT_THAT(ProposedFor("软料（本颜色）", "硬料(本颜色)"), both);
+  EXPECT_THAT(ProposedFor("甲", "乙"), IsEmpty());
+}
+
 TEST(ConditionParameters, AColorThatNoPlateHasIsToldInItsCell) {
   const auto found =
       FindingsNamed("color-out-of-range", Role::kProcessRules, With("圆孔颜色,36", "圆孔颜色,217_36_0_216"));
@@ -339,6 +358,15 @@ TEST(ChosenNames, MayHoldSingleBlanksBetweenWordsOfLetters) {
   }
   const auto found = FindingsNamed("column-blank", Role::kColumnWidths, "规 格\n1\n");
   EXPECT_EQ(found.at(0).fix, "规格");
+}
+
+TEST(ChosenNames, StandThereOnceAndWithoutQuestionMarks) {
+  const auto second = FindingsNamed("column-second", Role::kColumnWidths, "序号,备注,序号\n10,80,20\n");
+  ASSERT_EQ(second.size(), 1u);
+  EXPECT_EQ(second[0].cell, "C1");
+  const auto lost = FindingsNamed("text-question-mark", Role::kColumnWidths, "序号,备?\n10,80\n");
+  ASSERT_EQ(lost.size(), 1u);
+  EXPECT_EQ(lost[0].cell, "B1");
 }
 
 TEST(ProcessTexts, ABlankComesBeforeTheTextThatItLooksLike) {

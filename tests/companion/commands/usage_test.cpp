@@ -213,7 +213,7 @@ TEST(Usage, AMisspelledVerbOptionOrValueIsAnsweredWithTheNearestOne) {
 TEST(Usage, WhatIsMissingOrTooManyIsNamed) {
   EXPECT_EQ(Complaint({}),
             "plateconfig: error: a verb is missing: one of folder, init, check, process, explain, diff, "
-            "holes, show, schema, template, picture");
+            "holes, show, schema, template, report, picture");
   EXPECT_EQ(Complaint({"process"}), "plateconfig: error: the argument FILE is missing: plates");
   EXPECT_EQ(Complaint({"holes", "a.csv"}),
             "plateconfig: error: the option --types FILE is missing: hole types");

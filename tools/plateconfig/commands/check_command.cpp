@@ -3,13 +3,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <sstream>
 
 #include "plateconfig/checking/accepted_findings.h"
-#include "plateconfig/checking/check_job.h"
+#include "plateconfig/checking/check_run.h"
 #include "plateconfig/checking/code_page.h"
-#include "plateconfig/checking/gathered_tables.h"
-#include "plateconfig/checking/input_findings.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
 #include "plateconfig/messages/language.h"
@@ -24,91 +23,28 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-class CheckRun {
- public:
-  CheckRun(const CheckJob& job, Context& context)
-      : job_(job), context_(context), configuration_(job.configuration, context.reporter) {
-    options_.wants = [this](const CodeRow& row) { return IsWanted(job_, row); };
-    for (const std::string& size : job.domain) TakeDomain(size, options_.gaps);
-    options_.gaps.limit = job.limit;
-  }
+std::string Indented(const Json& json) {
+  return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
 
-  void Run() {
-    GatheredTables gathered = GatherTables(configuration_, job_.configuration, context_.reporter);
-    if (context_.reporter.Result() == kUnusable || IsFolderMissing(gathered.wayThere)) return;
-    report_ = CheckConfiguration(gathered.tables, options_);
-    report_.folder = gathered.folder;
-    Put(std::move(gathered.wayThere), report_.findings.begin());
-    Put(InputFindings(job_, gathered.tables, report_, context_.streams, context_.reporter),
-        report_.findings.end());
-    if (report_.unconfirmed.empty()) return Finish();
-    context_.reporter.Error({"plateconfig"},
-                            Say("internal error: a finding was not confirmed by the evaluation",
-                                "内部错误：有一项结论未得到计算的证实"));
-  }
-
- private:
-  /// Of a folder that the command line names there is nothing to check then: an error of the call, not a
-  /// finding. Of the active folder it is one, and the way there has told it.
-  bool IsFolderMissing(std::vector<Finding>& wayThere) {
-    const auto missing = std::find_if(wayThere.begin(), wayThere.end(), [](const Finding& finding) {
-      return finding.code == Code("config-folder-missing");
-    });
-    if (missing == wayThere.end()) return false;
-    if (job_.configuration.folder.empty()) {
-      wayThere.erase(missing);
-      return false;
-    }
-    for (const Finding& finding : wayThere) context_.reporter.Report(finding);
-    return true;
-  }
-
-  /// Puts findings that are wanted, in their order, in front of `before`.
-  void Put(std::vector<Finding> findings, std::vector<Finding>::iterator before) {
-    Arrange(findings, options_);
-    std::stable_sort(findings.begin(), findings.end(),
-                     [](const Finding& a, const Finding& b) { return a.place.file < b.place.file; });
-    report_.findings.insert(before, std::make_move_iterator(findings.begin()),
-                            std::make_move_iterator(findings.end()));
-  }
-
-  void Finish() {
-    if (!job_.baseline.empty() && !ApplyBaseline()) return;
-    context_.streams.out << Text();
-    const auto fails = [this](const Finding& finding) { return finding.code.Row().severity <= job_.failOn; };
-    if (std::any_of(report_.findings.begin(), report_.findings.end(), fails))
-      context_.reporter.CountFinding();
-  }
-
-  bool ApplyBaseline() {
-    return job_.updateBaseline ? AcceptAll(job_.baseline, report_, context_.reporter)
-                               : LeaveOutAccepted(job_.baseline, report_, context_.reporter);
-  }
-
-  std::string Text() const {
-    const bool isJson = job_.format == "json" || (job_.format.empty() && context_.format == Format::kJson);
-    if (isJson) return Indented(ToJson(report_, CurrentLanguage()));
-    if (job_.format == "sarif") return Indented(ToSarif(report_, CurrentLanguage()));
-    std::ostringstream text;
-    text.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
-    if (job_.format == "csv" || (job_.format.empty() && context_.format == Format::kCsv)) {
-      WriteFindingsCsv(report_, text);
-      return text.str();
-    }
-    WriteFindings(report_, text);
+std::string TextOf(const CheckReport& report, const CheckJob& job, Format format) {
+  const bool isJson = job.format == "json" || (job.format.empty() && format == Format::kJson);
+  if (isJson) return Indented(ToJson(report, CurrentLanguage()));
+  if (job.format == "sarif") return Indented(ToSarif(report, CurrentLanguage()));
+  std::ostringstream text;
+  text.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
+  if (job.format == "csv" || (job.format.empty() && format == Format::kCsv)) {
+    WriteFindingsCsv(report, text);
     return text.str();
   }
+  WriteFindings(report, text);
+  return text.str();
+}
 
-  static std::string Indented(const Json& json) {
-    return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
-  }
-
-  const CheckJob& job_;
-  Context& context_;
-  CheckOptions options_;
-  Configuration configuration_;
-  CheckReport report_;
-};
+bool ApplyBaseline(const CheckJob& job, CheckReport& report, Reporter& reporter) {
+  return job.updateBaseline ? AcceptAll(job.baseline, report, reporter)
+                            : LeaveOutAccepted(job.baseline, report, reporter);
+}
 
 void RunCheck(const CheckJob& job, Context& context) {
   if (!job.explained.empty()) return WriteCodePage(job.explained, context.streams.out, context.reporter);
@@ -117,7 +53,10 @@ void RunCheck(const CheckJob& job, Context& context) {
                                   Say("--update-baseline writes the file that --baseline names",
                                       "--update-baseline 写出 --baseline 所指定的文件，请同时给出"));
   }
-  CheckRun(job, context).Run();
+  std::optional<CheckReport> report = CheckAll(job, context.streams, context.reporter);
+  if (!report || (!job.baseline.empty() && !ApplyBaseline(job, *report, context.reporter))) return;
+  context.streams.out << TextOf(*report, job, context.format);
+  CountFindings(job, *report, context.reporter);
 }
 
 CLI::Validator Domain() {

@@ -4,7 +4,7 @@ namespace plateconfig {
 
 // Each in a file of its own: folder_command.cpp and so on.
 AddOptions FolderOptions, InitOptions, CheckVerbOptions, ProcessOptions, ExplainOptions, DiffOptions,
-    HolesOptions, ShowOptions, SchemaOptions, TemplateOptions, PictureOptions;
+    HolesOptions, ShowOptions, SchemaOptions, TemplateOptions, PictureOptions, ReportOptions;
 
 std::span<const Verb> Verbs() {
   static constexpr std::string_view kTextOrJson = "text json";
@@ -36,6 +36,9 @@ std::span<const Verb> Verbs() {
       {"template", "write a table, or a file of plates or holes, with all columns (GBK, CR LF)",
        "写出一个表，或板、孔的文件，含全部列（GBK，CR LF）", TemplateOptions, "csv json",
        "plateconfig template plates --config samples/config/标准 -o 板.csv"},
+      {"report", "write the page with a configuration inside, as one file to keep or to mail",
+       "写出含有配置的页面：一个可保存、可邮寄的文件", ReportOptions, "text",
+       "plateconfig report --config samples/config/标准 --plates samples/plates.csv -o report.html"},
       {"picture", "print as numbers what a program needs to draw tables, rules, holes or a sheet",
        "以数值输出画表格、规则图、孔或图纸所需的内容", PictureOptions, "json",
        "plateconfig picture map --config samples/config/标准 --x length --y width"},

@@ -71,16 +71,6 @@ void WriteFile(const Finding* begin, const Finding* end, std::ostream& out) {
   out << "\n";
 }
 
-void WriteSummary(const CheckReport& report, std::ostream& out) {
-  out << Say("{}, {}, {} in {}, {}, {}",
-             "{} 个错误，{} 个警告，{} 个提示；共 {} 个表，{} 个规则行，{} 个工艺",
-             Counted(CountOf(report, Severity::kError), "error"),
-             Counted(CountOf(report, Severity::kWarning), "warning"),
-             Counted(CountOf(report, Severity::kHint), "hint"), Counted(report.tables.size(), "table"),
-             Counted(report.ruleRows, "rule row"), Counted(report.processes, "process"))
-      << "\n";
-}
-
 std::string NothingFound(const CheckReport& report) {
   return report.accepted == 0
              ? Say("nothing found; checked:", "没有发现问题；已检查：")
@@ -108,6 +98,16 @@ void WriteFindings(const CheckReport& report, std::ostream& out) {
   if (report.findings.empty()) WriteTables(report, out);
   for (const Word& text : report.incomplete) out << OnOneLine(text.In(CurrentLanguage())) << "\n";
   WriteSummary(report, out);
+}
+
+void WriteSummary(const CheckReport& report, std::ostream& out) {
+  out << Say("{}, {}, {} in {}, {}, {}",
+             "{} 个错误，{} 个警告，{} 个提示；共 {} 个表，{} 个规则行，{} 个工艺",
+             Counted(CountOf(report, Severity::kError), "error"),
+             Counted(CountOf(report, Severity::kWarning), "warning"),
+             Counted(CountOf(report, Severity::kHint), "hint"), Counted(report.tables.size(), "table"),
+             Counted(report.ruleRows, "rule row"), Counted(report.processes, "process"))
+      << "\n";
 }
 
 }  // namespace plateconfig

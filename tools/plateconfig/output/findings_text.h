@@ -11,4 +11,7 @@ namespace plateconfig {
 /// everything.
 void WriteFindings(const CheckReport& report, std::ostream& out);
 
+/// That last line alone.
+void WriteSummary(const CheckReport& report, std::ostream& out);
+
 }  // namespace plateconfig

@@ -76,19 +76,19 @@ export class WasmEngine implements Engine {
     const module = await this.module;
     return this.places.within(async () => {
       signal?.throwIfAborted();
-      return asText(await answerOf(this.takeWorker(module), { args, files }, signal));
+      const worker = this.spare ?? this.newWorker(module);
+      this.spare = undefined;
+      try {
+        return asText(await answerOf(worker, { args, files }, signal));
+      } finally {
+        this.spare ??= this.newWorker(module); // Not sooner: it would take time from this run.
+      }
     });
   }
 
   private newWorker(module: WebAssembly.Module): Worker {
     const worker = new Worker(this.script);
     worker.postMessage({ module } satisfies Prepare);
-    return worker;
-  }
-
-  private takeWorker(module: WebAssembly.Module): Worker {
-    const worker = this.spare ?? this.newWorker(module);
-    this.spare = this.newWorker(module);
     return worker;
   }
 }

@@ -1,8 +1,9 @@
 // One table as a spreadsheet shows it; of a long or wide one only what is in sight is in the page.
 
 import type { VirtualItem } from "@tanstack/virtual-core";
-import type { CSSProperties, TargetedKeyboardEvent } from "preact";
+import type { TargetedKeyboardEvent } from "preact";
 import { useCallback, useEffect, useId, useMemo, useRef } from "preact/hooks";
+import { memo } from "../../app/parts/memo";
 import { copyText } from "../../app/parts/save";
 import { SeverityMark } from "../../app/parts/severity";
 import { useVirtual } from "../../app/parts/virtual";
@@ -33,6 +34,7 @@ interface GridProps {
 }
 
 const kNone: FindingsBySpot = new Map();
+const kNoCells: readonly string[] = [];
 
 /** What the library takes a wrong cell for, where that is another text than the cell's. */
 function usedAs(findings: readonly Finding[], text: string): string | undefined {
@@ -78,21 +80,25 @@ interface RowProps {
   readonly columns: readonly VirtualItem[];
   readonly findings: FindingsBySpot;
   readonly tints: Tints | undefined;
-  readonly selected: Spot | undefined;
-  readonly style: CSSProperties;
+  /** The selected column when the selected cell is in this row; 0: the whole row. */
+  readonly selectedColumn: number | undefined;
+  /** Where the row begins, below the letters or in the body. */
+  readonly top: number;
 }
 
-function Row({ row, id, cells, columns, findings, tints, selected, style }: RowProps) {
+/** While the grid scrolls, rows that stay in sight stay as they are. */
+const Row = memo(function Row(props: RowProps) {
+  const { row, id, cells, columns, findings, tints, selectedColumn, top } = props;
   const ofRow = findings.get(String(row));
   const severity = ofRow && worst(ofRow);
   const tint = tints?.get(String(row));
-  const isSelected = selected?.row === row;
+  const isSelected = selectedColumn !== undefined;
   return (
     <div
       role="row"
       aria-rowindex={row}
       class={`row ${tint ? `is-${tint}` : ""} ${severity ? `row-${severity}` : ""}`}
-      style={style}
+      style={{ transform: `translateY(${top}px)` }}
     >
       <div
         role="rowheader"
@@ -114,14 +120,14 @@ function Row({ row, id, cells, columns, findings, tints, selected, style }: RowP
             width={size}
             findings={findings.get(name)}
             tint={tints?.get(name)}
-            isSelected={isSelected && (selected.column === index + 1 || selected.column === 0)}
+            isSelected={selectedColumn === index + 1 || selectedColumn === 0}
             isHeader={row === 1}
           />
         );
       })}
     </div>
   );
-}
+});
 
 /** The spot below the pointer, told by the cell's place. */
 function spotAt(target: EventTarget | null): Spot | undefined {
@@ -172,7 +178,11 @@ export function Grid(props: GridProps) {
   };
   const shownColumns = columns.getVirtualItems();
   const width = columns.getTotalSize() + kGutter;
-  const rowProps = { id, columns: shownColumns, findings, tints, selected };
+  const rowProps = (row: number) => ({
+    ...{ id, row, findings, tints, columns: shownColumns },
+    cells: cells.rows[row - 1]?.cells ?? kNoCells,
+    selectedColumn: selected?.row === row ? selected.column : undefined,
+  });
   return (
     <div
       class="grid"
@@ -207,14 +217,7 @@ export function Grid(props: GridProps) {
             </div>
           ))}
         </div>
-        {cells.rows.length > 0 && (
-          <Row
-            {...rowProps}
-            row={1}
-            cells={cells.rows[0]?.cells ?? []}
-            style={{ top: `${kLettersHeight}px` }}
-          />
-        )}
+        {cells.rows.length > 0 && <Row {...rowProps(1)} top={kLettersHeight} />}
       </div>
       <div
         class="grid-body"
@@ -222,13 +225,7 @@ export function Grid(props: GridProps) {
         style={{ width: `${width}px`, height: `${rows.getTotalSize()}px` }}
       >
         {rows.getVirtualItems().map(({ index, start }) => (
-          <Row
-            key={index}
-            {...rowProps}
-            row={index + 2}
-            cells={cells.rows[index + 1]?.cells ?? []}
-            style={{ transform: `translateY(${start}px)` }}
-          />
+          <Row key={index} {...rowProps(index + 2)} top={start} />
         ))}
       </div>
     </div>

@@ -40,6 +40,12 @@ function groupsOf(workspace: Workspace, report: CheckReport | undefined): readon
   ].filter(({ files }) => files.length > 0);
 }
 
+/** The rule table is what most keepers come for. */
+function firstShown(groups: readonly ListedGroup[]): string | undefined {
+  const files = groups.flatMap((group) => group.files);
+  return (files.find(({ role }) => role === "process-rules") ?? files[0])?.path;
+}
+
 const kNoFindings: readonly Finding[] = [];
 
 export function findingsByFile(report: CheckReport | undefined): ReadonlyMap<string, readonly Finding[]> {
@@ -98,7 +104,7 @@ export function Tables() {
   );
   const byFile = useMemo(() => findingsByFile(report), [report]);
   if (workspace === undefined) return <OpenFirst />;
-  const chosen = selected?.file ?? groups[0]?.files[0]?.path;
+  const chosen = selected?.file ?? firstShown(groups);
   return (
     <div class="with-side">
       <FileList

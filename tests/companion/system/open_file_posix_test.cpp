@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "plateconfig/system/open_file.h"
+#include "support/companion.h"
+
+namespace plateconfig {
+namespace {
+
+/// A system whose one program writes down what it shall open.
+class OpenFile : public testing::Test {
+ protected:
+  void MakeProgram() const {
+    folder_.WriteBytes("xdg-open", "#!/bin/sh\nprintf %s \"$*\" > \"${0%/*}/opened\"\n");
+    std::filesystem::permissions(folder_.Path() / "xdg-open", std::filesystem::perms::owner_all);
+  }
+
+  test::TemporaryFolder folder_;
+  test::ScopedVariable path_{"PATH", folder_.Path().string()};
+};
+
+TEST_F(OpenFile, GivesTheWholePathToTheSystemsProgram) {
+  MakeProgram();
+  EXPECT_TRUE(OpenWithItsProgram("-report.html"));
+  wait(nullptr);  // The program goes on by itself.
+  EXPECT_EQ(test::ReadBytes(folder_.Path() / "opened"),
+            (std::filesystem::current_path() / "-report.html").string());
+}
+
+TEST_F(OpenFile, TellsWhenThereIsNoSuchProgram) {
+  EXPECT_FALSE(OpenWithItsProgram("report.html"));
+}
+
+TEST_F(OpenFile, AReportIsWrittenAndOpenedOrSaysThatItWasNot) {
+  folder_.WriteBytes("page.html", "<script type=\"application/json\" id=\"plateconfig-data\"></script>");
+  const test::SmallConfiguration configuration;
+  const std::string report = test::ArgumentPath(folder_, "r.html");
+  const std::vector<std::string> arguments = {"report",
+                                              "--page",
+                                              test::ArgumentPath(folder_, "page.html"),
+                                              "--config",
+                                              configuration.Path(),
+                                              "-o",
+                                              report,
+                                              "--force",
+                                              "--open"};
+  const auto unopened = test::RunPlateconfig(arguments);
+  EXPECT_EQ(unopened.exitCode, 1);
+  EXPECT_NE(unopened.err.find("warning: the system found no program to open this file"), std::string::npos);
+  EXPECT_TRUE(std::filesystem::exists(report));
+  MakeProgram();
+  EXPECT_EQ(test::RunPlateconfig(arguments).err, "");
+  wait(nullptr);
+  EXPECT_EQ(test::ReadBytes(folder_.Path() / "opened"), report);
+}
+
+}  // namespace
+}  // namespace plateconfig
