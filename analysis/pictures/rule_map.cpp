@@ -38,7 +38,13 @@ std::vector<double> StatedBounds(const Rows& rows, std::size_t size) {
   return {bounds.begin(), bounds.end()};
 }
 
-/// The first interval of values that most of the rows accept.
+/// Values that two rows share because the one ends where the other begins: more than the tolerance is meant.
+bool IsSharedBound(const Interval& values) {
+  return values.high - values.low < 2 * kMaximumTolerance;
+}
+
+/// The first interval of values that most of the rows accept; one that is more than a shared bound, if there
+/// is any.
 Interval MostAccepted(const Rows& rows, std::size_t size) {
   std::vector<double> lows;
   std::vector<double> highs;
@@ -54,9 +60,12 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
     const auto begun = std::upper_bound(lows.begin(), lows.end(), low);
     const auto ended = std::lower_bound(highs.begin(), highs.end(), low);
     const std::ptrdiff_t accepting = (begun - lows.begin()) - (ended - highs.begin());
-    if (accepting <= most) continue;
+    const Interval values{low, begun == lows.end() ? *ended : std::min(*ended, Before(*begun))};
+    const bool isBetter =
+        IsSharedBound(best) == IsSharedBound(values) ? accepting > most : IsSharedBound(best);
+    if (!isBetter && most > 0) continue;
     most = accepting;
-    best = {low, *ended};  // If a row began before that end, it would be one more.
+    best = values;
   }
   return best;
 }

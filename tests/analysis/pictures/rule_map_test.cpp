@@ -143,6 +143,20 @@ TEST(RuleMap, RowsBesideEachOtherHideNothing) {
   for (const MapRegion& region : MapOf(scene, Question()).regions) EXPECT_THAT(region.hidden, IsEmpty());
 }
 
+TEST(RuleMap, ASizeThatIsNotFixedIsNoneAtWhichTwoRangesMeet) {
+  const Scene scene(
+      {{.thickness = "20_60"}, {.thickness = "60_100"}, {.thickness = "60_60", .weight = "5_5"}});
+  MapQuestion question;
+  question.bodyColor = 12;
+  // 60 to 60.001 is accepted by all three rows, but 20 to 60 by one row is more than a bound.
+  const RuleMap map = MapOf(scene, question);
+  EXPECT_GE(map.fixed[kThickness], 20);
+  EXPECT_LT(map.fixed[kThickness], 60);
+  // Where nothing else is accepted, it is the bound.
+  const double bound = MapOf(Scene({{.thickness = "60_60"}}), question).fixed[kThickness];
+  EXPECT_TRUE(60 <= bound && bound <= 60.001) << bound;
+}
+
 TEST(RuleMap, OutsideOfTheHullNothingIsAGap) {
   const Scene scene(
       {{.length = "100_200", .thickness = "20_40"}, {.length = "300_400", .thickness = "20_40"}});

@@ -160,6 +160,22 @@ TEST_F(ExplainCommand, JsonListsEveryConditionThatFailed) {
   EXPECT_EQ(result.exitCode, 1);
 }
 
+TEST_F(ExplainCommand, JsonTellsThePlateAsItWasReadToBeReadAgain) {
+  const std::string csv =
+      "名称,长度,宽度,厚度,重量,体颜色,面颜色,有无通槽,有无圆孔,圆孔颜色,圆孔直径,孔数量,下料\n"
+      "板,450,400,90,127.2,12,78_36_78,N,Y,6_36,8.5_6,9,Y\n";
+  const std::vector<std::string> arguments = {"explain",  "--config", configuration_.Path(),
+                                              "--format", "json",     "-"};
+  const Json plate = Json::parse(RunPlateconfig(arguments, csv).out).at(0);
+  EXPECT_EQ(plate.at("plate"), Json::parse(R"({
+      "name": "板", "length": 450, "width": 400, "thickness": 90, "weight": 127.2, "color": 12, "faceColors": [36, 78],
+      "features": {"有无通槽": false, "有无圆孔": true, "圆孔颜色": [6, 36], "圆孔直径": [8.5, 6], "孔数量": 9},
+      "customProcesses": ["下料"]})"));
+  const Json again = Json::parse(RunPlateconfig(arguments, plate.at("plate").dump()).out).at(0);
+  EXPECT_EQ(again.at("plate"), plate.at("plate"));
+  EXPECT_EQ(again.at("text"), plate.at("text"));
+}
+
 TEST_F(ExplainCommand, JsonOfAMatchHoldsTheRowsBeforeIt) {
   const Json plate = OnlyPlate("板,450,400,90,300,12,12,190,");
   EXPECT_EQ(plate.at("line"), 3);
