@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <set>
 
@@ -54,12 +55,17 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
   }
   std::sort(lows.begin(), lows.end());
   std::sort(highs.begin(), highs.end());
+  // A range of values that the same rows accept begins with a row, or behind one.
+  std::vector<double> begins = lows;
+  std::transform(highs.begin(), highs.end(), std::back_inserter(begins), After);
+  std::sort(begins.begin(), begins.end());
   Interval best{0, kUsualSize};
   std::ptrdiff_t most = 0;
-  for (const double low : lows) {
+  for (const double low : begins) {
     const auto begun = std::upper_bound(lows.begin(), lows.end(), low);
     const auto ended = std::lower_bound(highs.begin(), highs.end(), low);
     const std::ptrdiff_t accepting = (begun - lows.begin()) - (ended - highs.begin());
+    if (accepting == 0) continue;
     const Interval values{low, begun == lows.end() ? *ended : std::min(*ended, Before(*begun))};
     const bool isBetter =
         IsSharedBound(best) == IsSharedBound(values) ? accepting > most : IsSharedBound(best);
