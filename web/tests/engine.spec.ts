@@ -53,6 +53,7 @@ async function onPage(what: (opened: Page) => Promise<void>, prepare?: () => voi
     );
     if (prepare) await opened.addInitScript(prepare);
     await opened.goto(address);
+    await opened.waitForFunction(() => "engine" in globalThis); // The scripts are unpacked behind the page's own end.
     await what(opened);
     assert.deepEqual(complaints, []);
   } finally {

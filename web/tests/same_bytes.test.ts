@@ -1,6 +1,6 @@
 /** The module says byte for byte what the native program says: output, messages, exit code, and the files that a run writes. */
 import assert from "node:assert/strict";
-import { mkdtemp, readFile, rm } from "node:fs/promises";
+import { mkdir, mkdtemp, readFile, rm } from "node:fs/promises";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
@@ -22,6 +22,7 @@ let sumOfBytes = 0;
 async function compare({ args, files, variables = {} }: Case): Promise<number> {
   const here = join(folder, "as/deep/as/a/folder/can/be");
   await rm(here, { recursive: true, force: true });
+  await mkdir(here, { recursive: true });
   await writeBelow(here, files);
   const native = await runNative(args, here, variables);
   // A run may write over a file's bytes; each gets its own.
