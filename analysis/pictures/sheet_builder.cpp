@@ -30,6 +30,7 @@ SheetPart PartOf(PartKind kind, const Words& label) {
 
 std::vector<SheetKey> KeysOf(const std::vector<SheetSetting>& settings) {
   std::vector<SheetKey> keys;
+  keys.reserve(settings.size());
   for (const SheetSetting& setting : settings) keys.push_back(setting.key);
   return keys;
 }

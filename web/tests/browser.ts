@@ -91,6 +91,22 @@ export async function settled(page: Page): Promise<void> {
     throw new Error(`${error.message}\nThe page says: ${await page.innerText("body")}`);
   });
   await page.waitForFunction(() => !/正在|Reading|Checking|Comparing/.test(document.body.innerText));
+  await answered(page);
+}
+
+/** Longer than a view waits for typing to end before it asks. */
+const quietMilliseconds = 500;
+
+/** Waits until no run of the engine is under way, and none begins for a while. */
+async function answered(page: Page): Promise<void> {
+  await page.waitForFunction((quiet) => {
+    const place = document.getElementById("page")!;
+    const now = performance.now();
+    if (place.dataset["running"] !== "0") place.dataset["busyAt"] = String(now);
+    place.dataset["busyAt"] ??= String(now);
+    return now - Number(place.dataset["busyAt"]) > quiet;
+  }, quietMilliseconds);
+  await page.evaluate(() => delete document.getElementById("page")!.dataset["busyAt"]);
 }
 
 export async function screenshot(page: Page, name: string): Promise<void> {
