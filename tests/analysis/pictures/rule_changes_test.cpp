@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/pictures/flat_box.h"
 #include "analysis/rules/random_rule_tables.h"
 #include "analysis/rules/rule_scene.h"
 #include "analysis/rules/witness.h"
@@ -18,6 +19,8 @@
 namespace plateconfig {
 namespace {
 
+using test::End;
+using test::Flat;
 using test::Random;
 using test::Row;
 using test::Scene;
@@ -33,14 +36,6 @@ MapQuestion Question() {
   question.fixed[kWeight] = 8;
   question.bodyColor = 12;
   return question;
-}
-
-FlatBox Flat(double xLow, double xHigh, double yLow, double yHigh) {
-  return {{xLow, xHigh}, {yLow, yHigh}};
-}
-
-double End(double maximum) {
-  return maximum + 0.001;
 }
 
 TEST(RuleChanges, ABoxIsWhereOneTableWritesSomethingElseThanTheOther) {

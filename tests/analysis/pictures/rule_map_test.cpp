@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/pictures/flat_box.h"
 #include "analysis/rules/random_rule_tables.h"
 #include "analysis/rules/rule_scene.h"
 #include "analysis/rules/witness.h"
@@ -19,6 +20,8 @@
 namespace plateconfig {
 namespace {
 
+using test::End;
+using test::Flat;
 using test::Random;
 using test::Row;
 using test::Scene;
@@ -40,15 +43,6 @@ MapQuestion Question() {
   question.fixed[kThickness] = 30;
   question.bodyColor = 12;
   return question;
-}
-
-FlatBox Flat(double xLow, double xHigh, double yLow, double yHigh) {
-  return {{xLow, xHigh}, {yLow, yHigh}};
-}
-
-/// Bounds of the evaluation: what it accepts above a maximum.
-double End(double maximum) {
-  return maximum + 0.001;
 }
 
 TEST(RuleMap, ARowWinsWhereNoEarlierOneTakesThePlate) {
