@@ -87,14 +87,6 @@ void AddCodes(CLI::App& command, const char* option, std::vector<std::string>& c
       ->check(KnownCode());
 }
 
-void AddFile(CLI::App& command, const char* option, std::vector<std::string>& files,
-             const std::string& help) {
-  command.add_option(option, files, help)
-      ->type_name(Say("FILE", "文件"))
-      ->check(NotEmpty())
-      ->allow_extra_args(false);
-}
-
 void AddOutputOptions(CLI::App& command, CheckJob& job) {
   command
       .add_option("--format", job.format,

@@ -164,6 +164,14 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
   }
 }
 
+void AddFile(CLI::App& command, const char* option, std::vector<std::string>& files,
+             const std::string& help) {
+  command.add_option(option, files, help)
+      ->type_name(Say("FILE", "文件"))
+      ->check(NotEmpty())
+      ->allow_extra_args(false);
+}
+
 void AddFailOn(CLI::App& command, Severity& severity) {
   const auto take = [&severity](const std::string& name) {
     severity = name == "error" ? Severity::kError : name == "hint" ? Severity::kHint : Severity::kWarning;

@@ -34,6 +34,9 @@ void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options);
 
+/// Adds an option that names a file, and may be given again for further ones.
+void AddFile(CLI::App& command, const char* option, std::vector<std::string>& files, const std::string& help);
+
 /// --fail-on, which decides what exit code 1 is for.
 void AddFailOn(CLI::App& command, Severity& severity);
 

@@ -71,14 +71,6 @@ void Open(const std::string& file, Reporter& reporter) {
                    Say("the system found no program to open this file", "系统没有找到可打开此文件的程序"));
 }
 
-void AddFile(CLI::App& command, const char* option, std::vector<std::string>& files,
-             const std::string& help) {
-  command.add_option(option, files, help)
-      ->type_name(Say("FILE", "文件"))
-      ->check(NotEmpty())
-      ->allow_extra_args(false);
-}
-
 }  // namespace
 
 Run ReportOptions(CLI::App& command) {
