@@ -2,13 +2,15 @@
 
 import { useMemo, useRef, useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
-import { useSay, type Workspace } from "../../app/state";
+import { usePrinting } from "../../app/parts/printing";
+import { shownFile, useSay, type Workspace } from "../../app/state";
 import type { TableCells } from "../../model/cells";
 import type { Difference } from "../../model/diff";
 import { kComparisonWords } from "../../words/comparison";
 import { kGridWords } from "../../words/grid";
-import { Grid, type Tints } from "../grid/grid";
-import { nameOfSpot, type Spot } from "../grid/places";
+import { Grid } from "../grid/grid";
+import { PaperTable } from "../grid/paper_table";
+import { nameOfSpot, type Spot, type Tints } from "../grid/places";
 import { fileNamed, useCells } from "../grid/use_cells";
 import { common } from "./text_difference";
 import type { Pair, TablePair } from "./use_difference";
@@ -94,6 +96,7 @@ function SideGrid(props: SideProps) {
     () => cells && tintsOf({ cells, others, difference, role, side }),
     [cells, others, difference, role, side],
   );
+  const isPrinting = usePrinting();
   const text = props.selected && cells?.rows[props.selected.row - 1]?.cells[props.selected.column - 1];
   return (
     <section class="compared">
@@ -101,7 +104,7 @@ function SideGrid(props: SideProps) {
         <span class={`side-badge is-${side}`}>
           {say(side === "old" ? kComparisonWords.old : kComparisonWords.new)}
         </span>{" "}
-        {workspace.name} / {path?.slice(path.indexOf("/") + 1)}
+        {workspace.name} / {path && shownFile(path)}
       </h2>
       <div class="cell-bar">
         <output class="cell-name">{props.selected && nameOfSpot(props.selected)}</output>
@@ -123,6 +126,7 @@ function SideGrid(props: SideProps) {
           {...(tints && { tints })}
         />
       )}
+      {cells !== undefined && isPrinting && <PaperTable title="" cells={cells} {...(tints && { tints })} />}
     </section>
   );
 }
@@ -193,7 +197,7 @@ export function SideBySide({ pair, tables, difference, role, chooseRole, at }: S
           >
             {tables.map(({ role: each, old, now, isSame }) => (
               <option key={each} value={each}>
-                {(now ?? old)?.replace(/^[^/]*\//, "")} ({each}){isSame ? "" : " ≠"}
+                {shownFile(now ?? old ?? "")} ({each}){isSame ? "" : " ≠"}
               </option>
             ))}
           </select>

@@ -2,7 +2,7 @@
 
 import { useMemo } from "preact/hooks";
 import { OpenFirst } from "../../app/parts/failure";
-import { useApp, useSay, type Workspace } from "../../app/state";
+import { shownFile, useApp, useSay, type Workspace } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Text } from "../../words/say";
@@ -20,7 +20,7 @@ interface ListedGroup {
 }
 
 function listed(path: string, role?: string): ListedFile {
-  return { path, name: path.slice(path.indexOf("/") + 1), role };
+  return { path, name: shownFile(path), role };
 }
 
 /** Tables in the order of their roles, then what no role names. */

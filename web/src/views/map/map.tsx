@@ -132,7 +132,7 @@ function MapPane() {
               handlers={handlers}
             />
             <div class="map-bar">
-              <p class="map-readout" aria-live="polite">
+              <p class={`map-readout ${shownPlace ? "" : "no-print"}`} aria-live="polite">
                 {readout(picture, shownPlace, say)}
               </p>
               <span class="no-print">
