@@ -8,6 +8,7 @@ import { after, afterEach, before, beforeEach, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
 import {
   assertAccessible,
+  besides,
   closePage,
   drop,
   isServed,
@@ -80,10 +81,7 @@ test("A table that is saved again is read again with one key", async () => {
 });
 
 test("A folder, plates and holes are dropped together, and each file is used for what it is", async () => {
-  await open(
-    join(samples, "config", "标准"),
-    ...["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name)),
-  );
+  await open(join(samples, "config", "标准"), ...besides);
   assert.match(await counts(), /1 个警告/);
   await page.click("text=文件 ▾");
   const used = await page.$$eval(".files tbody tr", (rows) =>
@@ -359,8 +357,8 @@ test("Of a table that is too large to be printed the paper says what is left out
 test("What is folded up is open on paper, and folded up again behind it", async () => {
   await open(join(samples, "config", "标准"));
   await showView(page, "sheet");
-  await page.waitForSelector(".sheet-side details:not([open])");
-  const { count } = await printed(".sheet-side details[open]");
+  await page.waitForSelector(".picture-side details:not([open])");
+  const { count } = await printed(".picture-side details[open]");
   assert.equal(count, 1);
   assert.equal(await page.locator("details[open]").count(), 0);
 });

@@ -168,7 +168,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
   const common = { zoom, colors, marked, mark };
   return (
     <div class="sheet-view">
-      <div class="sheet-main">
+      <div class="picture-main">
         <Bar picture={picture} question={question} shownSheet={sheet.name} ask={ask} />
         <div class="sheet-pictures">
           <figure>
@@ -188,7 +188,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
             </figure>
           )}
         </div>
-        <div class="map-bar">
+        <div class="picture-bar">
           <ColorLegend colors={colors} />
           <span class="no-print">
             <button
@@ -212,7 +212,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
           </span>
         </div>
       </div>
-      <div class="sheet-side">
+      <div class="picture-side">
         <section aria-label={say(kSheetWords.parts)}>
           <h2>
             {say(kSheetWords.parts)} <span class="quiet">{sheet.parts.length}</span>
