@@ -185,6 +185,20 @@ test("A folder without tables.json gets one from init, which can be saved", asyn
   assert.equal(roles["process-rules"], "工艺规则.csv");
 });
 
+test("What a table is for is told in the keepers' words, with the name that tables.json has", async () => {
+  await open(join(samples, "config", "标准"));
+  await showView(page, "tables");
+  const role = page.locator('.side-item:has-text("列宽.csv") .side-role');
+  assert.equal(await role.innerText(), "列宽（column-widths）");
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await showView(page, "comparison");
+  await page.click("#part-tab-settings");
+  await page.waitForSelector('caption:has-text("列宽（column-widths）")');
+  await page.click("text=English");
+  await page.waitForSelector('caption:has-text("column-widths")');
+  assert.doesNotMatch(await page.locator("caption").first().innerText(), /列宽/);
+});
+
 test("The keys of a spreadsheet move through the grid", async () => {
   await open(join(samples, "config", "标准"));
   await showView(page, "tables");

@@ -2,8 +2,10 @@
 
 import { useMemo, useRef, useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
+import { roleName } from "../../app/parts/role_name";
 import { usePrinting } from "../../app/parts/printing";
 import { shownFile, useSay, type Workspace } from "../../app/state";
+import { kRuleTable } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 import type { Difference } from "../../model/diff";
 import { kComparisonWords } from "../../words/comparison";
@@ -46,7 +48,7 @@ function settingTints(cells: TableCells, others: TableCells | undefined, columns
 function tintsOf({ cells, others, difference, role, side }: TintProps): Tints {
   const columns = difference.settings.filter((setting) => setting.role === role).map(({ column }) => column);
   const tints = new Map<string, "added" | "removed" | "changed">(settingTints(cells, others, columns));
-  if (role !== "process-rules") return tints;
+  if (role !== kRuleTable) return tints;
   for (const changed of difference.rows) {
     const row = side === "old" ? changed.oldRow : changed.newRow;
     if (row === null) continue;
@@ -148,7 +150,7 @@ function useScrollTogether() {
 
 /** A changed row stands elsewhere in the other table; other cells are looked at in the same place. */
 function opposite(spot: Spot, from: Side, difference: Difference, role: string): Spot {
-  if (role !== "process-rules") return spot;
+  if (role !== kRuleTable) return spot;
   const [mine, its] = from === "old" ? (["oldRow", "newRow"] as const) : (["newRow", "oldRow"] as const);
   const row = difference.rows.find((each) => each[mine] === spot.row)?.[its];
   return { row: row ?? spot.row, column: spot.column };
@@ -195,9 +197,10 @@ export function SideBySide({ pair, tables, difference, role, chooseRole, at }: S
               chooseRole(event.currentTarget.value);
             }}
           >
-            {tables.map(({ role: each, old, now, isSame }) => (
-              <option key={each} value={each}>
-                {shownFile(now ?? old ?? "")} ({each}){isSame ? "" : " ≠"}
+            {tables.map((each) => (
+              <option key={each.role} value={each.role}>
+                {shownFile(each.now ?? each.old ?? "")} · {roleName(each, say)}
+                {each.isSame ? "" : " ≠"}
               </option>
             ))}
           </select>
