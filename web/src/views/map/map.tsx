@@ -161,7 +161,10 @@ function MapPane() {
                 <button type="button" onClick={() => setZoom({})}>
                   {say(kDrawingWords.whole)}
                 </button>
-                <SaveButtons picture={svg} name={`${say(kMapWords.map)}-${question.x}-${question.y}`} />
+                <SaveButtons
+                  picture={() => svg.current}
+                  name={`${say(kMapWords.map)}-${question.x}-${question.y}`}
+                />
               </span>
             </div>
           </>
