@@ -49,34 +49,34 @@ TEST(PlateChange, NoLengthBecomesZero) {
 
 TEST(PlateChange, TheBodyGetsTheFirstColourOfTheMaterial) {
   const Scene scene(Rows{{.material = "硬料（体颜色）"}}, {.hard = "55_42"});
-  EXPECT_EQ(ChangeFor(scene.tables, 2, SmallPlate())->plate.color, 55);
+  EXPECT_EQ(ChangeFor(scene.tables, 2, SmallPlate()).value().plate.color, 55);
 }
 
 TEST(PlateChange, AFaceColourIsAddedForEachConditionThatIsMissing) {
   const Scene scene(Rows{{.profile = "有型面", .wireCutting = "有线割"}});
   Plate plate = SmallPlate();
   plate.faceColors = {150};
-  EXPECT_THAT(ChangeFor(scene.tables, 2, plate)->plate.faceColors, ElementsAre(103, 150, 190));
+  EXPECT_THAT(ChangeFor(scene.tables, 2, plate).value().plate.faceColors, ElementsAre(103, 150, 190));
 }
 
 TEST(PlateChange, OneColourThatMeetsBothConditionsIsEnough) {
   const Scene scene(Rows{{.profile = "有型面", .wireCutting = "有线割"}},
                     {.profile = "190_108", .wireCutting = "103_108"});
-  EXPECT_THAT(ChangeFor(scene.tables, 2, SmallPlate())->plate.faceColors, ElementsAre(108));
+  EXPECT_THAT(ChangeFor(scene.tables, 2, SmallPlate()).value().plate.faceColors, ElementsAre(108));
 }
 
 // The first profile colour also means wire cutting, which the row refuses.
 TEST(PlateChange, NoColourIsAddedThatTheRowRefuses) {
   const Scene scene(Rows{{.profile = "有型面", .wireCutting = "无线割"}},
                     {.profile = "103_108", .wireCutting = "103"});
-  EXPECT_THAT(ChangeFor(scene.tables, 2, SmallPlate())->plate.faceColors, ElementsAre(108));
+  EXPECT_THAT(ChangeFor(scene.tables, 2, SmallPlate()).value().plate.faceColors, ElementsAre(108));
 }
 
 TEST(PlateChange, EveryFaceColourThatTheRowRefusesGoesAndTheOthersStay) {
   const Scene scene(Rows{{.profile = "无型面", .wireCutting = "无线割"}}, {.profile = "190_191"});
   Plate plate = SmallPlate();
   plate.faceColors = {36, 103, 190, 191};
-  EXPECT_THAT(ChangeFor(scene.tables, 2, plate)->plate.faceColors, ElementsAre(36));
+  EXPECT_THAT(ChangeFor(scene.tables, 2, plate).value().plate.faceColors, ElementsAre(36));
 }
 
 TEST(PlateChange, AnEarlierRowThatAcceptsTheChangedPlateIsNamed) {
@@ -84,8 +84,8 @@ TEST(PlateChange, AnEarlierRowThatAcceptsTheChangedPlateIsNamed) {
   Plate plate = SmallPlate();
   plate.length = 400;
   plate.width = 95;
-  EXPECT_EQ(ChangeFor(scene.tables, 3, plate)->line, 2);
-  EXPECT_EQ(ChangeFor(scene.tables, 3, plate)->plate.length, 500);
+  EXPECT_EQ(ChangeFor(scene.tables, 3, plate).value().line, 2);
+  EXPECT_EQ(ChangeFor(scene.tables, 3, plate).value().plate.length, 500);
 }
 
 TEST(PlateChange, ARowThatNoPlateMeetsHasNone) {
