@@ -35,7 +35,7 @@ test("A plate without a text stands first, and the nearest row says what has to 
   );
   await page.waitForSelector(".process-text .status-no-row");
   assert.match(await text(page, ".refused li"), /第 41 行\s*长度 1203 超出 700–1200，多 3/);
-  assert.match(await text(page, ".plate-changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
+  assert.match(await text(page, ".plate-changes"), /要符合第 41 行须改什么\s*长度：1203 改为 1200/);
   await page.click(".plate-changes button");
   await page.waitForSelector(".process-text .status-written");
   assert.equal(await page.inputValue("#plate-length"), "1200");
