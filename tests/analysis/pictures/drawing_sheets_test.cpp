@@ -186,6 +186,39 @@ TEST(LayoutSheet, APlaceThatIsNoNumberIsUnknown) {
   EXPECT_EQ(Unknown(sheet, "code").keys[1].cell, "B2");
 }
 
+TEST(LayoutSheet, APlaceThatIsNoShareIsUnknown) {
+  Tables tables;
+  tables.With(
+      Role::kLayoutDefaults,
+      "俯视图左上角交点X坐标所占图纸长度的比例,俯视图左上角交点Y坐标所占图纸高度的比例,"
+      "代号左上角交点X坐标所占图纸长度的比例,代号左上角交点Y坐标所占图纸高度的比例\n28,0.5,0.5,-0.1\n");
+  const Sheet sheet = tables.Layout();
+  EXPECT_FALSE(HasPart(sheet, "upper left corner of the top view"));
+  EXPECT_EQ(Unknown(sheet, "upper left corner of the top view").why.english, reasons::kOutside.english);
+  EXPECT_THAT(Cells(Unknown(sheet, "upper left corner of the top view").keys), ElementsAre("A2", "B2"));
+  EXPECT_FALSE(HasPart(sheet, "code"));
+  EXPECT_EQ(Unknown(sheet, "code").why.english, reasons::kOutside.english);
+}
+
+TEST(LayoutSheet, PlacesAtNothingAndAtAllAreOnTheSheet) {
+  Tables tables;
+  tables.With(Role::kLayoutDefaults,
+              "俯视图左上角交点X坐标所占图纸长度的比例,俯视图左上角交点Y坐标所占图纸高度的比例\n0,1\n");
+  const SheetPart corner = Part(tables.Layout(Paper(400, 200)), "upper left corner of the top view");
+  EXPECT_EQ(corner.x, 0);
+  EXPECT_EQ(corner.y, 200);
+}
+
+TEST(LayoutSheet, ASizeThatIsNoShareIsNoSpecimen) {
+  Tables tables;
+  tables.With(Role::kLayoutDefaults,
+              "视图间距与图纸长度的比例,水平方向所有视图总长度与图纸长度的比例,"
+              "竖直方向所有视图总长度与图纸高度的比例\n20,-0.6,0.5\n");
+  const Sheet sheet = tables.Layout();
+  EXPECT_FALSE(Unknown(sheet, "gap between views").specimen);
+  EXPECT_FALSE(Unknown(sheet, "room of all views together").specimen);
+}
+
 // ---- where values come from ----
 
 TEST(SheetSettings, WithoutATableTheClassesOwnValuesAreDrawn) {
@@ -262,6 +295,19 @@ TEST(CustomSheets, AMarginThatIsNoShareGivesNoPlace) {
   EXPECT_EQ(group.keys[0].cell, "A2");
   EXPECT_EQ(Unknown(sheet, "code of the sub-sheet").why.english, reasons::kOutside.english);
   EXPECT_EQ(Unknown(sheet, "code of the sub-sheet").specimen->text.height, 6);
+}
+
+TEST(CustomSheets, ViewsThatFillNoShareOfTheSheetAreNotDrawn) {
+  Tables tables;
+  tables.With(Role::kCustomSettings,
+              "爆炸图-视图图组尺寸与图框尺寸比例,分图-视图图组尺寸与图框尺寸比例\n-0.6,20\n");
+  for (const Sheet& sheet : {tables.ExplodedView(), tables.Sub()}) {
+    EXPECT_FALSE(HasPart(sheet, "room of all views together"));
+    const UnknownPart& group = Unknown(sheet, "room of all views together");
+    EXPECT_EQ(group.why.english, reasons::kOutside.english);
+    EXPECT_FALSE(group.specimen);
+    EXPECT_EQ(group.keys[2].value.size(), 1U);
+  }
 }
 
 TEST(CustomSheets, MarginsOfNothingAndOfAllAreShares) {
