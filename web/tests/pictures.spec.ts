@@ -4,15 +4,13 @@ import { readFileSync } from "node:fs";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
-import { closePage, drop, openPage, samples, settled, showView, startBrowser } from "./browser";
+import { besides, closePage, drop, openPage, samples, settled, showView, startBrowser } from "./browser";
 
 let browser: Browser;
 before(async () => {
   browser = await startBrowser();
 });
 after(() => browser.close());
-
-const besides = ["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name));
 
 /** Opens a sample configuration with plates and holes, and shows a view of it. */
 async function opened(view: string, folder = "标准", files = besides) {
