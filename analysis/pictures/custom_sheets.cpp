@@ -49,8 +49,14 @@ class CustomDrawing {
     builder_.AddFrame(settings.Of(&SystemDefault::frameColor), settings.Of(&SystemDefault::frameLayer));
   }
 
+  /// Where all views lie together.
   void AddViewGroup(const SheetSetting& left, const SheetSetting& top, const SheetSetting& share) {
-    builder_.AddViewGroup(left, top, share);
+    SheetPart group = PartOf(PartKind::kRectangle, names::kViewGroup);
+    group.width = share.Number() * paper_.width;
+    group.height = share.Number() * paper_.height;
+    group.assumes = {Assumption::kViewGroup};
+    group.keys = KeysOf({share});
+    builder_.AddAtMargins(std::move(group), left, top);
   }
 
   void AddSubSheetCode() {

@@ -151,8 +151,8 @@ class LayoutDrawing {
     const SheetSetting gap = settings_.Of(&Layout::viewGapRatio);
     const SheetSetting color = settings_.Of(&Layout::viewBoxColor);
     builder_.AddUnknown(names::kViewGroup, reasons::kNoStart, {length, height},
-                        RoomSpecimen(length, height, question_.paper));
-    builder_.AddUnknown(names::kViewGap, reasons::kViews, {gap}, SpanSpecimen(gap, question_.paper));
+                        RoomSpecimen(length.Number(), height.Number()));
+    builder_.AddUnknown(names::kViewGap, reasons::kViews, {gap}, GapSpecimen(gap.Number()));
     builder_.AddUnknown(
         names::kViewBox, reasons::kNoUnit,
         {settings_.Of(&Layout::viewBoxMargin), color, settings_.Of(&Layout::materialTopBoxLayer),
@@ -160,6 +160,17 @@ class LayoutDrawing {
          settings_.Of(&Layout::standardTopBoxLayer), settings_.Of(&Layout::standardFrontBoxLayer),
          settings_.Of(&Layout::standardLeftBoxLayer)},
         LineSpecimen(color, {}));
+  }
+
+  std::optional<Specimen> RoomSpecimen(double length, double height) const {
+    if (!IsShare(length) || !IsShare(height)) return std::nullopt;
+    const auto& [paperWidth, paperHeight] = question_.paper;
+    return Specimen{SpecimenKind::kRectangle, length * paperWidth, height * paperHeight, {}, {}, {}};
+  }
+
+  std::optional<Specimen> GapSpecimen(double share) const {
+    if (!IsShare(share)) return std::nullopt;
+    return LengthSpecimen(share * question_.paper.width);
   }
 
   void AddCircle(const Circle& circle) {

@@ -25,6 +25,9 @@ struct SheetQuestion {
   SheetSize size = SheetSize::kLarge;
 };
 
+/// Of the sheet; nothing else could be meant.
+bool IsShare(double value);
+
 SheetPart PartOf(PartKind kind, const Words& label);
 
 /// The keys of the settings, in their order.
@@ -33,10 +36,6 @@ std::vector<SheetKey> KeysOf(const std::vector<SheetSetting>& settings);
 /// A text in a style, as a specimen.
 Specimen TextSpecimen(SheetText text, std::optional<int> layer);
 Specimen CircleSpecimen(const SheetSetting& diameter, const SheetSetting& color, const SheetSetting& layer);
-/// A length, or a rectangle, of shares of the sheet; nothing when they are none.
-std::optional<Specimen> SpanSpecimen(const SheetSetting& share, const PaperSize& paper);
-std::optional<Specimen> RoomSpecimen(const SheetSetting& length, const SheetSetting& height,
-                                     const PaperSize& paper);
 Specimen LengthSpecimen(double length);
 /// A line of which nothing but its colour is known, and its layer when there is one alone.
 Specimen LineSpecimen(const SheetSetting& color, std::optional<int> layer);
@@ -52,17 +51,13 @@ class SheetBuilder {
   void AddAtShares(SheetPart part, const SheetSetting& x, const SheetSetting& y);
   /// A part with its upper left corner at margins from the left and the top, taken as shares.
   void AddAtMargins(SheetPart part, const SheetSetting& left, const SheetSetting& top);
-  /// Where all views lie together: a share of the sheet in both directions, at margins like those.
-  void AddViewGroup(const SheetSetting& left, const SheetSetting& top, const SheetSetting& share);
   void AddUnknown(const Words& what, const Words& why, const std::vector<SheetSetting>& settings,
                   std::optional<Specimen> specimen = {});
 
   Sheet Take() { return std::move(sheet_); }
 
  private:
-  void PutAtMargins(const SheetSetting& left, const SheetSetting& top, SheetPart& part) const;
-  /// With its place, or as an unknown part when a setting that is read as a share of the sheet is none.
-  void Add(SheetPart part, const std::vector<SheetSetting>& shares);
+  void Add(SheetPart part, const SheetSetting& x, const SheetSetting& y);
 
   PaperSize paper_;
   Sheet sheet_;

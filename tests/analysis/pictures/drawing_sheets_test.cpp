@@ -186,35 +186,27 @@ TEST(LayoutSheet, APlaceThatIsNoNumberIsUnknown) {
   EXPECT_EQ(Unknown(sheet, "code").keys[1].cell, "B2");
 }
 
-TEST(LayoutSheet, APlaceThatIsNoShareIsUnknown) {
-  Tables tables;
-  tables.With(
-      Role::kLayoutDefaults,
-      "俯视图左上角交点X坐标所占图纸长度的比例,俯视图左上角交点Y坐标所占图纸高度的比例,"
-      "代号左上角交点X坐标所占图纸长度的比例,代号左上角交点Y坐标所占图纸高度的比例\n28,0.5,0.5,-0.1\n");
-  const Sheet sheet = tables.Layout();
-  EXPECT_FALSE(HasPart(sheet, "upper left corner of the top view"));
-  EXPECT_EQ(Unknown(sheet, "upper left corner of the top view").why.english, reasons::kOutside.english);
-  EXPECT_THAT(Cells(Unknown(sheet, "upper left corner of the top view").keys), ElementsAre("A2", "B2"));
-  EXPECT_FALSE(HasPart(sheet, "code"));
-  EXPECT_EQ(Unknown(sheet, "code").why.english, reasons::kOutside.english);
-}
-
-TEST(LayoutSheet, PlacesAtNothingAndAtAllAreOnTheSheet) {
+TEST(LayoutSheet, APlaceThatIsNoShareIsOutsideOfTheSheet) {
   Tables tables;
   tables.With(Role::kLayoutDefaults,
-              "俯视图左上角交点X坐标所占图纸长度的比例,俯视图左上角交点Y坐标所占图纸高度的比例\n0,1\n");
-  const SheetPart corner = Part(tables.Layout(Paper(400, 200)), "upper left corner of the top view");
-  EXPECT_EQ(corner.x, 0);
-  EXPECT_EQ(corner.y, 200);
+              "俯视图左上角交点X坐标所占图纸长度的比例,代号左上角交点Y坐标所占图纸高度的比例,代号注释的样式\n"
+              "28,-0.1,宋体|6|1|1|1|1\n");
+  const Sheet sheet = tables.Layout(Paper(400, 200));
+  EXPECT_FALSE(HasPart(sheet, "upper left corner of the top view"));
+  const UnknownPart& corner = Unknown(sheet, "upper left corner of the top view");
+  EXPECT_EQ(corner.why.english, reasons::kOutside.english);
+  EXPECT_FALSE(corner.specimen);
+  EXPECT_EQ(Unknown(sheet, "code").why.english, reasons::kOutside.english);
+  EXPECT_EQ(Unknown(sheet, "code").specimen->text.height, 6);
 }
 
-TEST(LayoutSheet, ASizeThatIsNoShareIsNoSpecimen) {
+TEST(LayoutSheet, AShareThatIsNoneHasNoSpecimen) {
   Tables tables;
   tables.With(Role::kLayoutDefaults,
               "视图间距与图纸长度的比例,水平方向所有视图总长度与图纸长度的比例,"
-              "竖直方向所有视图总长度与图纸高度的比例\n20,-0.6,0.5\n");
-  const Sheet sheet = tables.Layout();
+              "竖直方向所有视图总长度与图纸高度的比例\n"
+              "8,0.5,-0.25\n");
+  const Sheet sheet = tables.Layout(Paper(400, 200));
   EXPECT_FALSE(Unknown(sheet, "gap between views").specimen);
   EXPECT_FALSE(Unknown(sheet, "room of all views together").specimen);
 }
@@ -297,17 +289,26 @@ TEST(CustomSheets, AMarginThatIsNoShareGivesNoPlace) {
   EXPECT_EQ(Unknown(sheet, "code of the sub-sheet").specimen->text.height, 6);
 }
 
-TEST(CustomSheets, ViewsThatFillNoShareOfTheSheetAreNotDrawn) {
-  Tables tables;
-  tables.With(Role::kCustomSettings,
-              "爆炸图-视图图组尺寸与图框尺寸比例,分图-视图图组尺寸与图框尺寸比例\n-0.6,20\n");
-  for (const Sheet& sheet : {tables.ExplodedView(), tables.Sub()}) {
+TEST(CustomSheets, AShareOfMoreThanTheSheetOrLessThanNothingGivesNoSize) {
+  for (const char* share : {"-0.6", "20", "1.001"}) {
+    SCOPED_TRACE(share);
+    Tables tables;
+    tables.With(Role::kCustomSettings, "分图-视图图组尺寸与图框尺寸比例\n" + std::string(share) + "\n");
+    const Sheet sheet = tables.Sub(Paper(400, 200));
     EXPECT_FALSE(HasPart(sheet, "room of all views together"));
     const UnknownPart& group = Unknown(sheet, "room of all views together");
-    EXPECT_EQ(group.why.english, reasons::kOutside.english);
+    EXPECT_EQ(group.why.english, reasons::kNoSize.english);
     EXPECT_FALSE(group.specimen);
-    EXPECT_EQ(group.keys[2].value.size(), 1U);
+    EXPECT_EQ(group.keys[2].cell, "A2");
   }
+}
+
+TEST(CustomSheets, AShareOfNothingAndOfAllIsASize) {
+  Tables tables;
+  tables.With(Role::kCustomSettings,
+              "爆炸图-视图图组尺寸与图框尺寸比例,分图-视图图组尺寸与图框尺寸比例\n0,1\n");
+  EXPECT_EQ(Part(tables.ExplodedView(Paper(400, 200)), "room of all views together").width, 0);
+  EXPECT_EQ(Part(tables.Sub(Paper(400, 200)), "room of all views together").height, 200);
 }
 
 TEST(CustomSheets, MarginsOfNothingAndOfAllAreShares) {
