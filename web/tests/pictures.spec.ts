@@ -235,13 +235,13 @@ test("What has a size but no place is drawn at its size, and its settings are th
   const open = await opened("sheet");
   const { page } = open;
   // 基准圆的标准直径 is 10 in the layout defaults: ten millimetres and a rim of half a millimetre around them.
-  const circle = page.locator(".sheet-unknown li", { hasText: "爆炸图基准圆" });
+  const circle = page.locator(".sheet-unknown > li", { hasText: "爆炸图基准圆" });
   assert.match(await circle.innerText(), /⌀10 · 颜色 1 · 图层 210/);
   assert.equal(await circle.locator("svg").getAttribute("width"), "11mm");
   const box = await circle.locator("svg").boundingBox();
   assert.ok(Math.abs((box?.width ?? 0) - (11 * 96) / 25.4) < 0.5, `${box?.width} pixels`);
   // 图层间距 is 5000: no room for it.
-  const spacing = page.locator(".sheet-unknown li", { hasText: "图层间距" }).first();
+  const spacing = page.locator(".sheet-unknown > li", { hasText: "图层间距" }).first();
   assert.equal(await spacing.locator("svg").getAttribute("width"), "71mm");
   await circle.locator("button", { hasText: "基准圆的标准直径" }).click();
   await page.waitForSelector('.panel-tables .cell.is-selected:has-text("10")');
