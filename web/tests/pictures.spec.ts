@@ -222,5 +222,28 @@ test("A second folder's sheet stands beside, and what differs is marked", async 
   await page.waitForSelector("figure:nth-child(2) .sheet-picture");
   assert.deepEqual(await page.locator(".sheet-pictures figcaption").allInnerTexts(), ["标准", "精密模"]);
   await page.waitForSelector(".sheet-differs");
+  const titles = await page.locator(".picture-side h2").allInnerTexts();
+  assert.deepEqual(
+    titles.map((title) => title.replace(/\s*\d+$/, "")),
+    ["标准：图上的内容", "画图时的假定", "精密模：图上的内容", "画图时的假定"],
+  );
+  assert.equal(await page.locator(".sheet-unknown").count(), 2);
+  await closePage(open);
+});
+
+test("What has a size but no place is drawn at its size, and its settings are there to open", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  // 基准圆的标准直径 is 10 in the layout defaults: ten millimetres and a rim of half a millimetre around them.
+  const circle = page.locator(".sheet-unknown > li", { hasText: "爆炸图基准圆" });
+  assert.match(await circle.innerText(), /⌀10 · 颜色 1 · 图层 210/);
+  assert.equal(await circle.locator("svg").getAttribute("width"), "11mm");
+  const box = await circle.locator("svg").boundingBox();
+  assert.ok(Math.abs((box?.width ?? 0) - (11 * 96) / 25.4) < 0.5, `${box?.width} pixels`);
+  // 图层间距 is 5000: no room for it.
+  const spacing = page.locator(".sheet-unknown > li", { hasText: "图层间距" }).first();
+  assert.equal(await spacing.locator("svg").getAttribute("width"), "71mm");
+  await circle.locator("button", { hasText: "基准圆的标准直径" }).click();
+  await page.waitForSelector('.panel-tables .cell.is-selected:has-text("10")');
   await closePage(open);
 });

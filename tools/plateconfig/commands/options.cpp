@@ -145,6 +145,10 @@ void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles) {
   command.footer(Say("Roles: {}", "用途：{}", Listed(roles)) + "\n\n" + command.get_footer());
 }
 
+std::string OptionOf(Role role) {
+  return "--" + std::string(NameOf(role));
+}
+
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options) {
   command
@@ -157,7 +161,7 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
     const auto take = [&options, role](const std::string& file) { options.tables[role] = file; };
     command
         .add_option_function<std::string>(
-            "--" + std::string(NameOf(role)), take,
+            OptionOf(role), take,
             Say("this table instead of the configuration's own", "用此表代替配置中的表"))
         ->check(NotEmpty())
         ->type_name(Say("FILE", "文件"));

@@ -30,6 +30,9 @@ std::vector<Role> AllRoles();
 /// Lists the roles that a verb takes below its options.
 void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
 
+/// The option that names the table of a role: --process-rules.
+std::string OptionOf(Role role);
+
 /// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options);

@@ -163,14 +163,13 @@ export type Specimen = Look &
     | {
         readonly kind: "text";
         readonly text: string | null;
+        readonly attribute: string | null;
         readonly textHeight: number | null;
         readonly font: string | null;
       }
     | { readonly kind: "length"; readonly length: number }
     | { readonly kind: "rectangle"; readonly width: number; readonly height: number }
-    | { readonly kind: "angle"; readonly degrees: number }
     | { readonly kind: "line" }
-    | { readonly kind: "triangle" }
   );
 
 export interface UnknownPlace {
