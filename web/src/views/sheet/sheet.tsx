@@ -10,8 +10,8 @@ import { shown } from "../../drawing/numbers";
 import { lineColorAt } from "../../drawing/palette";
 import { SaveButtons } from "../../drawing/save_buttons";
 import { useViewBox } from "../../drawing/view_box";
+import { ZoomButtons } from "../../drawing/zoom_buttons";
 import type { DrawnSheet, SheetPart, SheetPicture } from "../../model/pictures";
-import { kDrawingWords } from "../../words/drawing";
 import { kSheetWords } from "../../words/sheet";
 import { kPapers, landscape, portrait } from "./paper";
 import { Assumed, Parts, Unknowns, useOpenPart } from "./parts";
@@ -19,8 +19,6 @@ import { differing } from "./sameness";
 import { SheetDrawing, wholeOf } from "./sheet_drawing";
 import "../../app/parts/common.css";
 import "./sheet.css";
-
-const kZoomStep = 0.7;
 
 interface SheetQuestion {
   readonly size: "large" | "small";
@@ -191,23 +189,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
         <div class="map-bar">
           <ColorLegend colors={colors} />
           <span class="no-print">
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(kZoomStep)}
-              aria-label={say(kDrawingWords.zoomIn)}
-            >
-              ＋
-            </button>
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(1 / kZoomStep)}
-              aria-label={say(kDrawingWords.zoomOut)}
-            >
-              －
-            </button>
-            <button type="button" onClick={zoom.reset}>
-              {say(kDrawingWords.whole)}
-            </button>
+            <ZoomButtons {...zoom} />
             <SaveButtons picture={svg} name={`${say(kSheetWords.sheet)}-${sheet.name}`} />
           </span>
         </div>
