@@ -166,6 +166,7 @@ TEST_F(CheckCommand, EachFormatIsWhatItSays) {
   EXPECT_EQ(json["findings"][0]["fix"], "有型面");
   EXPECT_EQ(json["findings"][0]["line"], 3);
   EXPECT_EQ(json["checked"]["tables"][0]["role"], "process-rules");
+  EXPECT_EQ(json["checked"]["tables"][0]["chineseName"], "工艺规则");
   EXPECT_EQ(json["checked"]["tables"][0]["rows"], 2);
   EXPECT_EQ(json["checked"]["folder"], "");
   EXPECT_EQ(Json::parse(Check({"--format", "sarif"}).out)["version"], "2.1.0");
@@ -241,6 +242,25 @@ TEST_F(CheckCommand, ExplainTellsWhatACodeMeans) {
   const CompanionResult unknown = RunPlateconfig({"check", "--explain", "gaps"});
   EXPECT_EQ(unknown.exitCode, 2);
   EXPECT_EQ(unknown.err, "plateconfig: error: \"gaps\" is no code; did you mean \"gap\"?\n");
+}
+
+TEST_F(CheckCommand, ExplainedAsJsonAnAdviceSaysWhetherAFindingSaysMore) {
+  const auto explained = [](const std::string& code) {
+    return Json::parse(RunPlateconfig({"check", "--format", "json", "--explain", code}).out);
+  };
+  EXPECT_EQ(explained("rows-mergeable"),
+            Json({{"code", "rows-mergeable"},
+                  {"severity", "hint"},
+                  {"default", false},
+                  {"message", "rows … and … write the same and could be one row with the range …"},
+                  {"advice", nullptr},
+                  {"adviceHasPlaces", false},
+                  {"meaning", "Fewer rows are easier to keep."}}));
+  const Json shadowed = explained("row-shadowed");
+  EXPECT_EQ(shadowed["advice"], "delete the row, or move it above …");
+  EXPECT_EQ(shadowed["adviceHasPlaces"], true);
+  EXPECT_EQ(explained("text-blank")["advice"], "delete the blank");
+  EXPECT_EQ(explained("text-blank")["adviceHasPlaces"], false);
 }
 
 // ---- gaps ----

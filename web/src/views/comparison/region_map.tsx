@@ -196,7 +196,10 @@ export function RegionMap({ pair, region }: { pair: Pair; region: ChangedRegion 
       />
       <p class="quiet">{say(kComparisonWords.mapLegend)}</p>
       <p class="no-print">
-        <SaveButtons picture={svg} name={`${say(kComparisonWords.mapName)}-${drawn.x}-${drawn.y}`} />
+        <SaveButtons
+          picture={() => svg.current}
+          name={`${say(kComparisonWords.mapName)}-${drawn.x}-${drawn.y}`}
+        />
       </p>
     </figure>
   );

@@ -11,6 +11,13 @@ export function planeOf(picture: RuleMapPicture, zoom: Zoom, logs: Logs): Plane 
   return planeOver(picture, zoom, logs, { x: low("x"), y: low("y") }, kFrame);
 }
 
+/** Whether there is something out of sight. */
+export function isPart(plane: Plane, whole: Plane): boolean {
+  const isPartOf = (axis: "x" | "y") =>
+    plane[axis].from > whole[axis].from || plane[axis].to < whole[axis].to;
+  return isPartOf("x") || isPartOf("y");
+}
+
 const kLabelWidth = 24;
 const kLabelHeight = 16;
 const kLabelsPerRow = 3;

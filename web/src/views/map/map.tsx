@@ -19,7 +19,7 @@ import { rowColors } from "./colors";
 import { Controls } from "./controls";
 import type { Place } from "./hits";
 import { hitAt } from "./hits";
-import { isReadable, planeOf } from "./layout";
+import { isPart, isReadable, planeOf } from "./layout";
 import { MapPicture } from "./plane";
 import { middleOf, movedByShare, usePointing, zoomAround } from "./pointing";
 import type { MapQuestion } from "./question";
@@ -118,7 +118,7 @@ function MapPane() {
 
   return (
     <div class="rule-map">
-      <div class="map-main" aria-busy={answer.state === "running"}>
+      <div class="picture-main" aria-busy={answer.state === "running"}>
         <Controls question={question} picture={picture} logs={logs} ask={ask} setLogs={setLogs} />
         {answer.state === "failed" && <Failure error={answer.error} />}
         {picture && plane && (
@@ -134,8 +134,8 @@ function MapPane() {
               showsHidden={showsHidden}
               handlers={handlers}
             />
-            <div class="map-bar">
-              <p class="map-readout" aria-live="polite">
+            <div class="picture-bar">
+              <p class={`map-readout ${shownPlace ? "" : "no-print"}`} aria-live="polite">
                 {readout(picture, shownPlace, say)}
               </p>
               <span class="no-print">
@@ -148,18 +148,21 @@ function MapPane() {
                   {say(kMapWords.allHidden)}
                 </label>
                 <ZoomButtons
-                  isZoomed={zoom.x !== undefined || zoom.y !== undefined}
+                  isZoomed={whole !== undefined && isPart(plane, whole)}
                   zoomBy={zoomBy}
                   moveBy={moveBy}
                   reset={() => setZoom({})}
                 />
-                <SaveButtons picture={svg} name={`${say(kMapWords.map)}-${question.x}-${question.y}`} />
+                <SaveButtons
+                  picture={() => svg.current}
+                  name={`${say(kMapWords.map)}-${question.x}-${question.y}`}
+                />
               </span>
             </div>
           </>
         )}
       </div>
-      <div class="map-side">
+      <div class="picture-side">
         <Steps steps={steps} at={at} go={go} />
         {picture && <Rows picture={picture} colors={rows} outlined={outlined} outline={outline} />}
       </div>

@@ -2,6 +2,7 @@
 
 import { useRef } from "preact/hooks";
 import { useOpenRow } from "../../app/parts/row_link";
+import { usePrinting } from "../../app/parts/printing";
 import { useVirtual } from "../../app/parts/virtual";
 import { useSay } from "../../app/state";
 import type { Region, RuleMapPicture } from "../../model/pictures";
@@ -27,14 +28,7 @@ interface RowsProps {
   outline(row: number | undefined): void;
 }
 
-interface RowProps {
-  readonly region: Region;
-  readonly color: string | undefined;
-  readonly isOutlined: boolean;
-  outline(row: number | undefined): void;
-}
-
-function Row({ region, color, isOutlined, outline }: RowProps) {
+function Row({ region, colors, outlined, outline }: RowsProps & { region: Region }) {
   const say = useSay();
   const open = useOpenRow();
   const isHidden = region.wins.length === 0;
@@ -43,7 +37,7 @@ function Row({ region, color, isOutlined, outline }: RowProps) {
     <button
       type="button"
       title={told === "" ? say(kPlateWords.openRow) : told}
-      data-outlined={isOutlined}
+      data-outlined={region.row === outlined}
       onPointerEnter={() => outline(region.row)}
       onFocus={() => outline(region.row)}
       onBlur={() => outline(undefined)}
@@ -51,7 +45,7 @@ function Row({ region, color, isOutlined, outline }: RowProps) {
     >
       <span
         class={`map-swatch${isHidden ? " map-swatch-hidden" : ""}`}
-        style={isHidden ? undefined : { background: color }}
+        style={isHidden ? undefined : { background: colors.get(region.row) }}
       />
       <span>{say(kPlateWords.row, region.row)}</span>
       <span class="quiet">{say(kMapWords.layer, region.layer)}</span>
@@ -60,14 +54,16 @@ function Row({ region, color, isOutlined, outline }: RowProps) {
   );
 }
 
-/** However many rows there are, the page has those in sight alone. */
-function RowList({ picture, colors, outlined, outline }: RowsProps) {
+/** However many rows there are, the page has those in sight alone; paper has all. */
+function RowList(props: RowsProps) {
   const say = useSay();
   const scroller = useRef<HTMLDivElement>(null);
-  const { regions } = picture;
+  const isPrinting = usePrinting();
+  const { regions } = props.picture;
   const virtual = useVirtual({ scroller, count: regions.length, sizeOf: rowHeight });
+  if (isPrinting) return <AllRows {...props} />;
   return (
-    <div class="map-row-list" ref={scroller} onPointerLeave={() => outline(undefined)}>
+    <div class="map-row-list" ref={scroller} onPointerLeave={() => props.outline(undefined)}>
       <ul style={{ height: `${virtual.getTotalSize()}px` }} aria-label={say(kMapWords.rows)}>
         {virtual.getVirtualItems().map(({ index, start }) => {
           const region = regions[index];
@@ -79,18 +75,25 @@ function RowList({ picture, colors, outlined, outline }: RowsProps) {
                 aria-setsize={regions.length}
                 aria-posinset={index + 1}
               >
-                <Row
-                  region={region}
-                  color={colors.get(region.row)}
-                  isOutlined={region.row === outlined}
-                  outline={outline}
-                />
+                <Row {...props} region={region} />
               </li>
             )
           );
         })}
       </ul>
     </div>
+  );
+}
+
+function AllRows(props: RowsProps) {
+  return (
+    <ul class="map-rows-on-paper">
+      {props.picture.regions.map((region) => (
+        <li key={region.row}>
+          <Row {...props} region={region} />
+        </li>
+      ))}
+    </ul>
   );
 }
 
