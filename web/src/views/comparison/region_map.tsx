@@ -1,7 +1,7 @@
 // Where plates change in the plane of two sizes: a cut through the example of the chosen region.
 
 import { useMemo, useRef, useState } from "preact/hooks";
-import type { RefObject } from "preact";
+import type { ComponentChildren, RefObject } from "preact";
 import { useAnswer } from "../../app/answer";
 import { Failure } from "../../app/parts/failure";
 import { useApp, useSay } from "../../app/state";
@@ -146,9 +146,10 @@ interface ChoicesProps {
   readonly logs: Logs;
   setAxes(axes: Axes): void;
   setLogs(logs: Logs): void;
+  readonly children: ComponentChildren;
 }
 
-function Choices({ axes, logs, setAxes, setLogs }: ChoicesProps) {
+function Choices({ axes, logs, setAxes, setLogs, children }: ChoicesProps) {
   return (
     <form class="region-axes no-print" onSubmit={(event) => event.preventDefault()}>
       {(["x", "y"] as const).map((axis) => (
@@ -161,6 +162,7 @@ function Choices({ axes, logs, setAxes, setLogs }: ChoicesProps) {
           setLog={(isLog) => setLogs({ ...logs, [axis]: isLog })}
         />
       ))}
+      {children}
     </form>
   );
 }
@@ -180,7 +182,12 @@ export function RegionMap({ pair, region }: { pair: Pair; region: ChangedRegion 
   return (
     <figure class="region-map" aria-busy={answer.state === "running"}>
       <figcaption>{title}</figcaption>
-      <Choices axes={axes} logs={logs} setAxes={setAxes} setLogs={setLogs} />
+      <Choices axes={axes} logs={logs} setAxes={setAxes} setLogs={setLogs}>
+        <SaveButtons
+          picture={() => svg.current}
+          name={`${say(kComparisonWords.mapName)}-${drawn.x}-${drawn.y}`}
+        />
+      </Choices>
       {!picture.complete && (
         <p class="map-note" role="status">
           {say(kMapWords.incomplete)}
@@ -195,12 +202,6 @@ export function RegionMap({ pair, region }: { pair: Pair; region: ChangedRegion 
         title={title}
       />
       <p class="quiet">{say(kComparisonWords.mapLegend)}</p>
-      <p class="no-print">
-        <SaveButtons
-          picture={() => svg.current}
-          name={`${say(kComparisonWords.mapName)}-${drawn.x}-${drawn.y}`}
-        />
-      </p>
     </figure>
   );
 }
