@@ -54,7 +54,7 @@ export function runNative(
 }
 
 /** The files below a folder that were not given, or not like that. */
-async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
+export async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
   const entries = await readdir(folder, { recursive: true, withFileTypes: true });
   const paths = entries
     .filter((entry) => entry.isFile())

@@ -2,7 +2,7 @@
 
 import { useMemo } from "preact/hooks";
 import { OpenFirst } from "../../app/parts/failure";
-import { useApp, useSay, type Workspace } from "../../app/state";
+import { filesBeside, useApp, useSay, type Workspace } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Text } from "../../words/say";
@@ -26,7 +26,6 @@ function listed(path: string, role?: string): ListedFile {
 /** Tables in the order of their roles, then what no role names. */
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
   const tables = (report?.checked.tables ?? []).map(({ file, role }) => listed(file, role));
-  const beside = [workspace.plates, workspace.holes, workspace.holeTypes].flatMap((file) => file ?? []);
   const others = workspace.files.filter(
     ({ path }) => /\.csv$/i.test(path) && !tables.some((table) => table.path === path),
   );
@@ -34,7 +33,9 @@ function groupsOf(workspace: Workspace, report: CheckReport | undefined): readon
     { title: kGridWords.tables, files: tables },
     {
       title: kGridWords.besideTables,
-      files: beside.filter(({ path }) => /\.csv$/i.test(path)).map(({ path }) => listed(path)),
+      files: filesBeside(workspace)
+        .filter(({ path }) => /\.csv$/i.test(path))
+        .map(({ path }) => listed(path)),
     },
     { title: kGridWords.otherFiles, files: others.map(({ path }) => listed(path)) },
   ].filter(({ files }) => files.length > 0);
