@@ -66,6 +66,7 @@ CellForm FormOf(FlagLetters letters) {
 }
 
 void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
+  list.reserve(list.size() + cells.size());
   for (const std::string_view cell : cells) {
     const int number = ParseInt(cell);
     if (IsTaken(taken, cell, number)) list.push_back(number);

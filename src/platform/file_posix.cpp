@@ -63,7 +63,8 @@ std::string PosixPath(const std::string& path) {
 int OpenForReading(const std::string& path) {
   constexpr int kHow = O_RDONLY | O_CLOEXEC;
   // Most paths lead to a file of exactly these bytes; the other spellings are tried when that fails.
-  const int exact = open(WithForwardSlashes(path).c_str(), kHow);
+  const bool isExact = path.find('\\') == std::string::npos;
+  const int exact = open(isExact ? path.c_str() : WithForwardSlashes(path).c_str(), kHow);
   return exact >= 0 ? exact : open(PosixPath(path).c_str(), kHow);
 }
 

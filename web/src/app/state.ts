@@ -90,3 +90,8 @@ export function filesOf(workspace: Workspace | undefined): readonly InputFile[] 
   if (workspace === undefined) return [];
   return [...workspace.files, ...filesBeside(workspace)];
 }
+
+/** A file's path as people know it: without the engine's folder. */
+export function shownFile(path: string): string {
+  return path.slice(path.indexOf("/") + 1);
+}

@@ -6,6 +6,7 @@ import { UnderWay } from "../../app/parts/under_way";
 import { useKept } from "../../app/parts/kept";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
+import { kRuleTable } from "../../model/check";
 import type { ChangedRow, Difference } from "../../model/diff";
 import { type ComparisonPart, kComparisonWords } from "../../words/comparison";
 import { ChangedPlates } from "./plates";
@@ -36,14 +37,14 @@ interface ComparedProps {
 function Compared({ pair, difference, listAll }: ComparedProps) {
   const say = useSay();
   const [part, setPart] = useKept<ComparisonPart>("compared part", "plates");
-  const [role, setRole] = useKept("compared table", "process-rules");
+  const [role, setRole] = useKept("compared table", kRuleTable);
   const [row, setRow] = useState<ChangedRow | undefined>();
   const parts = useParts(difference);
   const tables = useTablePairs(pair);
-  const rules = tables.find((table) => table.role === "process-rules");
+  const rules = tables.find((table) => table.role === kRuleTable);
   const showInTables = (changed: ChangedRow) => {
     setRow(changed);
-    setRole("process-rules");
+    setRole(kRuleTable);
     setPart("tables");
   };
   const at = {
@@ -65,7 +66,7 @@ function Compared({ pair, difference, listAll }: ComparedProps) {
         {part === "rows" && (
           <ChangedRows rows={difference.rows} pair={pair} table={rules} showInTables={showInTables} />
         )}
-        {part === "settings" && <ChangedSettings settings={difference.settings} />}
+        {part === "settings" && <ChangedSettings settings={difference.settings} tables={tables} />}
         {part === "regions" && (
           <ChangedRegions
             pair={pair}
