@@ -7,11 +7,13 @@ export interface Case {
   readonly args: readonly string[];
   readonly files: readonly InputFile[];
   readonly variables?: Record<string, string>;
-  /** Whether it is wrong to begin with; all others give an answer. */
+  /** Whether the command line or what it reads is wrong to begin with; all others end with 0 or 1. */
   readonly isWrong?: boolean;
 }
 
 const samples = "../samples";
+/** The sample that is wrong in every way. */
+const mistakes = "samples/config/带错误";
 const corpus = "../fuzz/corpus";
 
 async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
@@ -115,7 +117,11 @@ export async function sampleCases(): Promise<Case[]> {
     ),
   ];
   const codes = ["row-shadowed", "text-blank"].flatMap((code) => everyWay(`check --explain ${code}`, files));
-  return [...ofOne, ...others, ...codes, ...usageCases(files)];
+  const sampleCases = [...ofOne, ...others, ...codes].map((each) => ({
+    ...each,
+    isWrong: (each.isWrong ?? false) || each.args.includes(mistakes),
+  }));
+  return [...sampleCases, ...usageCases(files)];
 }
 
 /** Help, and command lines that are wrong. */

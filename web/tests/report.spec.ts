@@ -58,7 +58,7 @@ async function assertSaysTheSame(page: Page, inputs: readonly string[]): Promise
   }
 }
 
-async function withPage(test: (opened: Opened) => Promise<void>): Promise<void> {
+async function onPage(test: (opened: Opened) => Promise<void>): Promise<void> {
   const opened = await openPage(browser);
   await test(opened);
   await closePage(opened);
@@ -83,7 +83,7 @@ test("A report opens with the findings, the tables and the plates of the day on 
 });
 
 test("A report shows what is inside it, whatever folder this browser had open before", () =>
-  withPage(async ({ page, context }) => {
+  onPage(async ({ page, context }) => {
     await drop(page, [join(samples, "config/带错误")]);
     await settled(page);
     const second = await context.newPage();
@@ -95,8 +95,25 @@ test("A report shows what is inside it, whatever folder this browser had open be
     await assertSaysTheSame(second, ["--config", join(samples, "config/标准")]);
   }));
 
+/** The command that was built with the page; scripts/page builds it. */
+const withPage = process.env["PLATECONFIG_WITH_PAGE"];
+
+test(
+  "The command that holds the page writes it as it was built",
+  { skip: withPage === undefined },
+  async () => {
+    const args = ["report", "--config", join(samples, "config/标准")];
+    const time = { SOURCE_DATE_EPOCH: "951827696" };
+    const own = await runNative(args, folder, time, { program: withPage! });
+    const named = await runNative([...args, "--page", given], folder, time);
+    assert.deepEqual([own.code, own.err.toString()], [0, ""]);
+    assert.ok(own.out.length > 500_000);
+    assert.ok(own.out.equals(named.out));
+  },
+);
+
 test("A report of two files of plates shows the findings of both", () =>
-  withPage(async ({ page }) => {
+  onPage(async ({ page }) => {
     const more = join(folder, "more");
     await mkdir(more);
     await cp(join(samples, "plates.csv"), join(more, "plates.csv"));
@@ -109,7 +126,7 @@ test("A report of two files of plates shows the findings of both", () =>
   }));
 
 test("A table that the manifest names outside of the folder is in the report, and in its grid", () =>
-  withPage(async ({ page }) => {
+  onPage(async ({ page }) => {
     const shop = join(folder, "shop");
     await cp(join(samples, "config/标准"), join(shop, "标准"), { recursive: true });
     await rename(join(shop, "标准/列宽.csv"), join(shop, "widths.csv"));
@@ -127,7 +144,7 @@ test("A table that the manifest names outside of the folder is in the report, an
   }));
 
 test("A manifest with a second ending is told as that", () =>
-  withPage(async ({ page }) => {
+  onPage(async ({ page }) => {
     const shop = join(folder, "renamed");
     await cp(join(samples, "config/标准"), shop, { recursive: true });
     await rename(join(shop, "tables.json"), join(shop, "tables.json.txt"));
@@ -137,7 +154,7 @@ test("A manifest with a second ending is told as that", () =>
   }));
 
 test("A report says when it was written, until something else is opened", () =>
-  withPage(async ({ page }) => {
+  onPage(async ({ page }) => {
     const file = join(folder, "dated.html");
     const args = ["report", "--page", given, "--config", join(samples, "config/标准"), "-o", file];
     await runNative(args, folder, { SOURCE_DATE_EPOCH: "951827696" });

@@ -57,7 +57,7 @@ async function compareAll(cases: readonly Case[]): Promise<void> {
 }
 
 test("Every verb says the same of the samples, natively and in the page", async () => {
-  const cases = (await sampleCases()).map((each) => ({ isWrong: false, ...each }));
+  const cases = await sampleCases();
   assert.ok(cases.length > 200);
   await compareAll(cases);
 });
