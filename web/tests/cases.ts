@@ -12,7 +12,7 @@ export interface Case {
 const samples = "../samples";
 const corpus = "../fuzz/corpus";
 
-async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
+export async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
   const entries = await readdir(folder, { withFileTypes: true });
   const files = entries.map(async (entry): Promise<InputFile[]> => {
     const [from, to] = [join(folder, entry.name), `${as}/${entry.name}`];

@@ -2,14 +2,12 @@
 import assert from "node:assert/strict";
 import { mkdtemp, rm } from "node:fs/promises";
 import { tmpdir } from "node:os";
-import { join, resolve } from "node:path";
+import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { pathToFileURL } from "node:url";
 import type { Browser } from "playwright-core";
-import { closePage, openPage, samples, screenshot, settled, startBrowser } from "./browser";
+import { closePage, openPage, pageFile, samples, screenshot, settled, startBrowser } from "./browser";
 import { runNative } from "./native_engine";
-
-const given = resolve(process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html");
 
 let folder = "";
 let browser: Browser;
@@ -34,7 +32,7 @@ async function nativeCounts(): Promise<readonly number[]> {
 test("A report opens with the findings, the tables and the plates of the day on which it was written", async () => {
   const file = join(folder, "report.html");
   const holes = ["--holes", join(samples, "holes.csv"), "--types", join(samples, "hole-types.csv")];
-  const written = await runNative(["report", "--page", given, ...inputs, ...holes, "-o", file], folder);
+  const written = await runNative(["report", "--page", pageFile, ...inputs, ...holes, "-o", file], folder);
   assert.deepEqual([written.code, written.err.toString()], [1, ""]);
   const opened = await openPage(browser);
   const { page } = opened;
