@@ -12,6 +12,10 @@ export const engineWords = {
     zh: "文件加起来超过 1 GB，本页放不下。请只打开需要的文件，或用命令行程序 plateconfig。",
     en: "The files are more than 1 GB together, which the page has no room for. Open only those that are needed, or use the command plateconfig.",
   },
+  damaged: {
+    zh: "本页的文件已损坏，可能没有复制或下载完整。请重新取一份。",
+    en: "The file of this page is damaged, perhaps it was not copied or downloaded whole. Get it once more.",
+  },
   broken: {
     zh: "运算意外中断，可能是内存不足。请重新打开本页再试，或减少文件。",
     en: "The engine stopped unexpectedly, perhaps for want of memory. Open the page again, or with fewer files.",

@@ -9,7 +9,6 @@ export const kMapWords = {
   log: { zh: "对数", en: "log" },
   logX: { zh: "横轴用对数刻度", en: "Logarithmic, across" },
   logY: { zh: "纵轴用对数刻度", en: "Logarithmic, upwards" },
-  swap: { zh: "对调两轴", en: "Swap the axes" },
   plate: { zh: "板", en: "Plates" },
   body: { zh: "体颜色", en: "Body colour" },
   otherColors: {

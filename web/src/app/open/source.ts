@@ -39,9 +39,11 @@ interface Found {
   file(): Promise<File>;
 }
 
-async function bytesOf(found: Found): Promise<Entry> {
+/** The file's bytes, when there are no more than that: a huge one is refused before it fills the memory. */
+async function bytesOf(found: Found, mostBytes: number): Promise<Entry> {
   try {
     const file = await found.file();
+    if (file.size > mostBytes) throw new TooLarge(found.path);
     return { path: found.path, bytes: new Uint8Array(await file.arrayBuffer()) };
   } catch (error) {
     if (error instanceof DOMException && error.name === "NotReadableError") throw new StaleFiles(found.path);
@@ -53,9 +55,8 @@ async function readAll(files: readonly Found[]): Promise<readonly Entry[]> {
   const entries: Entry[] = [];
   let size = 0;
   for (const file of files) {
-    const entry = await bytesOf(file);
+    const entry = await bytesOf(file, kMostBytes - size);
     size += entry.bytes.length;
-    if (size > kMostBytes) throw new TooLarge(entry.path);
     entries.push(entry);
   }
   return entries;
