@@ -164,12 +164,19 @@ function useTabs(app: App): readonly Tab<ViewName>[] {
 function Views({ app }: { app: App }) {
   const say = useSay();
   const tabs = useTabs(app);
+  const panel = useRef<HTMLDivElement>(null);
+  // What sent the reader to another view is gone with the view that it stood in, and the focus with it.
+  useEffect(() => {
+    if (document.activeElement === document.body) panel.current?.focus({ preventScroll: true });
+  }, [app.view]);
   const View = kViews.find(({ name }) => name === app.view)?.view ?? Findings;
   return (
     <main class="view">
       <Tabs label={say(kPageWords.views)} tabs={tabs} chosen={app.view} panel="view" choose={app.show} />
       <div
         id="view"
+        ref={panel}
+        tabIndex={-1}
         class={`panel panel-${app.view}`}
         role="tabpanel"
         aria-labelledby={tabId("view", app.view)}
@@ -189,9 +196,20 @@ export function Page({ engine }: { engine: Engine }) {
   useAgainKey(opening);
   const isReport = useReport(opening.open);
   useUnfoldedOnPaper();
-  const { addFile, addedFile } = opening;
+  const { addFile, addedFile, tell } = opening;
   const openSecond = <OpenSecond opening={opening} />;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
+  const app: App = {
+    engine,
+    language,
+    workspace,
+    other,
+    check,
+    addFile,
+    addedFile,
+    openSecond,
+    tell,
+    ...place,
+  };
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;
   }, [workspace]);

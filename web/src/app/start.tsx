@@ -30,9 +30,10 @@ function LastFolder({ opening }: { opening: Opening }) {
   if (last === undefined) return null;
   const openLast = async () => {
     if (await mayRead(last, true)) open([folderSource(last)], "config");
+    else opening.tell(new DOMException("", "NotAllowedError"));
   };
   return (
-    <button type="button" onClick={() => void openLast()}>
+    <button type="button" onClick={() => void openLast().catch(opening.tell)}>
       {say(kOpenWords.last, last.name)}
     </button>
   );

@@ -62,6 +62,8 @@ export interface App {
   readonly openSecond: ComponentChildren;
   /** Puts a file that the program wrote into the workspace; the disk stays as it is. */
   addFile(name: string, bytes: Uint8Array): void;
+  /** Says above the page what went wrong with something that no view waits for. */
+  tell(error: unknown): void;
   /** The file that was added so, until the folder is read again. */
   readonly addedFile: string | undefined;
 }

@@ -10,10 +10,6 @@ export const kComparisonWords = {
     zh: "要看改动前后的差别，请再打开一个配置文件夹：拖到窗口的右半边，或用下面的按钮。",
     en: "To see what an edit changes, open a second configuration folder: drop it on the right half of the window, or use the button.",
   },
-  chooseOther: {
-    zh: "或者与同一文件夹里的另一个配置对比：",
-    en: "Or compare with another configuration of the same folder:",
-  },
   comparing: { zh: "正在对比…", en: "Comparing…" },
   parts: {
     plates: { zh: "板的文本", en: "Plates" },
@@ -38,7 +34,6 @@ export const kComparisonWords = {
   } satisfies TextOf<[number]>,
   row: { zh: (n: number) => `第 ${n} 行`, en: (n: number) => `row ${n}` },
   noRow: { zh: "没有符合的规则行", en: "no rule row fits" },
-  noText: { zh: "（没有文本）", en: "(no text)" },
   search: { zh: "搜索", en: "Search" },
   change: {
     added: { zh: "新增", en: "added" },

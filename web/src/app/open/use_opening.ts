@@ -31,6 +31,8 @@ export interface Opening {
   readonly isBusy: boolean;
   readonly notice: Text | undefined;
   dismissNotice(): void;
+  /** Says what went wrong with something that nobody waits for. */
+  tell(error: unknown): void;
   open(sources: readonly Source[] | Promise<readonly Source[]>, side: Side): void;
   /** Reads everything from the disk once more. */
   again(): void;
@@ -50,6 +52,7 @@ function noticeOf(error: unknown): Text {
   if (error instanceof StaleFiles) return kOpenWords.stale;
   if (error instanceof TooLarge)
     return { zh: kOpenWords.tooLarge.zh(error.message), en: kOpenWords.tooLarge.en(error.message) };
+  if (error instanceof DOMException && error.name === "NotAllowedError") return kOpenWords.notAllowed;
   const reason = error instanceof Error ? error.message : String(error);
   return { zh: kOpenWords.unreadable.zh(reason), en: kOpenWords.unreadable.en(reason) };
 }
@@ -238,6 +241,7 @@ export function useOpening(engine: Engine): Opening {
     isBusy,
     notice,
     dismissNotice: useCallback(() => setNotice(undefined), []),
+    tell: useCallback((error: unknown) => setNotice(noticeOf(error)), []),
     open,
     again,
     chooseFolder: useCallback((side, folder) => change(side, { folder }), [change]),
