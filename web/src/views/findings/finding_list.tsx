@@ -1,6 +1,7 @@
 // The findings below each other; of a long list only what is in sight is in the page, unless it is printed.
 
 import { useCallback, useEffect, useId, useRef } from "preact/hooks";
+import { indexAfterKey } from "../../app/parts/list_keys";
 import { usePrinting } from "../../app/parts/printing";
 import { SeverityMark } from "../../app/parts/severity";
 import { useVirtual } from "../../app/parts/virtual";
@@ -50,15 +51,6 @@ function Item({ finding }: { finding: Finding }) {
   );
 }
 
-const kSteps: Readonly<Record<string, number>> = {
-  ArrowDown: 1,
-  ArrowUp: -1,
-  PageDown: 12,
-  PageUp: -12,
-  Home: -Infinity,
-  End: Infinity,
-};
-
 interface ListProps {
   readonly findings: readonly Finding[];
   readonly chosen: number | undefined;
@@ -78,10 +70,10 @@ export function FindingList({ findings, chosen, choose, open }: ListProps) {
   }, [chosen, items]);
   const onKeyDown = (event: KeyboardEvent) => {
     if (event.key === "Enter" && chosen !== undefined) return open(chosen);
-    const step = kSteps[event.key];
-    if (step === undefined) return;
+    const next = indexAfterKey(event, chosen ?? -1, findings.length);
+    if (next === undefined) return;
     event.preventDefault();
-    choose(Math.min(findings.length - 1, Math.max(0, (chosen ?? -1) + step)));
+    choose(next);
   };
   const shown = isPrinting
     ? findings.map((_, index) => ({ index, start: index * kItemHeight }))
