@@ -30,8 +30,8 @@ const text = (page: Page, selector: string) => page.locator(selector).first().in
 test("A plate without a text stands first, and the nearest row says what has to change", async () => {
   const open = await opened("plate");
   const { page } = open;
-  assert.match(await text(page, ".item-list li"), /加长托板/);
-  await page.click(".item-list li button");
+  assert.match(await text(page, ".item"), /加长托板/);
+  await page.click(".item");
   await page.waitForFunction(
     () => document.querySelector<HTMLInputElement>("#plate-length")?.value === "1203",
   );

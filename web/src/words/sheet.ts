@@ -42,6 +42,10 @@ export const kSheetWords = {
   },
   unknown: { zh: "设置没有说明位置的内容", en: "What the settings do not place" },
   assumed: { zh: "画图时的假定", en: "Taken for granted" },
+  assumes: {
+    zh: (notes: readonly number[]) => `假定 ${notes.join("、")}`,
+    en: (notes: readonly number[]) => `taken for granted: ${notes.join(", ")}`,
+  } satisfies TextOf<[readonly number[]]>,
   colors: { zh: "颜色号", en: "Colour indices" },
   noColor: { zh: "未说明", en: "not stated" },
   at: {

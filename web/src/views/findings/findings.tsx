@@ -82,7 +82,8 @@ function Reported({ report }: { report: CheckReport }) {
   const [filter, setFilter] = useKept("findings filter", kNoFilter);
   const [chosen, setChosen] = useKept<Finding | undefined>("chosen finding", undefined);
   const listed = useMemo(() => listedFindings(report.findings, filter), [report, filter]);
-  const at = chosen === undefined ? -1 : listed.indexOf(chosen);
+  // Until one is chosen the first is shown, and so when the chosen one is no longer listed.
+  const at = Math.max(0, chosen === undefined ? -1 : listed.indexOf(chosen));
   const open = (finding: Finding | undefined) =>
     finding !== undefined && select({ file: finding.file, cell: placeOf(finding) });
   const shown = listed[at];
@@ -101,7 +102,7 @@ function Reported({ report }: { report: CheckReport }) {
           ) : (
             <FindingList
               findings={listed}
-              chosen={at === -1 ? undefined : at}
+              chosen={at}
               choose={(index) => setChosen(listed[index])}
               open={(index) => open(listed[index])}
             />
@@ -109,11 +110,7 @@ function Reported({ report }: { report: CheckReport }) {
           <Checked report={report} />
         </div>
         <section class="findings-detail" aria-label={say(kFindingsWords.finding)}>
-          {shown === undefined ? (
-            <Empty>{say(kFindingsWords.pick)}</Empty>
-          ) : (
-            <FindingDetail finding={shown} open={() => open(shown)} />
-          )}
+          {shown !== undefined && <FindingDetail finding={shown} open={() => open(shown)} />}
         </section>
       </div>
     </div>

@@ -55,8 +55,9 @@ function Keys({ keys, side }: { keys: readonly SheetKey[]; side: "config" | "oth
   );
 }
 
-/** What is known of a part beside its place. */
-function facts(part: SheetPart, say: Say): string {
+/** What is known of a part beside its place, and the numbers of what was taken for granted for it. */
+function facts(part: SheetPart, notes: readonly string[], say: Say): string {
+  const assumed = part.assumes.map((id) => notes.indexOf(id) + 1);
   return [
     say(kSheetWords.at, shown(part.x, 1), shown(part.y, 1)),
     ...(part.kind === "text" && part.textHeight !== null
@@ -65,6 +66,7 @@ function facts(part: SheetPart, say: Say): string {
     ...(part.kind === "circle" ? [`⌀${shown(part.diameter)}`] : []),
     ...(part.color === null ? [] : [say(kSheetWords.color, part.color)]),
     ...(part.layer === null ? [] : [say(kSheetWords.layer, part.layer)]),
+    ...(assumed.length === 0 ? [] : [say(kSheetWords.assumes, assumed)]),
   ].join(" · ");
 }
 
@@ -102,10 +104,9 @@ function Parts({ parts, notes, marked, differing, side, mark }: PartsProps) {
             onClick={() => open(part)}
           >
             {part.label[language]} <span class="sheet-content">{content(part)}</span>
-            <sup>{part.assumes.map((id) => notes.indexOf(id) + 1).join(" ")}</sup>
             {differing.has(part) && <span class="sheet-differs"> ≠ {say(kSheetWords.differs)}</span>}
           </button>
-          <span class="quiet sheet-facts">{facts(part, say)}</span>
+          <span class="quiet sheet-facts">{facts(part, notes, say)}</span>
           {part === marked && <Keys keys={part.keys} side={side} />}
         </li>
       ))}
