@@ -116,13 +116,8 @@ test("What the user said of a file still counts after looking again", async () =
   assert.equal(await use("holes.csv").inputValue(), "holes");
 });
 
-test("Files of one name that come from different folders stay apart", async () => {
-  const names = ["plates", "holes", "hole-types"].map((name) => {
-    const path = join(folder, name, "1.csv");
-    cpSync(join(samples, `${name}.csv`), path);
-    return path;
-  });
-  await open(join(samples, "config", "标准"), ...names);
+/** Files of one name that are used for different things are all used. */
+async function assertAllAreUsed(): Promise<void> {
   assert.match(await counts(), /0 个错误\s*1 个警告/); // The plate 加长托板.
   await page.click("text=文件 ▾");
   const used = await page.$$eval(".files tbody select", (all) =>
@@ -134,6 +129,27 @@ test("Files of one name that come from different folders stay apart", async () =
   await page.waitForSelector(".hole-item");
   await showView(page, "plate");
   await page.waitForSelector('.item-name:has-text("加长托板")');
+}
+
+/** The samples' files, each as 1.csv in a folder of its own. */
+function filesOfOneName(below: string): string[] {
+  return ["plates", "holes", "hole-types"].map((name) => {
+    const path = join(below, name, "1.csv");
+    cpSync(join(samples, `${name}.csv`), path);
+    return path;
+  });
+}
+
+test("Files of one name stay apart when they are dropped one by one", async () => {
+  await open(join(samples, "config", "标准"), ...filesOfOneName(folder));
+  await assertAllAreUsed();
+});
+
+test("Files of one name stay apart when they lie in folders of the folder that is dropped", async () => {
+  const copy = copied("标准");
+  filesOfOneName(copy);
+  await open(copy);
+  await assertAllAreUsed();
 });
 
 test("Plates of several files, also of names that look like options, are all looked at", async () => {
@@ -170,24 +186,29 @@ test("A file that is too large is refused as what it is, before it is read", asy
 });
 
 test("A folder of the same name shows nothing of the one before while it is checked", async () => {
-  await open(copied("标准"));
-  const other = join(folder, "elsewhere", "标准");
-  cpSync(mistakes, other, { recursive: true });
+  await open(mistakes);
+  await page.waitForSelector(".finding");
+  const other = join(folder, "带错误");
+  cpSync(join(samples, "config", "标准"), other, { recursive: true });
   await page.evaluate(() => {
-    const seen: string[] = [];
-    Object.assign(globalThis, { seen });
-    new MutationObserver(() => seen.push(document.querySelector(".header")?.textContent ?? "")).observe(
-      document.querySelector(".header")!,
-      { childList: true, subtree: true, characterData: true },
-    );
+    // While the folder is being read the old one is still open; from the check on it is not.
+    const seen: { checked: boolean; old: boolean } = Object.assign(globalThis, {
+      checked: false,
+      old: false,
+    });
+    new MutationObserver(() => {
+      if (!document.querySelector(".header")?.textContent?.includes("正在检查")) return;
+      seen.checked = true;
+      if (document.querySelector(".finding") !== null) seen.old = true;
+    }).observe(document.body, { childList: true, subtree: true, characterData: true });
   });
   await drop(page, [other]);
-  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("6 个错误"));
-  const seen = await page.evaluate(() => (globalThis as unknown as { seen: string[] }).seen);
-  const checking = seen.findIndex((text) => text.includes("正在检查"));
-  assert.ok(checking >= 0, seen.join("\n"));
-  // While the folder was being read the old one was still open; from the check on it is not.
-  assert.ok(seen.slice(checking).every((text) => !text.includes("0 个错误")));
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("0 个错误"));
+  const seen = await page.evaluate(() => {
+    const { checked, old } = globalThis as unknown as { checked: boolean; old: boolean };
+    return { checked, old };
+  });
+  assert.deepEqual(seen, { checked: true, old: false });
 });
 
 test("A promise that fails where nobody waits for it is told", async () => {
