@@ -45,8 +45,8 @@ void AddFailOn(CLI::App& command, Severity& severity);
 
 /// Adds -o and --force: what `run` writes goes into the file, as CSV in GBK. Nothing is written when a text
 /// of it has no form in GBK, when there is an error and no result, or when the file is one that the command
-/// reads.
-Run WithOutput(CLI::App& command, Run run);
+/// reads. `help` tells of -o, where the file's ending says nothing about the form.
+Run WithOutput(CLI::App& command, Run run, const std::string& help = {});
 
 /// The options of a verb that evaluates plates.
 void AddPlateOptions(CLI::App& command, PlateJob& job);

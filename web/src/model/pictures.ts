@@ -28,6 +28,10 @@ export interface Region {
   readonly matches: readonly Area[];
   readonly wins: readonly Area[];
   readonly hidden: readonly HiddenArea[];
+  /** The rows of `hidden` that take something worth telling. */
+  readonly hiddenBy: readonly number[];
+  /** Rows above that are seen to win beside it. */
+  readonly neighbours: readonly number[];
 }
 
 /** Whether the plate's faces have a profile colour and a wire-cutting colour. */
@@ -46,6 +50,7 @@ export interface SizeStory {
   readonly hull: Bounds | null;
   readonly shown: readonly [number, number];
   readonly bounds: readonly number[];
+  readonly slider: { readonly from: number; readonly to: number; readonly step: number };
 }
 
 export interface RuleMapPicture {

@@ -60,8 +60,4 @@ export const kSheetWords = {
     zh: (height: string) => `字高 ${height}`,
     en: (height: string) => `text height ${height}`,
   } satisfies TextOf<[string]>,
-  moreKeys: {
-    zh: (count: number) => `另有 ${count} 项设置`,
-    en: (count: number) => `${count} more ${count === 1 ? "setting" : "settings"}`,
-  } satisfies TextOf<[number]>,
 } as const;

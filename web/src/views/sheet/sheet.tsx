@@ -11,8 +11,8 @@ import { lineColorAt } from "../../drawing/palette";
 import { drawnApart } from "../../drawing/save";
 import { SaveButtons } from "../../drawing/save_buttons";
 import { useViewBox } from "../../drawing/view_box";
+import { ZoomButtons } from "../../drawing/zoom_buttons";
 import type { DrawnSheet, SheetPart, SheetPicture } from "../../model/pictures";
-import { kDrawingWords } from "../../words/drawing";
 import { kSheetWords } from "../../words/sheet";
 import { kPapers, landscape, portrait } from "./paper";
 import { Lists, useOpenPart } from "./parts";
@@ -20,8 +20,6 @@ import { differing, differingPlaces } from "./sameness";
 import { SavedSheet, SheetDrawing, wholeOf } from "./sheet_drawing";
 import "../../app/parts/common.css";
 import "./sheet.css";
-
-const kZoomStep = 0.7;
 
 interface SheetQuestion {
   readonly size: "large" | "small";
@@ -206,23 +204,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
         <div class="picture-bar">
           <ColorLegend colors={colors} />
           <span class="no-print">
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(kZoomStep)}
-              aria-label={say(kDrawingWords.zoomIn)}
-            >
-              ＋
-            </button>
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(1 / kZoomStep)}
-              aria-label={say(kDrawingWords.zoomOut)}
-            >
-              －
-            </button>
-            <button type="button" onClick={zoom.reset}>
-              {say(kDrawingWords.whole)}
-            </button>
+            <ZoomButtons {...zoom} />
             <SaveButtons picture={saved} name={`${say(kSheetWords.sheet)}-${sheet.name}`} />
           </span>
         </div>
