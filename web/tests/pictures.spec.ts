@@ -131,7 +131,8 @@ test("A row that another one hides is hatched, and its blocker is named", async 
   const { page } = open;
   await page.click(".map-step-buttons button >> nth=1");
   await page.waitForSelector(".map-picture path[stroke-width='2.5']");
-  assert.match(await text(page, ".map-rows li:has-text('第 8 行')"), /全被第 6 行挡住/);
+  // Until the step's own picture is there, that of other plates is, which has the row as well.
+  await page.waitForSelector(".map-rows li:has-text('第 8 行'):has-text('全被第 6 行挡住')");
   assert.match(await text(page, ".map-readout"), /用第 6 行.*也符合但排在后面：第 8 行/);
   await closePage(open);
 });
