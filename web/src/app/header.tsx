@@ -1,5 +1,6 @@
 // The top of the page: what is open, and what can be done with all of it.
 
+import { kFailureWords } from "../words/failure";
 import { kOpenWords } from "../words/open";
 import { kPageWords } from "../words/page";
 import type { Language } from "../words/say";
@@ -38,6 +39,13 @@ function Counts() {
   const { check, show } = useApp();
   const say = useSay();
   if (check.state === "running") return <UnderWay text={say(kPageWords.checking)} stop={check.stop} />;
+  if (check.state === "failed" && typeof check.error !== "string") {
+    return (
+      <button type="button" onClick={check.error.again}>
+        {say(kFailureWords.checkAgain)}
+      </button>
+    );
+  }
   if (check.state !== "done") return null;
   const { errors, warnings, hints } = check.value.summary;
   const counts = { error: errors, warning: warnings, hint: hints };
