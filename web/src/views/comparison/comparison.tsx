@@ -4,6 +4,7 @@ import { useState } from "preact/hooks";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { UnderWay } from "../../app/parts/under_way";
 import { useKept } from "../../app/parts/kept";
+import { Needing } from "../../app/parts/needing";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
 import type { ChangedRow, Difference } from "../../model/diff";
@@ -144,5 +145,9 @@ export function Comparison() {
     );
   }
   const pair = isTurned ? { old: other, now: workspace } : { old: workspace, now: other };
-  return <ComparedPair pair={pair} turn={() => setTurned(!isTurned)} />;
+  return (
+    <Needing tables={[]}>
+      <ComparedPair pair={pair} turn={() => setTurned(!isTurned)} />
+    </Needing>
+  );
 }

@@ -5,6 +5,7 @@ import { checkArguments } from "../../app/check_arguments";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { CopyButton } from "../../app/parts/finding_card";
 import { useKept } from "../../app/parts/kept";
+import { FoundManifest, isManifestMissing, MissingManifest } from "../../app/parts/missing_manifest";
 import { saveFile } from "../../app/parts/save";
 import { filesOf, useApp, useSay } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
@@ -15,7 +16,6 @@ import { kNoFilter, listedFindings, placeOf, shownFile, shownPlace } from "./fil
 import { FilterSide } from "./filter_side";
 import { FindingDetail } from "./finding_detail";
 import { FindingList } from "./finding_list";
-import { FoundManifest, MissingManifest } from "./missing_manifest";
 
 /** The list as somebody mails it. */
 function asText(findings: readonly Finding[], say: Say): string {
@@ -90,7 +90,7 @@ function Reported({ report }: { report: CheckReport }) {
       <FilterSide report={report} filter={filter} change={setFilter} />
       <div class="findings">
         <div class="findings-list">
-          {report.findings.some(({ code }) => code === "manifest-missing") && <MissingManifest />}
+          {isManifestMissing(report) && <MissingManifest />}
           <FoundManifest />
           <ListBar listed={listed} report={report} />
           {listed.length === 0 ? (
