@@ -27,8 +27,12 @@ function listed(path: string, role?: string): ListedFile {
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
   const tables = (report?.checked.tables ?? []).map(({ file, role }) => listed(file, role));
   const beside = [workspace.plates, workspace.holes, workspace.holeTypes].flatMap((file) => file ?? []);
+  // Plates and holes that lie in the folder itself are in its files too.
   const others = workspace.files.filter(
-    ({ path }) => /\.csv$/i.test(path) && !tables.some((table) => table.path === path),
+    ({ path, bytes }) =>
+      /\.csv$/i.test(path) &&
+      !tables.some((table) => table.path === path) &&
+      !beside.some((file) => file.bytes === bytes),
   );
   return [
     { title: kGridWords.tables, files: tables },
