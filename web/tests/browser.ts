@@ -10,6 +10,8 @@ import { pathToFileURL } from "node:url";
 import { type Browser, type BrowserContext, chromium, type Page } from "playwright-core";
 
 export const samples = resolve("../samples");
+/** What is opened beside a sample configuration. */
+export const besides = ["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name));
 export const screenshots = resolve("../build/page/screenshots");
 const given = process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html";
 export const isServed = given.startsWith("http");

@@ -1,7 +1,7 @@
 /** Numbers, scales and colours of the pictures. */
 import assert from "node:assert/strict";
 import { describe, test } from "node:test";
-import { shown, shownRange, typed, typedList } from "../src/drawing/numbers";
+import { exact, exactList, shown, shownRange, typed } from "../src/drawing/numbers";
 import { colorAt, contrast, inkOn, kLinePalette, kPalette, lineColorAt } from "../src/drawing/palette";
 import { sizeScale, zoomed } from "../src/drawing/scales";
 import { within, zoomedBox } from "../src/drawing/view_box";
@@ -24,8 +24,13 @@ describe("Numbers", () => {
   test("A typed number keeps its digits but not the noise of binary fractions", () => {
     assert.equal(typed(23.549999999999997), "23.55");
     assert.equal(typed(60.0005), "60.0005");
-    assert.equal(typedList([6, 8.5]), "6_8.5");
-    assert.equal(typedList([]), "");
+  });
+
+  test("An exact number keeps every digit, so that a bound stays on its side", () => {
+    assert.equal(exact(23.549999999999997), "23.549999999999997");
+    assert.equal(exact(500.00100000000003), "500.00100000000003");
+    assert.equal(exactList([6, 8.5]), "6_8.5");
+    assert.equal(exactList([]), "");
   });
 });
 

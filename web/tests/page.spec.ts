@@ -8,6 +8,7 @@ import { after, afterEach, before, beforeEach, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
 import {
   assertAccessible,
+  besides,
   closePage,
   drop,
   isServed,
@@ -80,10 +81,7 @@ test("A table that is saved again is read again with one key", async () => {
 });
 
 test("A folder, plates and holes are dropped together, and each file is used for what it is", async () => {
-  await open(
-    join(samples, "config", "标准"),
-    ...["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name)),
-  );
+  await open(join(samples, "config", "标准"), ...besides);
   assert.match(await counts(), /1 个警告/);
   await page.click("text=文件 ▾");
   const used = await page.$$eval(".files tbody tr", (rows) =>
@@ -187,6 +185,20 @@ test("A folder without tables.json gets one from init, which can be saved", asyn
   assert.equal(roles["process-rules"], "工艺规则.csv");
 });
 
+test("What a table is for is told in the keepers' words, with the name that tables.json has", async () => {
+  await open(join(samples, "config", "标准"));
+  await showView(page, "tables");
+  const role = page.locator('.side-item:has-text("列宽.csv") .side-role');
+  assert.equal(await role.innerText(), "列宽（column-widths）");
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await showView(page, "comparison");
+  await page.click("#part-tab-settings");
+  await page.waitForSelector('caption:has-text("列宽（column-widths）")');
+  await page.click("text=English");
+  await page.waitForSelector('caption:has-text("column-widths")');
+  assert.doesNotMatch(await page.locator("caption").first().innerText(), /列宽/);
+});
+
 test("The keys of a spreadsheet move through the grid", async () => {
   await open(join(samples, "config", "标准"));
   await showView(page, "tables");
@@ -263,12 +275,106 @@ test("The language switch changes the page and what the program says, and is rem
   assert.match(await page.innerText("body"), /Drop a configuration folder here|Reading|errors/);
 });
 
-test("On paper the whole list stands, without the controls", async () => {
+/** Prints to PDF, and tells what the page held when the printer asked for it. */
+async function printed(counted: string): Promise<{ readonly pdf: string; readonly count: number }> {
+  await page.evaluate((selector) => {
+    addEventListener("beforeprint", () => {
+      document.body.dataset["printed"] = String(document.querySelectorAll(selector).length);
+    });
+  }, counted);
+  const pdf = (await page.pdf({ preferCSSPageSize: true })).toString("latin1");
+  return { pdf, count: Number(await page.evaluate(() => document.body.dataset["printed"])) };
+}
+
+const kUprightA4 = /\/MediaBox \[0 0 59\d[.\d]* 84\d/;
+const kLyingA4 = /\/MediaBox \[0 0 84\d[.\d]* 59\d/;
+
+test("The printer gets the whole list, and the page has it as before again", async () => {
+  await open(mistakes);
+  const shown = await page.locator(".finding").count();
+  const { pdf, count } = await printed(".finding");
+  assert.equal(count, 69);
+  assert.ok(shown < 69);
+  assert.match(pdf, kUprightA4);
+  assert.equal(await page.locator(".finding").count(), shown);
+});
+
+test("A page that a button prints does not wait for what is drawn later", async () => {
+  await open(mistakes);
+  // Within a script nothing of the page's own is drawn until the script ends, as it is while window.print() runs.
+  const drawn = await page.evaluate(() => {
+    dispatchEvent(new Event("beforeprint"));
+    const count = document.querySelectorAll(".finding").length;
+    dispatchEvent(new Event("afterprint"));
+    return count;
+  });
+  assert.equal(drawn, 69);
+});
+
+test("On paper the list stands without the controls", async () => {
   await open(mistakes);
   await page.emulateMedia({ media: "print" });
   await page.waitForFunction(() => document.querySelectorAll(".finding").length === 69);
   assert.equal(await page.isVisible(".side"), false);
   assert.equal(await page.isVisible(".tabs"), false);
+});
+
+test("A wide table is printed with all its rows and columns, on paper that lies", async () => {
+  await open(join(samples, "config", "标准"));
+  await showView(page, "tables");
+  await page.click('.side-item:has-text("工艺规则.csv")');
+  await settled(page);
+  // The header and 71 rows, 56 columns; no column stands twice.
+  const { pdf, count } = await printed(".paper-band td");
+  assert.equal(count, 72 * 56);
+  assert.match(pdf, kLyingA4);
+  assert.doesNotMatch(pdf, kUprightA4);
+  assert.equal(await page.locator(".paper").count(), 0);
+});
+
+test("On paper a table's wrong cells are marked, and its findings say why", async () => {
+  await open(mistakes);
+  await showView(page, "tables");
+  await page.click('.side-item:has-text("列宽.csv")');
+  await settled(page);
+  await page.emulateMedia({ media: "print" });
+  await page.waitForSelector(".paper-band");
+  assert.deepEqual(await page.locator(".paper-findings tbody tr").allInnerTexts(), [
+    "A2\t 警告\t“abc”不是整数\t0\t",
+    "B2\t 警告\t“4O”不是整数\t4\t40",
+    "D2\t 警告\t“7０”（含全角字符）不是整数\t7\t70",
+  ]);
+  assert.deepEqual(await page.locator(".paper-band td.is-warning").allInnerTexts(), [
+    "abc ⇒ 0",
+    "4O ⇒ 4",
+    "7０ ⇒ 7",
+  ]);
+  assert.equal(await page.isVisible(".grid"), false);
+  assert.equal(await page.isVisible(".beside"), false);
+});
+
+test("Of a table that is too large to be printed the paper says what is left out", async () => {
+  const copy = copied("标准");
+  const rows = Array.from({ length: 4_001 }, (_, row) => Array(20).fill(row).join(","));
+  writeFileSync(join(copy, "big.csv"), [...rows, ""].join("\r\n"));
+  await open(copy);
+  await showView(page, "tables");
+  await page.click('.side-item:has-text("big.csv")');
+  await settled(page);
+  await page.emulateMedia({ media: "print" });
+  await page.waitForSelector(".paper-band");
+  // 40,000 cells are 2000 rows of 20 columns.
+  assert.equal(await page.locator(".paper-band tbody tr").count(), 1999);
+  assert.match(await page.innerText(".paper .form-note"), /前 2000 行，共 4001 行/);
+});
+
+test("What is folded up is open on paper, and folded up again behind it", async () => {
+  await open(join(samples, "config", "标准"));
+  await showView(page, "sheet");
+  await page.waitForSelector(".picture-side details:not([open])");
+  const { count } = await printed(".picture-side details[open]");
+  assert.equal(count, 1);
+  assert.equal(await page.locator("details[open]").count(), 0);
 });
 
 test("A report opens by itself with the files inside it", async () => {

@@ -4,15 +4,13 @@ import { readFileSync } from "node:fs";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
-import { closePage, drop, openPage, samples, settled, showView, startBrowser } from "./browser";
+import { besides, closePage, drop, openPage, samples, settled, showView, startBrowser } from "./browser";
 
 let browser: Browser;
 before(async () => {
   browser = await startBrowser();
 });
 after(() => browser.close());
-
-const besides = ["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name));
 
 /** Opens a sample configuration with plates and holes, and shows a view of it. */
 async function opened(view: string, folder = "标准", files = besides) {
@@ -37,7 +35,7 @@ test("A plate without a text stands first, and the nearest row says what has to 
   );
   await page.waitForSelector(".process-text .status-no-row");
   assert.match(await text(page, ".refused li"), /第 41 行\s*长度 1203 超出 700–1200，多 3/);
-  assert.match(await text(page, ".plate-changes"), /要符合第 41 行，须改：\s*长度：1203 改为 1200/);
+  assert.match(await text(page, ".plate-changes"), /要符合第 41 行须改什么\s*长度：1203 改为 1200/);
   await page.click(".plate-changes button");
   await page.waitForSelector(".process-text .status-written");
   assert.equal(await page.inputValue("#plate-length"), "1200");

@@ -3,8 +3,7 @@ import assert from "node:assert/strict";
 import { describe, test } from "node:test";
 import type { ExplainedPlate } from "../src/model/explain";
 import type { Plate } from "../src/model/plate";
-import type { Refusal } from "../src/model/process";
-import { changed, changesFor } from "../src/views/plate/changes";
+import { changesOf } from "../src/views/plate/changes";
 import {
   askedBy,
   formOf,
@@ -15,6 +14,7 @@ import {
   triedPlate,
   withFeature,
   withField,
+  withMembers,
   withOrdered,
   withoutFeatures,
 } from "../src/views/plate/form";
@@ -147,38 +147,61 @@ describe("The file of the tried plate", () => {
 });
 
 describe("What would have to change", () => {
-  const refusals: readonly Refusal[] = [
-    { condition: "length", minimum: 100, maximum: 440, value: 450, missedBy: 10 },
-    { condition: "thickness", minimum: 100, maximum: 200, value: 90, missedBy: 10 },
-    { condition: "material", accepted: [42, 55], value: 12 },
-    { condition: "profile", wanted: false, colors: [78, 108], value: [36, 78] },
-    { condition: "wireCutting", wanted: true, colors: [103], value: [36, 78] },
-  ];
+  const members = { length: 440.00000000000006, weight: 0, color: 42, faceColors: [36, 103] };
 
-  test("Each condition that fails is met by the nearest value that does", () => {
-    assert.deepEqual(changesFor(refusals), [
-      { kind: "size", size: "length", from: "450", to: "440" },
-      { kind: "size", size: "thickness", from: "90", to: "100" },
+  test("Each thing to do is one entry, with the numbers exactly as the program gave them", () => {
+    assert.deepEqual(changesOf(plate, members), [
+      { kind: "size", size: "length", from: "450", to: "440.00000000000006" },
+      { kind: "size", size: "weight", from: "127.2", to: "0" },
       { kind: "body", from: "12", to: "42" },
-      { kind: "dropFaces", colors: ["78"] },
-      { kind: "addFace", color: "103" },
+      { kind: "dropFaces", colors: "78" },
+      { kind: "addFaces", colors: "103" },
+    ]);
+    assert.deepEqual(changesOf(plate, { width: 300 }), [
+      { kind: "size", size: "width", from: "400", to: "300" },
     ]);
   });
 
-  test("The changes are made in the form, all of them", () => {
-    const { fields } = changed(formOf(plate), changesFor(refusals));
-    assert.equal(fields.length, "440");
-    assert.equal(fields.thickness, "100");
-    assert.equal(fields.color, "42");
-    assert.equal(fields.faceColors, "36_103");
+  test("They are made in the form, all of them and nothing else", () => {
+    const before = formOf(plate);
+    const { fields } = withMembers(before, members);
+    assert.deepEqual(fields, {
+      ...before.fields,
+      length: "440.00000000000006",
+      weight: "0",
+      color: "42",
+      faceColors: "36_103",
+    });
+    assert.equal(withMembers(before, { faceColors: [] }).fields.faceColors, "");
+    assert.deepEqual(withMembers(before, {}), before);
   });
 
-  test("A row that nothing can meet has no change", () => {
-    assert.deepEqual(changesFor([{ condition: "material", accepted: [], value: 12 }]), []);
-    assert.deepEqual(changesFor([{ condition: "wireCutting", wanted: true, colors: [], value: [] }]), []);
-    assert.deepEqual(
-      changesFor([{ condition: "weight", minimum: 0, maximum: "nan", value: 5, missedBy: "nan" }]),
-      [],
-    );
+  test("A plate that the form holds is the very one that the program gave", async () => {
+    const odd: Plate = { ...plate, length: 500.00100000000003, weight: 1e21, width: 5e-324, features: {} };
+    const engine = new NativeEngine();
+    const tried = triedPlate({ ...formOf(odd), ordered: [] });
+    const args = ["explain", "--config", "config", "--format", "json", kTriedFile];
+    const run = await engine.run(args, [...sampleFolder("标准"), tried.file]);
+    const [explained] = JSON.parse(run.out) as [ExplainedPlate];
+    assert.equal(explained.plate.length, odd.length);
+    assert.equal(explained.plate.weight, odd.weight);
+    assert.equal(explained.plate.width, odd.width);
+  });
+
+  test("Whatever row is chosen, what the form then holds gets the row that was told", async () => {
+    const engine = new NativeEngine();
+    const args = ["explain", "--config", "config", "--format", "json", kTriedFile];
+    const explain = async (form: PlateForm) => {
+      const tried = triedPlate(form);
+      const run = await engine.run(args, [...sampleFolder("标准"), tried.file]);
+      return (JSON.parse(run.out) as [ExplainedPlate])[0];
+    };
+    const form = { ...formOf({ ...plate, length: 9000, features: {} }), ordered: [] };
+    const { refusedRows } = await explain(form);
+    assert.ok(refusedRows.length > 20);
+    for (const { change } of refusedRows.filter((_, index) => index % 5 === 0)) {
+      if (change === null) continue;
+      assert.equal((await explain(withMembers(form, change.plate))).line, change.line);
+    }
   });
 });

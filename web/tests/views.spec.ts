@@ -5,6 +5,7 @@ import { after, before, describe, test } from "node:test";
 import type { Browser } from "playwright-core";
 import {
   assertAccessible,
+  besides,
   closePage,
   drop,
   languages,
@@ -21,8 +22,6 @@ before(async () => {
   browser = await startBrowser();
 });
 after(() => browser.close());
-
-const besides = ["plates.csv", "holes.csv", "hole-types.csv"].map((name) => join(samples, name));
 
 /** Names of the pictures are the same wherever they are looked at. */
 const configurations = [

@@ -166,6 +166,7 @@ TEST_F(CheckCommand, EachFormatIsWhatItSays) {
   EXPECT_EQ(json["findings"][0]["fix"], "有型面");
   EXPECT_EQ(json["findings"][0]["line"], 3);
   EXPECT_EQ(json["checked"]["tables"][0]["role"], "process-rules");
+  EXPECT_EQ(json["checked"]["tables"][0]["chineseName"], "工艺规则");
   EXPECT_EQ(json["checked"]["tables"][0]["rows"], 2);
   EXPECT_EQ(json["checked"]["folder"], "");
   EXPECT_EQ(Json::parse(Check({"--format", "sarif"}).out)["version"], "2.1.0");

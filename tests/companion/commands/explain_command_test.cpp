@@ -148,14 +148,18 @@ TEST_F(ExplainCommand, JsonListsEveryConditionThatFailed) {
       "50.0,"
       "\"weight\":140.0,\"layer\":12,\"color\":12,\"faceColors\":[]},\"processes\":[],\"refusedRows\":["
       "{\"line\":2,\"refusals\":["
-      "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":500.0,\"value\":1203.0,\"missedBy\":703.0}]},"
+      "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":500.0,\"value\":1203.0,\"missedBy\":703.0}],"
+      "\"change\":{\"plate\":{\"length\":500.0},\"line\":2}},"
       "{\"line\":3,\"refusals\":["
       "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":500.0,\"value\":1203.0,\"missedBy\":703.0},"
-      "{\"condition\":\"profile\",\"wanted\":true,\"colors\":[190],\"value\":[]}]},"
+      "{\"condition\":\"profile\",\"wanted\":true,\"colors\":[190],\"value\":[]}],"
+      "\"change\":{\"plate\":{\"length\":500.0,\"faceColors\":[190]},\"line\":3}},"
       "{\"line\":4,\"refusals\":["
       "{\"condition\":\"length\",\"minimum\":100.0,\"maximum\":1200.0,\"value\":1203.0,\"missedBy\":3.0},"
       "{\"condition\":\"material\",\"accepted\":[42],\"value\":12},"
-      "{\"condition\":\"wireCutting\",\"wanted\":true,\"colors\":[103],\"value\":[]}]}],\"furtherRows\":0}\n]"
+      "{\"condition\":\"wireCutting\",\"wanted\":true,\"colors\":[103],\"value\":[]}],"
+      "\"change\":{\"plate\":{\"length\":1200.0,\"color\":42,\"faceColors\":[103]},\"line\":4}}],"
+      "\"furtherRows\":0}\n]"
       "\n");
   EXPECT_EQ(result.exitCode, 1);
 }
@@ -182,7 +186,8 @@ TEST_F(ExplainCommand, JsonOfAMatchHoldsTheRowsBeforeIt) {
   EXPECT_EQ(plate.at("status"), "no-text");
   EXPECT_EQ(plate.at("refusedRows"), Json::parse(R"([{"line": 2, "refusals": [
     {"condition": "weight", "minimum": 0.0, "maximum": 200.0, "value": 300.0, "missedBy": 100.0},
-    {"condition": "profile", "wanted": false, "colors": [190], "value": [190]}]}])"));
+    {"condition": "profile", "wanted": false, "colors": [190], "value": [190]}],
+    "change": {"plate": {"weight": 200.0, "faceColors": []}, "line": 2}}])"));
 }
 
 TEST_F(ExplainCommand, ATableWithoutRulesIsSaidToHaveNoneOnceAndNotForEachPlate) {
@@ -273,6 +278,27 @@ TEST_F(ExplainCommand, OneRowIsExplainedWhereverItStands) {
   const Json json = OnlyPlate("板,5,1,1,1,1,1,,", {"--row", "3"});
   EXPECT_EQ(json.at("askedRow"), Json::parse(R"({"line": 3, "fits": true})"));
   EXPECT_EQ(json.at("refusedRows").size(), 0u);
+}
+
+TEST_F(ExplainCommand, JsonTellsWhichRowTheChangedPlateGetsAndThatNoPlateMeetsARow) {
+  configuration_.Folder().WriteTable(
+      "规则.csv",
+      "通用要求,通用参数,排工艺顺序,排顺序工艺类型,模板所在图层,长度范围,宽度范围,下料\n"
+      ",,,,12,100_500,,a\n"
+      ",,,,12,500_800,60_90,a\n"
+      ",,,,12,9_5,,a\n");
+  const Json rows = OnlyPlate("板,501,50,1,1,1,1,,", {"--rows", "0"}).at("refusedRows");
+  const auto change = [&](int line) {
+    const auto row =
+        std::find_if(rows.begin(), rows.end(), [&](const Json& each) { return each.at("line") == line; });
+    return row->at("change");
+  };
+  EXPECT_EQ(change(2), Json::parse(R"({"plate": {"length": 500.0}, "line": 2})"));
+  EXPECT_EQ(change(3), Json::parse(R"({"plate": {"width": 60.0}, "line": 3})"));
+  EXPECT_EQ(change(4), nullptr);
+  // A plate 500 long is within both rows.
+  const Json asked = OnlyPlate("板,90,70,1,1,1,1,,", {"--row", "3"}).at("refusedRows");
+  EXPECT_EQ(asked.at(0).at("change"), Json::parse(R"({"plate": {"length": 500.0}, "line": 2})"));
 }
 
 TEST_F(ExplainCommand, ARowThatIsNoRuleRowIsAnError) {

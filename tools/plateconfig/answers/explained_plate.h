@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/rules/explanation.h"
+#include "analysis/plates/explanation.h"
 #include "plateconfig/answers/plate_outcome.h"
 #include "plateconfig/plates/plate_fields.h"
 #include "rules/rule_table_keys.h"
@@ -36,6 +36,7 @@ struct ExplainedPlate {
   const PlateInput& input;
   const std::string& file;
   const std::string& text;  ///< UTF-8; the process text.
+  const RuleTables& tables;
   const ExplanationSink& explanation;
   const std::vector<ProcessRow>& list;  ///< As the table writes it.
   const RefusedRowsView& view;

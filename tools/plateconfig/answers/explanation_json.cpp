@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/checks/rule_values.h"
+#include "analysis/plates/plate_change.h"
 #include "plateconfig/answers/plate_to_json.h"
 #include "rules/condition_texts.h"
 #include "text/gbk.h"
@@ -25,10 +26,27 @@ Json ToJson(const Refusal& refusal, const Plate& plate) {
   return json;
 }
 
-Json ToJson(int line, const std::vector<Refusal>& all, const Plate& plate) {
+/// The members of a plate's object that are others than before.
+Json OtherMembers(const Plate& before, const Plate& after) {
+  Json json = Json::object();
+  for (const SizeCondition& size : kSizeConditions) {
+    if (after.*size.value != before.*size.value) json[NameOf(size.condition)] = after.*size.value;
+  }
+  if (after.color != before.color) json[plate_members::kColor] = after.color;
+  if (after.faceColors != before.faceColors) json[plate_members::kFaceColors] = after.faceColors;
+  return json;
+}
+
+Json ChangeToJson(int line, const ExplainedPlate& plate) {
+  const auto change = ChangeFor(plate.tables, line, plate.input.plate);
+  if (!change) return nullptr;
+  return {{"plate", OtherMembers(plate.input.plate, change->plate)}, {"line", change->line}};
+}
+
+Json ToJson(int line, const std::vector<Refusal>& all, const ExplainedPlate& plate) {
   Json refusals = Json::array();
-  for (const Refusal& refusal : all) refusals.push_back(ToJson(refusal, plate));
-  return {{"line", line}, {"refusals", refusals}};
+  for (const Refusal& refusal : all) refusals.push_back(ToJson(refusal, plate.input.plate));
+  return {{"line", line}, {"refusals", refusals}, {"change", ChangeToJson(line, plate)}};
 }
 
 /// What the plate has of what a condition looks at.
@@ -79,8 +97,7 @@ Json ProcessesToJson(const ExplainedPlate& plate) {
 void AddAskedRow(const ExplainedPlate& plate, Json& json) {
   json["refusedRows"] = Json::array();
   const bool fits = plate.asked->refusals.empty();
-  if (!fits)
-    json["refusedRows"].push_back(ToJson(plate.asked->line, plate.asked->refusals, plate.input.plate));
+  if (!fits) json["refusedRows"].push_back(ToJson(plate.asked->line, plate.asked->refusals, plate));
   json["askedRow"] = {{"line", plate.asked->line}, {"fits", fits}};
 }
 
@@ -89,7 +106,7 @@ void AddRows(const ExplainedPlate& plate, Json& json) {
   const std::vector<RefusedRow> rows = NearestRows(all, plate.view.rows.value_or(0));
   json["refusedRows"] = Json::array();
   for (const RefusedRow& row : rows)
-    json["refusedRows"].push_back(ToJson(row.lineNumber, row.refusals, plate.input.plate));
+    json["refusedRows"].push_back(ToJson(row.lineNumber, row.refusals, plate));
   json["furtherRows"] = all.size() - rows.size();
 }
 

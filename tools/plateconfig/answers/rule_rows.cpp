@@ -4,7 +4,7 @@
 #include <iterator>
 #include <set>
 
-#include "analysis/rules/explanation.h"
+#include "analysis/plates/explanation.h"
 #include "plateconfig/messages/language.h"
 #include "plateconfig/messages/screen_text.h"
 #include "rules/condition_texts.h"

@@ -49,7 +49,8 @@ class ExplainRun {
   void Explain(const VisitedPlate& plate) {
     ExplanationSink sink;
     const std::string text = GbkToUtf8(EvaluatePlate(rules_.tables, plate.input.plate, plate.rules, sink));
-    const ExplainedPlate explained{plate.input, plate.file, text, sink, list_, job_.view, Asked(plate)};
+    const ExplainedPlate explained{plate.input, plate.file, text,      rules_.tables,
+                                   sink,        list_,      job_.view, Asked(plate)};
     const PlateStatus status = explained.Status();
     tally_.Count(status);
     if (status != PlateStatus::kWritten) context_.reporter.CountFinding();

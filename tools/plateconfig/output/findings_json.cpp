@@ -39,7 +39,12 @@ struct JsonOf {
 };
 
 Json ToJson(const CheckedTable& table) {
-  return {{"role", NameOf(table.role)}, {"file", table.file}, {"sha256", table.sha256}, {"rows", table.rows}};
+  const RoleRow& role = RowOf(table.role);
+  return {{"role", role.name},
+          {"chineseName", role.chineseName},
+          {"file", table.file},
+          {"sha256", table.sha256},
+          {"rows", table.rows}};
 }
 
 Json Texts(const std::vector<Word>& words, Language language) {

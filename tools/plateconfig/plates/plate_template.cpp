@@ -4,7 +4,7 @@
 #include <map>
 #include <vector>
 
-#include "analysis/rules/explanation.h"
+#include "analysis/plates/explanation.h"
 #include "analysis/rules/witness.h"
 #include "analysis/text/table_text.h"
 #include "config/numbers.h"

@@ -20,6 +20,7 @@ import { Header } from "./header";
 import { OpenSecond } from "./open_menu";
 import { reportSource } from "./open/report_data";
 import { type Opening, useOpening } from "./open/use_opening";
+import { useUnfoldedOnPaper } from "./parts/printing";
 import { type Tab, Tabs, tabId } from "./parts/tabs";
 import { Start } from "./start";
 import {
@@ -169,6 +170,7 @@ export function Page({ engine }: { engine: Engine }) {
   const place = usePlace();
   useAgainKey(opening);
   useReport(opening.open);
+  useUnfoldedOnPaper();
   const { addFile, addedFile } = opening;
   const openSecond = <OpenSecond opening={opening} />;
   const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };

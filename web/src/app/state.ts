@@ -82,3 +82,8 @@ export function filesOf(workspace: Workspace | undefined): readonly InputFile[] 
   const beside = [workspace.plates, workspace.holes, workspace.holeTypes];
   return [...workspace.files, ...beside.filter((file) => file !== undefined)];
 }
+
+/** A file's path as people know it: without the engine's folder. */
+export function shownFile(path: string): string {
+  return path.slice(path.indexOf("/") + 1);
+}

@@ -17,12 +17,17 @@ export function shownRange([low, high]: readonly [number, number | null], joint 
   return `${shown(low)}${joint}${high === null ? "∞" : shownBelow(high)}`;
 }
 
-/** A number as a cell may hold it: all that a person typed, none of the noise of binary fractions. */
+/** A number as a person would write it: none of the noise of binary fractions. */
 export function typed(value: number): string {
   return String(Number(value.toPrecision(12)));
 }
 
+/** A number as a cell has to hold it for the program to read the very same one back: a bound keeps its side. */
+export function exact(value: number): string {
+  return String(value);
+}
+
 /** Several numbers in one cell. */
-export function typedList(values: readonly number[]): string {
-  return values.map(typed).join("_");
+export function exactList(values: readonly number[]): string {
+  return values.map(exact).join("_");
 }

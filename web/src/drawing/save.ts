@@ -1,6 +1,14 @@
 // A picture as a file of its own: SVG as it stands, or PNG at twice its size.
 
+import { type ComponentChild, render } from "preact";
 import { saveFile } from "../app/parts/save";
+
+/** Draws a picture apart from the page, for a file that is the same whatever the window is like. */
+export function drawnApart(picture: ComponentChild): SVGSVGElement | null {
+  const place = document.createElement("div");
+  render(picture, place);
+  return place.querySelector("svg");
+}
 
 const kNamespace = "http://www.w3.org/2000/svg";
 

@@ -1,18 +1,27 @@
-import type { RefObject } from "preact";
 import { useSay } from "../app/state";
 import { kDrawingWords } from "../words/drawing";
 import "../app/parts/common.css";
 import { savePng, saveSvg } from "./save";
 
-/** Saves a picture; `name` is the file's, without its ending. */
-export function SaveButtons({ picture, name }: { picture: RefObject<SVGSVGElement | null>; name: string }) {
+interface SaveButtonsProps {
+  /** The file's, without its ending. */
+  readonly name: string;
+  picture(): SVGSVGElement | null;
+}
+
+/** Saves a picture. */
+export function SaveButtons({ name, picture }: SaveButtonsProps) {
   const say = useSay();
+  const save = (into: typeof saveSvg | typeof savePng) => {
+    const svg = picture();
+    if (svg !== null) void into(svg, name);
+  };
   return (
     <span class="save-buttons">
-      <button type="button" onClick={() => picture.current && saveSvg(picture.current, name)}>
+      <button type="button" onClick={() => save(saveSvg)}>
         {say(kDrawingWords.saveSvg)}
       </button>
-      <button type="button" onClick={() => picture.current && void savePng(picture.current, name)}>
+      <button type="button" onClick={() => save(savePng)}>
         {say(kDrawingWords.savePng)}
       </button>
     </span>

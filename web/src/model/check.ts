@@ -31,8 +31,18 @@ export interface Finding {
   readonly newRow?: Readonly<Record<string, string>>;
 }
 
-export interface CheckedTable {
+/** What a table is for. */
+export interface Role {
+  /** As tables.json and the command's options name it. */
   readonly role: string;
+  /** What those who keep the tables call it. */
+  readonly chineseName: string;
+}
+
+/** The role of the rule table, which most of the page is about. */
+export const kRuleTable = "process-rules";
+
+export interface CheckedTable extends Role {
   readonly file: string;
   readonly sha256: string;
   readonly rows: number;

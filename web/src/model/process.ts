@@ -40,8 +40,3 @@ export type Refusal =
       readonly colors: readonly number[];
       readonly value: readonly number[];
     };
-
-export interface RefusedRow {
-  readonly line: number;
-  readonly refusals: readonly Refusal[];
-}

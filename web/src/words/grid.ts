@@ -27,6 +27,11 @@ export const kGridWords = {
     zh: (rows: number, columns: number) => `${rows} 行 × ${columns} 列`,
     en: (rows: number, columns: number) => `${rows} rows × ${columns} columns`,
   } satisfies TextOf<[number, number]>,
+  cut: {
+    zh: (rows: number, all: number) => `此表太大：只印出前 ${rows} 行，共 ${all} 行。各行的问题仍全部列出。`,
+    en: (rows: number, all: number) =>
+      `This table is too large to be printed whole: its first ${rows} of ${all} rows are. Findings are listed of all rows.`,
+  } satisfies TextOf<[number, number]>,
   readAs: { zh: "读作", en: "Read as" },
   write: { zh: "改为", en: "Write" },
   advice: { zh: "办法", en: "What to do" },

@@ -45,6 +45,10 @@ export const kPageWords = {
     },
     hint: { zh: (n: number) => `${n} 个提示`, en: (n: number) => `${n} ${n === 1 ? "hint" : "hints"}` },
   } satisfies Record<string, TextOf<[number]>>,
+  role: {
+    zh: (role: string, chineseName: string) => `${chineseName}（${role}）`,
+    en: (role: string) => role,
+  } satisfies TextOf<[string, string]>,
   openFirst: { zh: "请先打开一个配置文件夹。", en: "Open a configuration folder first." },
   copied: { zh: "已复制", en: "Copied" },
   notCopied: { zh: "浏览器不允许复制", en: "The browser does not allow to copy" },

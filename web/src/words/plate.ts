@@ -85,8 +85,8 @@ export const kPlateWords = {
 
   refused: { zh: "不符合的行，最接近的在前", en: "Rows that do not fit, the nearest first" },
   refusedBefore: {
-    zh: "之前不符合的行，最接近的在前",
-    en: "Rows before it that do not fit, the nearest first",
+    zh: "之前不符合的行，按表中的顺序",
+    en: "Rows before it that do not fit, in the order of the table",
   },
   further: {
     zh: (count: number) => `还有 ${count} 行`,
@@ -95,9 +95,14 @@ export const kPlateWords = {
   all: { zh: "全部列出", en: "List them all" },
   fewer: { zh: "只列最接近的", en: "Only the nearest" },
   change: {
-    zh: (row: number) => `要符合第 ${row} 行，须改：`,
-    en: (row: number) => `To fit row ${row}, change:`,
+    zh: (row: number) => `要符合第 ${row} 行须改什么`,
+    en: (row: number) => `What to change to fit row ${row}`,
   } satisfies TextOf<[number]>,
+  taken: {
+    zh: (row: number) => `这样改后得到的是第 ${row} 行：它在前面，也符合。`,
+    en: (row: number) => `The plate then gets row ${row}, which stands before it and fits as well.`,
+  } satisfies TextOf<[number]>,
+  unmeetable: { zh: "没有任何板能符合此行。", en: "No plate at all can fit this row." },
   apply: { zh: "照此改", en: "Do so" },
   applyTitle: { zh: "把这些值填入左边的表单", en: "Put these values into the form" },
 } as const;
@@ -144,7 +149,7 @@ export const kRefusalWords = {
     zh: (from: string, to: string) => `体颜色：${from} 改为 ${to}`,
     en: (from: string, to: string) => `body colour: ${from} becomes ${to}`,
   } satisfies TextOf<[string, string]>,
-  addFace: {
+  addFaces: {
     zh: (color: string) => `面颜色：加上 ${color}`,
     en: (color: string) => `face colours: add ${color}`,
   } satisfies TextOf<[string]>,

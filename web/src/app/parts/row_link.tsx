@@ -1,5 +1,6 @@
 // A row of the rule table, to be opened there.
 
+import { kRuleTable } from "../../model/check";
 import { kPlateWords } from "../../words/plate";
 import { useApp, useSay } from "../state";
 import "./common.css";
@@ -7,7 +8,7 @@ import "./common.css";
 /** The rule table as findings name it; undefined while `check` runs, or when there is none. */
 export function useRuleTable(): string | undefined {
   const { check } = useApp();
-  return check.value?.checked.tables.find(({ role }) => role === "process-rules")?.file;
+  return check.value?.checked.tables.find(({ role }) => role === kRuleTable)?.file;
 }
 
 /** Opens a row of the rule table in its grid. */

@@ -7,6 +7,7 @@ import { useKept } from "../../app/parts/kept";
 import { Needing } from "../../app/parts/needing";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
+import { kRuleTable } from "../../model/check";
 import type { ChangedRow, Difference } from "../../model/diff";
 import { type ComparisonPart, kComparisonWords } from "../../words/comparison";
 import { ChangedPlates } from "./plates";
@@ -37,14 +38,14 @@ interface ComparedProps {
 function Compared({ pair, difference, listAll }: ComparedProps) {
   const say = useSay();
   const [part, setPart] = useKept<ComparisonPart>("compared part", "plates");
-  const [role, setRole] = useKept("compared table", "process-rules");
+  const [role, setRole] = useKept("compared table", kRuleTable);
   const [row, setRow] = useState<ChangedRow | undefined>();
   const parts = useParts(difference);
   const tables = useTablePairs(pair);
-  const rules = tables.find((table) => table.role === "process-rules");
+  const rules = tables.find((table) => table.role === kRuleTable);
   const showInTables = (changed: ChangedRow) => {
     setRow(changed);
-    setRole("process-rules");
+    setRole(kRuleTable);
     setPart("tables");
   };
   const at = {
@@ -66,7 +67,7 @@ function Compared({ pair, difference, listAll }: ComparedProps) {
         {part === "rows" && (
           <ChangedRows rows={difference.rows} pair={pair} table={rules} showInTables={showInTables} />
         )}
-        {part === "settings" && <ChangedSettings settings={difference.settings} />}
+        {part === "settings" && <ChangedSettings settings={difference.settings} tables={tables} />}
         {part === "regions" && (
           <ChangedRegions
             pair={pair}

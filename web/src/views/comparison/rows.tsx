@@ -2,6 +2,7 @@
 
 import { useState } from "preact/hooks";
 import { Empty, Failure } from "../../app/parts/failure";
+import { usePrinting } from "../../app/parts/printing";
 import { useSay } from "../../app/state";
 import type { TableCells } from "../../model/cells";
 import type { ChangedRow } from "../../model/diff";
@@ -42,20 +43,17 @@ function Places({ row }: { row: ChangedRow }) {
   );
 }
 
-interface RowsProps {
-  readonly rows: readonly ChangedRow[];
-  readonly pair: Pair;
-  readonly table: TablePair | undefined;
+interface RowDifferenceProps {
+  readonly row: ChangedRow;
+  readonly old: TableCells | undefined;
+  readonly now: TableCells | undefined;
   showInTables(row: ChangedRow): void;
 }
 
-function Chosen({ row, pair, table, showInTables }: RowsProps & { row: ChangedRow }) {
+function RowDifference({ row, old, now, showInTables }: RowDifferenceProps) {
   const say = useSay();
-  const [old, now] = [useCells(pair.old, table?.old), useCells(pair.now, table?.now)];
-  const failed = [old, now].find((answer) => answer.state === "failed");
-  if (failed?.state === "failed") return <Failure error={failed.error} />;
   return (
-    <div class="scroll" tabIndex={0} role="group" aria-label={say(kComparisonWords.parts.rows)}>
+    <>
       <div class="detail-head">
         <h2>
           {say(kComparisonWords.change[row.change])} <Places row={row} />
@@ -78,12 +76,36 @@ function Chosen({ row, pair, table, showInTables }: RowsProps & { row: ChangedRo
             <CellRow
               key={column}
               column={column}
-              old={cellOf(old.value, row.oldRow, column)}
-              now={cellOf(now.value, row.newRow, column)}
+              old={cellOf(old, row.oldRow, column)}
+              now={cellOf(now, row.newRow, column)}
             />
           ))}
         </tbody>
       </table>
+    </>
+  );
+}
+
+interface RowsProps {
+  readonly rows: readonly ChangedRow[];
+  readonly pair: Pair;
+  readonly table: TablePair | undefined;
+  showInTables(row: ChangedRow): void;
+}
+
+/** The chosen row; on paper, where none can be chosen, all of them. */
+function Chosen({ rows, row: chosen, pair, table, showInTables }: RowsProps & { row: ChangedRow }) {
+  const say = useSay();
+  const isPrinting = usePrinting();
+  const [old, now] = [useCells(pair.old, table?.old), useCells(pair.now, table?.now)];
+  const failed = [old, now].find((answer) => answer.state === "failed");
+  if (failed?.state === "failed") return <Failure error={failed.error} />;
+  const shared = { old: old.value, now: now.value, showInTables };
+  return (
+    <div class="scroll" tabIndex={0} role="group" aria-label={say(kComparisonWords.parts.rows)}>
+      {(isPrinting ? rows : [chosen]).map((row, index) => (
+        <RowDifference key={index} row={row} {...shared} />
+      ))}
     </div>
   );
 }

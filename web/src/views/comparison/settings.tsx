@@ -1,7 +1,9 @@
 // The settings that have another value.
 
 import { Empty } from "../../app/parts/failure";
+import { roleName } from "../../app/parts/role_name";
 import { useSay } from "../../app/state";
+import type { Role } from "../../model/check";
 import type { ChangedSetting } from "../../model/diff";
 import type { SettingValue } from "../../model/show";
 import { kComparisonWords } from "../../words/comparison";
@@ -37,15 +39,24 @@ function byRole(
   return roles.map((role) => [role, settings.filter((setting) => setting.role === role)]);
 }
 
-export function ChangedSettings({ settings }: { settings: readonly ChangedSetting[] }) {
+interface SettingsProps {
+  readonly settings: readonly ChangedSetting[];
+  readonly tables: readonly Role[];
+}
+
+export function ChangedSettings({ settings, tables }: SettingsProps) {
   const say = useSay();
   if (settings.length === 0) return <Empty>{say(kComparisonWords.noneOf)}</Empty>;
+  const nameOf = (role: string) => {
+    const known = tables.find((table) => table.role === role);
+    return known === undefined ? role : roleName(known, say);
+  };
   return (
     <div class="scroll" tabIndex={0} role="group" aria-label={say(kComparisonWords.parts.settings)}>
       {byRole(settings).map(([role, ofRole]) => (
         <table key={role} class="plain difference">
           <caption>
-            {role} <span class="count">{ofRole.length}</span>
+            {nameOf(role)} <span class="count">{ofRole.length}</span>
           </caption>
           <thead>
             <tr>

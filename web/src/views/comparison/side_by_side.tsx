@@ -2,13 +2,17 @@
 
 import { useMemo, useRef, useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
-import { useSay, type Workspace } from "../../app/state";
+import { roleName } from "../../app/parts/role_name";
+import { usePrinting } from "../../app/parts/printing";
+import { shownFile, useSay, type Workspace } from "../../app/state";
+import { kRuleTable } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 import type { Difference } from "../../model/diff";
 import { kComparisonWords } from "../../words/comparison";
 import { kGridWords } from "../../words/grid";
-import { Grid, type Tints } from "../grid/grid";
-import { nameOfSpot, type Spot } from "../grid/places";
+import { Grid } from "../grid/grid";
+import { PaperTable } from "../grid/paper_table";
+import { nameOfSpot, type Spot, type Tints } from "../grid/places";
 import { fileNamed, useCells } from "../grid/use_cells";
 import { common } from "./text_difference";
 import type { Pair, TablePair } from "./use_difference";
@@ -44,7 +48,7 @@ function settingTints(cells: TableCells, others: TableCells | undefined, columns
 function tintsOf({ cells, others, difference, role, side }: TintProps): Tints {
   const columns = difference.settings.filter((setting) => setting.role === role).map(({ column }) => column);
   const tints = new Map<string, "added" | "removed" | "changed">(settingTints(cells, others, columns));
-  if (role !== "process-rules") return tints;
+  if (role !== kRuleTable) return tints;
   for (const changed of difference.rows) {
     const row = side === "old" ? changed.oldRow : changed.newRow;
     if (row === null) continue;
@@ -94,6 +98,7 @@ function SideGrid(props: SideProps) {
     () => cells && tintsOf({ cells, others, difference, role, side }),
     [cells, others, difference, role, side],
   );
+  const isPrinting = usePrinting();
   const text = props.selected && cells?.rows[props.selected.row - 1]?.cells[props.selected.column - 1];
   return (
     <section class="compared">
@@ -101,7 +106,7 @@ function SideGrid(props: SideProps) {
         <span class={`side-badge is-${side}`}>
           {say(side === "old" ? kComparisonWords.old : kComparisonWords.new)}
         </span>{" "}
-        {workspace.name} / {path?.slice(path.indexOf("/") + 1)}
+        {workspace.name} / {path && shownFile(path)}
       </h2>
       <div class="cell-bar">
         <output class="cell-name">{props.selected && nameOfSpot(props.selected)}</output>
@@ -123,6 +128,7 @@ function SideGrid(props: SideProps) {
           {...(tints && { tints })}
         />
       )}
+      {cells !== undefined && isPrinting && <PaperTable title="" cells={cells} {...(tints && { tints })} />}
     </section>
   );
 }
@@ -144,7 +150,7 @@ function useScrollTogether() {
 
 /** A changed row stands elsewhere in the other table; other cells are looked at in the same place. */
 function opposite(spot: Spot, from: Side, difference: Difference, role: string): Spot {
-  if (role !== "process-rules") return spot;
+  if (role !== kRuleTable) return spot;
   const [mine, its] = from === "old" ? (["oldRow", "newRow"] as const) : (["newRow", "oldRow"] as const);
   const row = difference.rows.find((each) => each[mine] === spot.row)?.[its];
   return { row: row ?? spot.row, column: spot.column };
@@ -191,9 +197,10 @@ export function SideBySide({ pair, tables, difference, role, chooseRole, at }: S
               chooseRole(event.currentTarget.value);
             }}
           >
-            {tables.map(({ role: each, old, now, isSame }) => (
-              <option key={each} value={each}>
-                {(now ?? old)?.replace(/^[^/]*\//, "")} ({each}){isSame ? "" : " ≠"}
+            {tables.map((each) => (
+              <option key={each.role} value={each.role}>
+                {shownFile(each.now ?? each.old ?? "")} · {roleName(each, say)}
+                {each.isSame ? "" : " ≠"}
               </option>
             ))}
           </select>

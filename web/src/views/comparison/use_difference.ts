@@ -4,7 +4,7 @@ import { useMemo } from "preact/hooks";
 import { type Answer, useAnswer } from "../../app/answer";
 import { filesOf, useApp, type Workspace } from "../../app/state";
 import type { InputFile } from "../../engine/engine";
-import type { CheckedTable, CheckReport } from "../../model/check";
+import type { CheckedTable, CheckReport, Role } from "../../model/check";
 import type { Difference } from "../../model/diff";
 
 export interface Pair {
@@ -43,8 +43,7 @@ function useTables(workspace: Workspace): readonly CheckedTable[] {
   return useAnswer<CheckReport>(engine, args, files).value?.checked.tables ?? [];
 }
 
-export interface TablePair {
-  readonly role: string;
+export interface TablePair extends Role {
   readonly old: string | undefined;
   readonly now: string | undefined;
   /** Whether the two files are the same, byte for byte. */
@@ -54,10 +53,11 @@ export interface TablePair {
 export function useTablePairs({ old, now }: Pair): readonly TablePair[] {
   const [one, two] = [useTables(old), useTables(now)];
   return useMemo(() => {
-    const roles = [...new Set([...one, ...two].map(({ role }) => role))];
-    return roles.map((role) => {
+    const roles = new Map([...one, ...two].map(({ role, chineseName }) => [role, chineseName]));
+    return [...roles].map(([role, chineseName]) => {
       const [before, after] = [one, two].map((tables) => tables.find((table) => table.role === role));
-      return { role, old: before?.file, now: after?.file, isSame: before?.sha256 === after?.sha256 };
+      const isSame = before?.sha256 === after?.sha256;
+      return { role, chineseName, old: before?.file, now: after?.file, isSame };
     });
   }, [one, two]);
 }

@@ -57,8 +57,3 @@ export function shownPlace(finding: Finding, say: Say): string {
   if (finding.row !== undefined) return say(kGridWords.row, finding.row);
   return finding.line === null ? say(kGridWords.wholeFile) : say(kGridWords.line, finding.line);
 }
-
-/** A file's path without the engine's folder. */
-export function shownFile(path: string): string {
-  return path.slice(path.indexOf("/") + 1);
-}

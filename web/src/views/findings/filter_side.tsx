@@ -1,13 +1,13 @@
 // The filter beside the list.
 
 import { kSeverities, SeverityMark } from "../../app/parts/severity";
-import { useSay } from "../../app/state";
+import { shownFile, useSay } from "../../app/state";
 import type { CheckReport, Severity } from "../../model/check";
 import { kFindingsWords } from "../../words/findings";
 import { kPageWords } from "../../words/page";
 import { SeverityCounts } from "../grid/table_pane";
 import { findingsByFile } from "../grid/tables";
-import { countsOf, type Filter, kNoFilter, shownFile } from "./filter";
+import { countsOf, type Filter, kNoFilter } from "./filter";
 
 interface FilterProps {
   readonly report: CheckReport;

@@ -2,12 +2,12 @@
 
 import { useEffect, useState } from "preact/hooks";
 import { CopyButton, FindingCard } from "../../app/parts/finding_card";
-import { useApp, useSay } from "../../app/state";
+import { shownFile, useApp, useSay } from "../../app/state";
 import type { Finding } from "../../model/check";
 import type { Plate } from "../../model/plate";
 import { kFindingsWords } from "../../words/findings";
 import { TablePane } from "../grid/table_pane";
-import { placeOf, shownFile, shownPlace } from "./filter";
+import { placeOf, shownPlace } from "./filter";
 
 /** A feature as a file of plates would have it: its column and its cell. */
 function featureText([name, value]: [string, boolean | number | readonly number[]]): string {

@@ -1,13 +1,14 @@
 // The findings below each other; of a long list only what is in sight is in the page, unless it is printed.
 
-import { useCallback, useEffect, useId, useRef, useState } from "preact/hooks";
+import { useCallback, useEffect, useId, useRef } from "preact/hooks";
+import { usePrinting } from "../../app/parts/printing";
 import { SeverityMark } from "../../app/parts/severity";
 import { useVirtual } from "../../app/parts/virtual";
-import { useSay } from "../../app/state";
+import { shownFile, useSay } from "../../app/state";
 import type { Finding } from "../../model/check";
 import { kFindingsWords } from "../../words/findings";
 import { kGridWords } from "../../words/grid";
-import { shownFile, shownPlace } from "./filter";
+import { shownPlace } from "./filter";
 
 const kItemHeight = 46;
 
@@ -47,18 +48,6 @@ function Item({ finding }: { finding: Finding }) {
       <span class="finding-file">{shownFile(finding.file)}</span>
     </>
   );
-}
-
-/** Paper shows all of them. */
-function usePrinting(): boolean {
-  const [isPrinting, setPrinting] = useState(false);
-  useEffect(() => {
-    const print = matchMedia("print");
-    const onChange = () => setPrinting(print.matches);
-    print.addEventListener("change", onChange);
-    return () => print.removeEventListener("change", onChange);
-  }, []);
-  return isPrinting;
 }
 
 const kSteps: Readonly<Record<string, number>> = {

@@ -10,16 +10,13 @@ import { useVirtual } from "../../app/parts/virtual";
 import type { Finding } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 import { spotAfterKey } from "./grid_keys";
-import { type FindingsBySpot, letters, nameOfSpot, type Spot, worst } from "./places";
+import { type FindingsBySpot, letters, nameOfSpot, type Spot, type Tints, usedAs, worst } from "./places";
 import { columnWidths } from "./widths";
 
 const kRowHeight = 26;
 const kLettersHeight = 22;
 const kHeaderHeight = kLettersHeight + kRowHeight;
 const kGutter = 56;
-
-/** How cells and rows are coloured beside their findings: by the names of their places. */
-export type Tints = ReadonlyMap<string, "added" | "removed" | "changed">;
 
 interface GridProps {
   readonly cells: TableCells;
@@ -35,11 +32,6 @@ interface GridProps {
 
 const kNone: FindingsBySpot = new Map();
 const kNoCells: readonly string[] = [];
-
-/** What the library takes a wrong cell for, where that is another text than the cell's. */
-function usedAs(findings: readonly Finding[], text: string): string | undefined {
-  return findings.find((finding) => finding.usedAs !== null && finding.usedAs !== text)?.usedAs ?? undefined;
-}
 
 interface CellProps {
   readonly id: string;

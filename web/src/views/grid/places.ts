@@ -51,9 +51,22 @@ export function spotOfFinding(finding: Finding, cells: TableCells): Spot | undef
 
 const kRanks: Readonly<Record<Severity, number>> = { error: 0, warning: 1, hint: 2 };
 
+/** Row by row, each from the left. */
+export function inOrder(one: Spot, two: Spot): number {
+  return one.row - two.row || one.column - two.column;
+}
+
 export function worst(findings: readonly Finding[]): Severity | undefined {
   return [...findings].sort((one, two) => kRanks[one.severity] - kRanks[two.severity])[0]?.severity;
 }
+
+/** What the library takes a wrong cell for, where that is another text than the cell's. */
+export function usedAs(findings: readonly Finding[], text: string): string | undefined {
+  return findings.find((finding) => finding.usedAs !== null && finding.usedAs !== text)?.usedAs ?? undefined;
+}
+
+/** How cells and rows are coloured beside their findings: by the names of their places. */
+export type Tints = ReadonlyMap<string, "added" | "removed" | "changed">;
 
 /** The findings of one table by the place that they point to. */
 export type FindingsBySpot = ReadonlyMap<string, readonly Finding[]>;

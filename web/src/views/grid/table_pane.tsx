@@ -3,13 +3,23 @@
 import { useMemo, useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
 import { FindingCard } from "../../app/parts/finding_card";
+import { usePrinting } from "../../app/parts/printing";
 import { kSeverities, SeverityMark } from "../../app/parts/severity";
-import { useApp, useSay, type Workspace } from "../../app/state";
+import { shownFile, useApp, useSay, type Workspace } from "../../app/state";
 import type { Finding } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 import { kGridWords } from "../../words/grid";
 import { Grid } from "./grid";
-import { type FindingsBySpot, findingsBySpot, nameOfSpot, type Spot, spotIn, spotOfFinding } from "./places";
+import { PaperTable } from "./paper_table";
+import {
+  type FindingsBySpot,
+  findingsBySpot,
+  inOrder,
+  nameOfSpot,
+  type Spot,
+  spotIn,
+  spotOfFinding,
+} from "./places";
 import { fileNamed, useCells } from "./use_cells";
 
 /** What stands in the selected cell, whole: in the grid it may be cut off. */
@@ -59,10 +69,6 @@ function Beside({ bySpot, spot }: { bySpot: FindingsBySpot; spot: Spot | undefin
       ))}
     </aside>
   );
-}
-
-function inOrder(one: Spot, two: Spot): number {
-  return one.row - two.row || one.column - two.column;
 }
 
 /** The next or previous spot with a finding, round the table. */
@@ -183,6 +189,7 @@ function Loaded({ cells, findings, at, select, isCompact = false }: TablePanePro
   const bySpot = useMemo(() => findingsBySpot(findings, cells), [findings, cells]);
   const selectSpot = (next: Spot) => select(nameOfSpot(next));
   const form = kGridWords.forms[cells.form];
+  const isPrinting = usePrinting();
   return (
     <div class="table-pane">
       {!isCompact && <Bar cells={cells} findings={findings} spot={spot} select={selectSpot} />}
@@ -194,6 +201,9 @@ function Loaded({ cells, findings, at, select, isCompact = false }: TablePanePro
         )}
         {!isCompact && findings.length > 0 && <Beside bySpot={bySpot} spot={spot} />}
       </div>
+      {!isCompact && isPrinting && (
+        <PaperTable title={shownFile(cells.file)} cells={cells} findings={bySpot} />
+      )}
     </div>
   );
 }
@@ -206,7 +216,7 @@ export function TablePane(props: TablePaneProps) {
   if (!isThere) {
     return (
       <div class="table-pane">
-        <p class="form-note">{say(kGridWords.gone, props.path.slice(props.path.indexOf("/") + 1))}</p>
+        <p class="form-note">{say(kGridWords.gone, shownFile(props.path))}</p>
         {check.value && props.findings.map((finding, index) => <FindingCard key={index} finding={finding} />)}
       </div>
     );

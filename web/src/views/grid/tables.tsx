@@ -2,8 +2,9 @@
 
 import { useMemo } from "preact/hooks";
 import { OpenFirst } from "../../app/parts/failure";
-import { useApp, useSay, type Workspace } from "../../app/state";
-import type { CheckReport, Finding } from "../../model/check";
+import { roleName } from "../../app/parts/role_name";
+import { shownFile, useApp, useSay, type Workspace } from "../../app/state";
+import { type CheckReport, type Finding, kRuleTable, type Role } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Text } from "../../words/say";
 import { SeverityCounts, TablePane } from "./table_pane";
@@ -11,7 +12,7 @@ import { SeverityCounts, TablePane } from "./table_pane";
 interface ListedFile {
   readonly path: string;
   readonly name: string;
-  readonly role: string | undefined;
+  readonly role: Role | undefined;
 }
 
 interface ListedGroup {
@@ -19,13 +20,13 @@ interface ListedGroup {
   readonly files: readonly ListedFile[];
 }
 
-function listed(path: string, role?: string): ListedFile {
-  return { path, name: path.slice(path.indexOf("/") + 1), role };
+function listed(path: string, role?: Role): ListedFile {
+  return { path, name: shownFile(path), role };
 }
 
 /** Tables in the order of their roles, then what no role names. */
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
-  const tables = (report?.checked.tables ?? []).map(({ file, role }) => listed(file, role));
+  const tables = (report?.checked.tables ?? []).map((table) => listed(table.file, table));
   const beside = [workspace.plates, workspace.holes, workspace.holeTypes].flatMap((file) => file ?? []);
   // Plates and holes that lie in the folder itself are in its files too.
   const others = workspace.files.filter(
@@ -47,7 +48,7 @@ function groupsOf(workspace: Workspace, report: CheckReport | undefined): readon
 /** The rule table is what most keepers come for. */
 function firstShown(groups: readonly ListedGroup[]): string | undefined {
   const files = groups.flatMap((group) => group.files);
-  return (files.find(({ role }) => role === "process-rules") ?? files[0])?.path;
+  return (files.find(({ role }) => role?.role === kRuleTable) ?? files[0])?.path;
 }
 
 const kNoFindings: readonly Finding[] = [];
@@ -87,7 +88,7 @@ function FileList({ groups, chosen, byFile, choose }: FileListProps) {
                 >
                   <span class="side-name">{name}</span>
                   <SeverityCounts findings={byFile.get(path) ?? kNoFindings} />
-                  {role !== undefined && <span class="side-role">{role}</span>}
+                  {role !== undefined && <span class="side-role">{roleName(role, say)}</span>}
                 </button>
               </li>
             ))}

@@ -168,7 +168,7 @@ export function Detail({ hole, match, colors }: DetailProps) {
       <header class="hole-head">
         <h2>{hole.name}</h2>
         <span class="no-print">
-          <SaveButtons picture={svg} name={hole.name} />
+          <SaveButtons picture={() => svg.current} name={hole.name} />
         </span>
       </header>
       <Facts hole={hole} />

@@ -116,7 +116,7 @@ function MapPane() {
 
   return (
     <div class="rule-map">
-      <div class="map-main" aria-busy={answer.state === "running"}>
+      <div class="picture-main" aria-busy={answer.state === "running"}>
         <Controls question={question} picture={picture} logs={logs} ask={ask} setLogs={setLogs} />
         {answer.state === "failed" && <Failure error={answer.error} />}
         {picture && plane && (
@@ -132,8 +132,8 @@ function MapPane() {
               showsHidden={showsHidden}
               handlers={handlers}
             />
-            <div class="map-bar">
-              <p class="map-readout" aria-live="polite">
+            <div class="picture-bar">
+              <p class={`map-readout ${shownPlace ? "" : "no-print"}`} aria-live="polite">
                 {readout(picture, shownPlace, say)}
               </p>
               <span class="no-print">
@@ -162,13 +162,16 @@ function MapPane() {
                 <button type="button" onClick={() => setZoom({})}>
                   {say(kDrawingWords.whole)}
                 </button>
-                <SaveButtons picture={svg} name={`${say(kMapWords.map)}-${question.x}-${question.y}`} />
+                <SaveButtons
+                  picture={() => svg.current}
+                  name={`${say(kMapWords.map)}-${question.x}-${question.y}`}
+                />
               </span>
             </div>
           </>
         )}
       </div>
-      <div class="map-side">
+      <div class="picture-side">
         <Steps steps={steps} at={at} go={go} />
         {picture && <Rows picture={picture} colors={rows} outlined={outlined} outline={outline} />}
       </div>

@@ -117,7 +117,7 @@ export function Steps({ steps, at, go }: StepsProps) {
   if (check.value === undefined) return null;
   if (steps.length === 0) return <p class="quiet">{say(kMapWords.noSteps)}</p>;
   return (
-    <section class="map-steps" aria-label={say(kMapWords.steps)}>
+    <section class={`map-steps ${finding ? "" : "no-print"}`} aria-label={say(kMapWords.steps)}>
       <h2>{say(kMapWords.steps)}</h2>
       <p class="map-step-buttons">
         <button type="button" disabled={at === undefined || at === 0} onClick={() => go((at ?? 1) - 1)}>

@@ -3,6 +3,7 @@
 import { useMemo } from "preact/hooks";
 import { useAnswer } from "../../app/answer";
 import { filesOf, useApp } from "../../app/state";
+import { kRuleTable } from "../../model/check";
 import type { ExplainedPlate } from "../../model/explain";
 import type { Plate } from "../../model/plate";
 import type { ProcessedPlate } from "../../model/process";
@@ -39,7 +40,7 @@ function isOfColors({ value, unit }: Setting): boolean {
 /** The general parameters of the rule table: the settings in front that are lists of colours. */
 export function useColors(): readonly Setting[] {
   const { engine } = useApp();
-  const answer = useAnswer<readonly Setting[]>(engine, ["show", "process-rules", ...useCommon()], useFiles());
+  const answer = useAnswer<readonly Setting[]>(engine, ["show", kRuleTable, ...useCommon()], useFiles());
   return useMemo(() => {
     const settings = answer.value ?? [];
     const end = settings.findIndex((setting) => !isOfColors(setting));

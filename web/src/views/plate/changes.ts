@@ -1,63 +1,39 @@
-// What would have to change for a row that refuses the plate: the program's conditions, put into the form.
+// What would have to change of the plate for a row that refuses it: the program's answer, as what a person would do.
 
-import { typed } from "../../drawing/numbers";
-import type { SizeName } from "../../model/plate";
-import type { Refusal } from "../../model/process";
-import type { PlateForm } from "./form";
-import { pieces, withField } from "./form";
+import { exact, exactList } from "../../drawing/numbers";
+import type { ChangedMembers } from "../../model/explain";
+import type { Plate, SizeName } from "../../model/plate";
 
 export type Change =
   | { readonly kind: "size"; readonly size: SizeName; readonly from: string; readonly to: string }
   | { readonly kind: "body"; readonly from: string; readonly to: string }
-  | { readonly kind: "addFace"; readonly color: string }
-  | { readonly kind: "dropFaces"; readonly colors: readonly string[] };
+  | { readonly kind: "addFaces"; readonly colors: string }
+  | { readonly kind: "dropFaces"; readonly colors: string };
 
-/** Undefined when no value does it, say for a row that has no colour to ask for. */
-export function changeFor(refusal: Refusal): Change | undefined {
-  switch (refusal.condition) {
-    case "material":
-      return refusal.accepted[0] === undefined
-        ? undefined
-        : { kind: "body", from: typed(refusal.value), to: typed(refusal.accepted[0]) };
-    case "profile":
-    case "wireCutting":
-      if (!refusal.wanted)
-        return {
-          kind: "dropFaces",
-          colors: refusal.value.filter((color) => refusal.colors.includes(color)).map(typed),
-        };
-      return refusal.colors[0] === undefined
-        ? undefined
-        : { kind: "addFace", color: typed(refusal.colors[0]) };
-    case "length":
-    case "width":
-    case "thickness":
-    case "weight": {
-      const { condition: size, value, minimum, maximum } = refusal;
-      const end = Number(minimum) > value ? minimum : maximum;
-      return typeof end === "number" ? { kind: "size", size, from: typed(value), to: typed(end) } : undefined;
-    }
-  }
+/** The colours of the first list that the second one lacks, in an entry of this kind. */
+function difference(
+  kind: "addFaces" | "dropFaces",
+  colors: readonly number[],
+  others: readonly number[],
+): readonly Change[] {
+  const alone = colors.filter((color) => !others.includes(color));
+  return alone.length === 0 ? [] : [{ kind, colors: exactList(alone) }];
 }
 
-export function changesFor(refusals: readonly Refusal[]): readonly Change[] {
-  return refusals.map(changeFor).filter((change) => change !== undefined);
-}
-
-function applied(form: PlateForm, change: Change): PlateForm {
-  const faces = pieces(form.fields.faceColors);
-  switch (change.kind) {
-    case "size":
-      return withField(form, change.size, change.to);
-    case "body":
-      return withField(form, "color", change.to);
-    case "addFace":
-      return withField(form, "faceColors", [...faces, change.color].join("_"));
-    case "dropFaces":
-      return withField(form, "faceColors", faces.filter((face) => !change.colors.includes(face)).join("_"));
-  }
-}
-
-export function changed(form: PlateForm, changes: readonly Change[]): PlateForm {
-  return changes.reduce(applied, form);
+export function changesOf(
+  plate: Plate,
+  { color, faceColors = plate.faceColors, ...sizes }: ChangedMembers,
+): readonly Change[] {
+  const ofSizes = (Object.entries(sizes) as [SizeName, number][]).map(([size, to]) => ({
+    kind: "size" as const,
+    size,
+    from: exact(plate[size]),
+    to: exact(to),
+  }));
+  return [
+    ...ofSizes,
+    ...(color === undefined ? [] : [{ kind: "body" as const, from: exact(plate.color), to: exact(color) }]),
+    ...difference("dropFaces", plate.faceColors, faceColors),
+    ...difference("addFaces", faceColors, plate.faceColors),
+  ];
 }

@@ -1,9 +1,10 @@
 // The plate that is tried, as its fields hold it: texts as they were typed. The program reads them, and says what is no number; the page
 // only writes them into a plate file, one column a field.
 
-import { typed, typedList } from "../../drawing/numbers";
+import { exact, exactList } from "../../drawing/numbers";
 import type { InputFile } from "../../engine/engine";
 import type { Plate } from "../../model/plate";
+import type { ChangedMembers } from "../../model/explain";
 
 /** The columns that every plate file has, by the members of a plate in JSON. */
 export const kColumns = {
@@ -45,7 +46,7 @@ export function askedBy(example: Plate): AskedFeatures {
 
 function featureText(value: boolean | number | readonly number[]): boolean | string {
   if (typeof value === "boolean") return value;
-  return typeof value === "number" ? typed(value) : typedList(value);
+  return typeof value === "number" ? exact(value) : exactList(value);
 }
 
 export function formOf(plate: Plate): PlateForm {
@@ -53,13 +54,13 @@ export function formOf(plate: Plate): PlateForm {
   return {
     fields: {
       name: plate.name,
-      length: typed(plate.length),
-      width: typed(plate.width),
-      thickness: typed(plate.thickness),
-      weight: typed(plate.weight),
-      color: typed(plate.color),
-      layer: plate.layer === undefined ? "" : typed(plate.layer),
-      faceColors: typedList(plate.faceColors),
+      length: exact(plate.length),
+      width: exact(plate.width),
+      thickness: exact(plate.thickness),
+      weight: exact(plate.weight),
+      color: exact(plate.color),
+      layer: plate.layer === undefined ? "" : exact(plate.layer),
+      faceColors: exactList(plate.faceColors),
     },
     features: Object.fromEntries(features) as Record<string, boolean | string>,
     ordered: plate.customProcesses ?? [],
@@ -71,6 +72,13 @@ export const kTriedForm = "tried-plate";
 
 export function withField(form: PlateForm, field: FieldName, text: string): PlateForm {
   return { ...form, fields: { ...form.fields, [field]: text } };
+}
+
+/** With members of a plate as the program gave them. */
+export function withMembers(form: PlateForm, { faceColors, ...numbers }: ChangedMembers): PlateForm {
+  const texts = Object.entries(numbers).map(([field, value]) => [field, exact(value)]);
+  const faces = faceColors === undefined ? {} : { faceColors: exactList(faceColors) };
+  return { ...form, fields: { ...form.fields, ...Object.fromEntries(texts), ...faces } };
 }
 
 export function withFeature(form: PlateForm, name: string, value: boolean | string): PlateForm {

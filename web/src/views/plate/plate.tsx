@@ -8,9 +8,8 @@ import { useApp, useSay } from "../../app/state";
 import type { ProcessedPlate } from "../../model/process";
 import { kPlateWords } from "../../words/plate";
 import { useChosen, useColors, useExample, usePlates, useTried } from "./asking";
-import { changed } from "./changes";
 import type { AskedFeatures, PlateForm } from "./form";
-import { askedBy, formOf, kTriedForm, withoutFeatures } from "./form";
+import { askedBy, formOf, kTriedForm, withMembers, withoutFeatures } from "./form";
 import { PlateFields } from "./plate_fields";
 import { PlateList } from "./plate_list";
 import { Result } from "./result";
@@ -95,7 +94,7 @@ function Trial() {
             byHand={asked.ordered}
             isComplete={isComplete}
             askAll={askAll}
-            apply={(changes) => setForm(changed(form, changes))}
+            apply={(members) => setForm(withMembers(form, members))}
           />
         )}
       </section>

@@ -1,16 +1,14 @@
 // What the plate gets, and why.
 
-import type { ComponentChildren } from "preact";
 import { useState } from "preact/hooks";
 import { RowLink } from "../../app/parts/row_link";
 import { copyText } from "../../app/parts/save";
 import { useSay } from "../../app/state";
-import type { ExplainedPlate } from "../../model/explain";
-import type { ExplainedProcess, RefusedRow, Verdict } from "../../model/process";
+import type { ChangedMembers, ExplainedPlate, RefusedRow } from "../../model/explain";
+import type { ExplainedProcess, Verdict } from "../../model/process";
 import { kPageWords } from "../../words/page";
 import { kPlateWords } from "../../words/plate";
-import type { Change } from "./changes";
-import { changesFor } from "./changes";
+import { changesOf } from "./changes";
 import { changeText, hasText, refusalText } from "./sentences";
 import { StatusMark } from "./status_mark";
 
@@ -111,42 +109,63 @@ function Processes({ processes, byHand }: ProcessesProps) {
   );
 }
 
-type Apply = (changes: readonly Change[]) => void;
+type Apply = (members: ChangedMembers) => void;
+
+interface ChangeProps {
+  readonly plate: ExplainedPlate;
+  readonly row: RefusedRow;
+  readonly apply: Apply;
+}
 
 /** What would have to change for the row, with a button that does it. */
-function Changes({ row, apply }: { row: RefusedRow; apply: Apply }) {
+function ChangeList({ plate, row, apply }: ChangeProps) {
   const say = useSay();
-  const changes = changesFor(row.refusals);
-  if (changes.length < row.refusals.length) return null;
+  const { change } = row;
+  if (change === null) return <p>{say(kPlateWords.unmeetable)}</p>;
   return (
-    <div class="plate-changes">
-      <p>
-        <strong>{say(kPlateWords.change, row.line)}</strong>
-      </p>
+    <>
       <ul>
-        {changes.map((change, index) => (
-          <li key={index}>{changeText(change, say)}</li>
+        {changesOf(plate.plate, change.plate).map((each, index) => (
+          <li key={index}>{changeText(each, say)}</li>
         ))}
       </ul>
-      <button type="button" title={say(kPlateWords.applyTitle)} onClick={() => apply(changes)}>
+      {change.line !== row.line && <p>{say(kPlateWords.taken, change.line)}</p>}
+      <button
+        type="button"
+        class="no-print"
+        title={say(kPlateWords.applyTitle)}
+        onClick={() => apply(change.plate)}
+      >
         {say(kPlateWords.apply)}
       </button>
-    </div>
+    </>
   );
 }
 
-function Refused({ row, children }: { row: RefusedRow; children?: ComponentChildren }) {
+/** Folded, it has no content: there may be thousands of rows. */
+function Change({ isOpen: isFirstOpen, ...props }: ChangeProps & { isOpen: boolean }) {
+  const say = useSay();
+  const [isOpen, open] = useState(isFirstOpen);
+  return (
+    <details class="plate-changes" open={isOpen} onToggle={(event) => open(event.currentTarget.open)}>
+      <summary>{say(kPlateWords.change, props.row.line)}</summary>
+      {isOpen && <ChangeList {...props} />}
+    </details>
+  );
+}
+
+function Refused({ isOpen, ...props }: ChangeProps & { isOpen: boolean }) {
   const say = useSay();
   return (
     <li>
-      <RowLink row={row.line} />
+      <RowLink row={props.row.line} />
       <div>
-        {row.refusals.map((refusal, index) => (
+        {props.row.refusals.map((refusal, index) => (
           <span key={index} class="refusal">
             {refusalText(refusal, say)}
           </span>
         ))}
-        {children}
+        <Change {...props} isOpen={isOpen} />
       </div>
     </li>
   );
@@ -161,12 +180,12 @@ interface RefusedRowsProps {
 
 function RefusedRows({ plate, isComplete, askAll, apply }: RefusedRowsProps) {
   const say = useSay();
-  const [nearest] = plate.refusedRows;
-  if (nearest === undefined) return null;
+  if (plate.refusedRows.length === 0) return null;
+  const isNearestFirst = plate.line === null;
   return (
     <section>
       <header class="section-head">
-        <h3>{say(plate.line === null ? kPlateWords.refused : kPlateWords.refusedBefore)}</h3>
+        <h3>{say(isNearestFirst ? kPlateWords.refused : kPlateWords.refusedBefore)}</h3>
         {(plate.furtherRows > 0 || isComplete) && (
           <button type="button" class="no-print" onClick={() => askAll(!isComplete)}>
             {say(isComplete ? kPlateWords.fewer : kPlateWords.all)}
@@ -174,13 +193,17 @@ function RefusedRows({ plate, isComplete, askAll, apply }: RefusedRowsProps) {
           </button>
         )}
       </header>
-      {plate.line === null && <Changes row={nearest} apply={apply} />}
       <ol class="refused">
-        {plate.refusedRows.map((row) => (
-          <Refused key={row.line} row={row} />
+        {plate.refusedRows.map((row, index) => (
+          <Refused
+            key={row.line}
+            plate={plate}
+            row={row}
+            apply={apply}
+            isOpen={isNearestFirst && index === 0}
+          />
         ))}
       </ol>
-      {plate.line !== null && <Changes row={nearest} apply={apply} />}
     </section>
   );
 }

@@ -57,10 +57,10 @@ export function changeText(change: Change, say: Say): string {
       return say(kRefusalWords.setSize, say(kSizeWords[change.size]), change.from, change.to);
     case "body":
       return say(kRefusalWords.setBody, change.from, change.to);
-    case "addFace":
-      return say(kRefusalWords.addFace, change.color);
+    case "addFaces":
+      return say(kRefusalWords.addFaces, change.colors);
     case "dropFaces":
-      return say(kRefusalWords.dropFaces, change.colors.join("_"));
+      return say(kRefusalWords.dropFaces, change.colors);
   }
 }
 

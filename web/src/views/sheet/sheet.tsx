@@ -5,10 +5,11 @@ import { useAnswer } from "../../app/answer";
 import { Failure, OpenFirst } from "../../app/parts/failure";
 import { useKept } from "../../app/parts/kept";
 import { Needing } from "../../app/parts/needing";
-import { filesOf, useApp, useSay, type Workspace } from "../../app/state";
+import { AppContext, filesOf, useApp, useSay, type Workspace } from "../../app/state";
 import { kInk } from "../../drawing/looks";
 import { shown } from "../../drawing/numbers";
 import { lineColorAt } from "../../drawing/palette";
+import { drawnApart } from "../../drawing/save";
 import { SaveButtons } from "../../drawing/save_buttons";
 import { useViewBox } from "../../drawing/view_box";
 import type { DrawnSheet, SheetPart, SheetPicture } from "../../model/pictures";
@@ -17,7 +18,7 @@ import { kSheetWords } from "../../words/sheet";
 import { kPapers, landscape, portrait } from "./paper";
 import { Assumed, Parts, Unknowns, useOpenPart } from "./parts";
 import { differing } from "./sameness";
-import { SheetDrawing, wholeOf } from "./sheet_drawing";
+import { SavedSheet, SheetDrawing, wholeOf } from "./sheet_drawing";
 import "../../app/parts/common.css";
 import "./sheet.css";
 
@@ -147,7 +148,8 @@ interface PaneProps {
 
 function Pane({ picture, otherPicture, question, ask }: PaneProps) {
   const say = useSay();
-  const { workspace, other } = useApp();
+  const app = useApp();
+  const { workspace, other } = app;
   const sheet = picture.sheets.find(({ name }) => name === question.sheet) ?? picture.sheets[0];
   const otherSheet = otherPicture?.sheets.find(({ name }) => name === sheet?.name);
   const zoom = useViewBox(wholeOf(sheet ?? picture.paper));
@@ -167,9 +169,15 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
   );
   if (sheet === undefined) return null;
   const common = { zoom, colors, marked, mark };
+  const saved = () =>
+    drawnApart(
+      <AppContext.Provider value={app}>
+        <SavedSheet sheet={sheet} box={zoom.box} colors={colors} differing={changed} />
+      </AppContext.Provider>,
+    );
   return (
     <div class="sheet-view">
-      <div class="sheet-main">
+      <div class="picture-main">
         <Bar picture={picture} question={question} shownSheet={sheet.name} ask={ask} />
         <div class="sheet-pictures">
           <figure>
@@ -189,7 +197,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
             </figure>
           )}
         </div>
-        <div class="map-bar">
+        <div class="picture-bar">
           <ColorLegend colors={colors} />
           <span class="no-print">
             <button
@@ -209,11 +217,11 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
             <button type="button" onClick={zoom.reset}>
               {say(kDrawingWords.whole)}
             </button>
-            <SaveButtons picture={svg} name={`${say(kSheetWords.sheet)}-${sheet.name}`} />
+            <SaveButtons picture={saved} name={`${say(kSheetWords.sheet)}-${sheet.name}`} />
           </span>
         </div>
       </div>
-      <div class="sheet-side">
+      <div class="picture-side">
         <section aria-label={say(kSheetWords.parts)}>
           <h2>
             {say(kSheetWords.parts)} <span class="quiet">{sheet.parts.length}</span>

@@ -1,6 +1,6 @@
 // One sheet to scale.
 
-import type { RefObject } from "preact";
+import type { ComponentChildren, RefObject } from "preact";
 import { useApp, useSay } from "../../app/state";
 import { kFont, kInk, kPaper, kQuiet } from "../../drawing/looks";
 import { shown } from "../../drawing/numbers";
@@ -15,15 +15,10 @@ export function wholeOf({ width, height }: { width: number; height: number }): V
   return { x: -rim, y: -rim, width: width + 2 * rim, height: height + 2 * rim };
 }
 
-interface SheetDrawingProps {
+interface DrawnProps {
   readonly sheet: DrawnSheet;
-  readonly svg: RefObject<SVGSVGElement | null>;
-  readonly zoom: Zoomable;
   readonly colors: ReadonlyMap<number | null, string>;
-  readonly marked: SheetPart | undefined;
   readonly differing: ReadonlySet<SheetPart>;
-  mark(part: SheetPart | undefined): void;
-  open(part: SheetPart): void;
 }
 
 interface MarkedProps {
@@ -64,72 +59,124 @@ function Marked({ part, paper, view, line }: MarkedProps) {
   );
 }
 
-export function SheetDrawing(props: SheetDrawingProps) {
-  const { sheet, svg, zoom, colors, marked, differing, mark, open } = props;
+/** A frame would hide what lies within it. */
+function isFrame(part: SheetPart): boolean {
+  return part.kind === "rectangle";
+}
+
+interface AroundProps {
+  readonly part: SheetPart;
+  readonly paper: number;
+  readonly line: number;
+}
+
+/** The box of a part with a rim of some lines. */
+function around({ part, paper, line }: AroundProps) {
+  const { x, y, width, height } = boxOf(part, paper);
+  const rim = 6 * line;
+  return { x: x - rim, y: y - rim, width: width + 2 * rim, height: height + 2 * rim };
+}
+
+function Differing(props: AroundProps) {
+  const { part, line } = props;
+  return (
+    <rect
+      {...around(props)}
+      fill="#fdf1d3"
+      fill-opacity={isFrame(part) ? 0 : 1}
+      stroke="#e69f00"
+      stroke-width={line}
+      stroke-dasharray={`${line * 3} ${line * 2}`}
+    />
+  );
+}
+
+/** Where the part is pointed at: its lines alone would be hard to meet. */
+function Reach(props: AroundProps) {
+  return (
+    <rect
+      {...around(props)}
+      fill="none"
+      pointer-events={isFrame(props.part) ? "stroke" : "all"}
+      stroke="transparent"
+      stroke-width={9 * props.line}
+      data-page-only
+    />
+  );
+}
+
+interface PictureProps extends DrawnProps {
+  readonly box: ViewBox;
+  /** Millimetres that a line is wide. */
+  readonly line: number;
+  readonly svg?: RefObject<SVGSVGElement | null>;
+  readonly children?: ComponentChildren;
+  /** What a part listens to. */
+  readonly listening?: (part: SheetPart) => object;
+}
+
+function Picture({ sheet, box, line, colors, differing, svg, children, listening }: PictureProps) {
   const say = useSay();
   const { language } = useApp();
-  useFollowing(svg, zoom);
-  const { box } = zoom;
-  const line = usePixel(svg, box);
+  const paper = sheet.height;
   return (
     <svg
-      ref={svg}
+      {...(svg && { ref: svg })}
       class="sheet-picture"
       viewBox={`${box.x} ${box.y} ${box.width} ${box.height}`}
       role="img"
       aria-label={say(kSheetWords.picture, sheet.title[language], shown(sheet.width), shown(sheet.height))}
     >
-      <rect width={sheet.width} height={sheet.height} fill={kPaper} stroke={kQuiet} stroke-width={line} />
-      {sheet.parts.map((part, index) => {
-        const hit = boxOf(part, sheet.height);
-        // A frame would hide what lies within it.
-        const isFrame = part.kind === "rectangle";
-        const rim = 6 * line;
-        return (
-          <g
-            key={index}
-            class="sheet-part"
-            onPointerEnter={() => mark(part)}
-            onPointerLeave={() => mark(undefined)}
-            onClick={() => open(part)}
-          >
-            {differing.has(part) && (
-              <rect
-                x={hit.x - rim}
-                y={hit.y - rim}
-                width={hit.width + 2 * rim}
-                height={hit.height + 2 * rim}
-                fill="#fdf1d3"
-                fill-opacity={isFrame ? 0 : 1}
-                stroke="#e69f00"
-                stroke-width={line}
-                stroke-dasharray={`${line * 3} ${line * 2}`}
-              />
-            )}
-            <rect
-              x={hit.x - rim}
-              y={hit.y - rim}
-              width={hit.width + 2 * rim}
-              height={hit.height + 2 * rim}
-              fill="none"
-              pointer-events={isFrame ? "stroke" : "all"}
-              stroke="transparent"
-              stroke-width={rim * 1.5}
-              data-page-only
-            />
-            <ShapeOf
-              part={part}
-              label={part.label[language]}
-              paper={sheet.height}
-              color={colors.get(part.color) ?? kInk}
-              line={line}
-            />
-          </g>
-        );
-      })}
+      <rect width={sheet.width} height={paper} fill={kPaper} stroke={kQuiet} stroke-width={line} />
+      {sheet.parts.map((part, index) => (
+        <g key={index} class="sheet-part" {...listening?.(part)}>
+          {differing.has(part) && <Differing part={part} paper={paper} line={line} />}
+          {listening && <Reach part={part} paper={paper} line={line} />}
+          <ShapeOf
+            part={part}
+            label={part.label[language]}
+            paper={paper}
+            color={colors.get(part.color) ?? kInk}
+            line={line}
+          />
+        </g>
+      ))}
+      {children}
+    </svg>
+  );
+}
+
+/** So many lines are beside each other in a saved picture, as in a window of middling size. */
+const kLinesOfFile = 900;
+
+/** The picture for a file: what is in sight of the sheet. */
+export function SavedSheet({ box, ...drawn }: DrawnProps & { readonly box: ViewBox }) {
+  return <Picture {...drawn} box={box} line={box.width / kLinesOfFile} />;
+}
+
+interface SheetDrawingProps extends DrawnProps {
+  readonly svg: RefObject<SVGSVGElement | null>;
+  readonly zoom: Zoomable;
+  readonly marked: SheetPart | undefined;
+  mark(part: SheetPart | undefined): void;
+  open(part: SheetPart): void;
+}
+
+export function SheetDrawing({ svg, zoom, marked, mark, open, ...drawn }: SheetDrawingProps) {
+  useFollowing(svg, zoom);
+  const { sheet } = drawn;
+  const { box } = zoom;
+  const line = usePixel(svg, box);
+  const listening = (part: SheetPart) => ({
+    onPointerEnter: () => mark(part),
+    onPointerLeave: () => mark(undefined),
+    onClick: () => open(part),
+  });
+  return (
+    <Picture {...drawn} svg={svg} box={box} line={line} listening={listening}>
       {marked && sheet.parts.includes(marked) && (
         <Marked part={marked} paper={sheet.height} view={box} line={line} />
       )}
-    </svg>
+    </Picture>
   );
 }

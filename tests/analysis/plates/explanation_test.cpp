@@ -1,4 +1,4 @@
-#include "analysis/rules/explanation.h"
+#include "analysis/plates/explanation.h"
 
 #include <gmock/gmock.h>
 
