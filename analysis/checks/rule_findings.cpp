@@ -72,6 +72,14 @@ class RuleFindings {
     return finding;
   }
 
+  /// The group of a plate that the row accepts.
+  Value GroupOf(int row, const Plate& plate) const {
+    const auto found = std::find_if(model_.rows.begin(), model_.rows.end(),
+                                    [&](const ModelRow& each) { return each.row == row; });
+    return GroupValue({space_.BodyClasses()[space_.ClassOf(plate.color)].colors,
+                       {found->hasProfile, found->hasWireCutting}});
+  }
+
   void NoteUndecided(const std::vector<int>& rows) {
     if (rows.empty()) return;
     Word text = RowsText(rows);
@@ -101,6 +109,7 @@ class RuleFindings {
     Finding finding = RowFinding("row-shadowed", row.row);
     finding.members.emplace_back("blockers", Values(row.blockers));
     finding.members.emplace_back("sameText", row.sameText);
+    finding.members.emplace_back("group", GroupOf(row.row, row.witness));
     finding.members.emplace_back("witness", WitnessValue(row.witness));
     finding.members.emplace_back("witnessRow", row.witnessRow);
     finding.words.push_back(RowsText(row.blockers));
@@ -121,6 +130,7 @@ class RuleFindings {
       finding.members.emplace_back("otherRow", bound.otherRow);
       finding.members.emplace_back("condition", NameOf(bound.condition));
       finding.members.emplace_back("value", bound.value);
+      finding.members.emplace_back("group", GroupOf(bound.row, bound.witness));
       finding.members.emplace_back("witness", WitnessValue(bound.witness));
       finding.members.emplace_back("witnessRow", bound.otherRow);
       finding.words.insert(finding.words.end(), {std::to_string(bound.otherRow), WordsOf(bound.condition),

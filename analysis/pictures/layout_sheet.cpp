@@ -160,15 +160,8 @@ class LayoutDrawing {
     const SheetSetting gap = settings_.Of(&Layout::viewGapRatio);
     const SheetSetting color = settings_.Of(&Layout::viewBoxColor);
     builder_.AddUnknown({"room of all views together", "全部视图合起来的范围"}, reasons::kNoStart,
-                        {length, height},
-                        Specimen{SpecimenKind::kRectangle,
-                                 length.Number() * question_.paper.width,
-                                 height.Number() * question_.paper.height,
-                                 {},
-                                 {},
-                                 {}});
-    builder_.AddUnknown({"gap between views", "视图间距"}, reasons::kViews, {gap},
-                        LengthSpecimen(gap.Number() * question_.paper.width));
+                        {length, height}, RoomSpecimen(length.Number(), height.Number()));
+    builder_.AddUnknown({"gap between views", "视图间距"}, reasons::kViews, {gap}, GapSpecimen(gap.Number()));
     builder_.AddUnknown(
         {"box around a view", "视图外框"}, reasons::kNoUnit,
         {settings_.Of(&Layout::viewBoxMargin), color, settings_.Of(&Layout::materialTopBoxLayer),
@@ -176,6 +169,17 @@ class LayoutDrawing {
          settings_.Of(&Layout::standardTopBoxLayer), settings_.Of(&Layout::standardFrontBoxLayer),
          settings_.Of(&Layout::standardLeftBoxLayer)},
         LineSpecimen(color, {}));
+  }
+
+  std::optional<Specimen> RoomSpecimen(double length, double height) const {
+    if (!IsShare(length) || !IsShare(height)) return std::nullopt;
+    const auto& [paperWidth, paperHeight] = question_.paper;
+    return Specimen{SpecimenKind::kRectangle, length * paperWidth, height * paperHeight, {}, {}, {}};
+  }
+
+  std::optional<Specimen> GapSpecimen(double share) const {
+    if (!IsShare(share)) return std::nullopt;
+    return LengthSpecimen(share * question_.paper.width);
   }
 
   void AddCircle(const Circle& circle) {

@@ -87,15 +87,8 @@ class ChangesDrawing {
     for (std::size_t size = 0; size < kSizeCount; ++size) {
       changes_.sizes[size] = MapSizeOf(rows, size);
       changes_.fixed[size] = question_.fixed[size].value_or(example.*kSizeConditions[size].value);
-      picture_[size] = {changes_.fixed[size], changes_.fixed[size]};
     }
-    TakeAxis(question_.x, question_.xRange);
-    TakeAxis(question_.y, question_.yRange);
-  }
-
-  void TakeAxis(std::size_t size, const std::optional<Interval>& range) {
-    if (range) changes_.sizes[size].shown = *range;
-    picture_[size] = changes_.sizes[size].shown;
+    picture_ = PictureOf(question_, changes_.fixed, changes_.sizes);
   }
 
   void DrawRegion(const RuleRegion& region) {

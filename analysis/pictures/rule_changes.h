@@ -29,7 +29,7 @@ struct ChangedGroup {
 };
 
 struct RuleChanges {
-  std::array<MapSize, kSizeCount> sizes;
+  MapSizes sizes;
   std::array<double, kSizeCount> fixed{};  ///< Those of x and y say nothing.
   int bodyColor = 0;
   std::vector<ChangedGroup> groups;

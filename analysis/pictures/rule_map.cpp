@@ -6,6 +6,7 @@
 #include <limits>
 #include <set>
 
+#include "analysis/pictures/map_neighbours.h"
 #include "analysis/rules/witness.h"
 #include "rules/rule_table_keys.h"
 
@@ -74,6 +75,37 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
     best = values;
   }
   return best;
+}
+
+/// Plates have no length, width or thickness of 0.
+bool MayBeZero(std::size_t size) {
+  return kSizeConditions[size].condition == Condition::kWeight;
+}
+
+/// Steps of 1, or of less where there would be few.
+MapSlider SliderOf(std::size_t size, double end) {
+  constexpr double kFewSteps = 100;
+  MapSlider slider{0, end, 1};
+  while (slider.step * kFewSteps > end && slider.step > kMaximumTolerance) slider.step /= 10;
+  if (!MayBeZero(size)) slider.from = slider.step;
+  return slider;
+}
+
+// ---- what hides a row ----
+
+/// Whether a part reaches further than the tolerance beyond a bound, or as far as the row does.
+bool IsMoreThanABound(const Interval& part, const Interval& whole) {
+  return !IsSharedBound(part) || part == whole;
+}
+
+std::vector<int> BlockersOf(const MapRegion& region) {
+  std::set<int> blockers;
+  for (const HiddenBox& hidden : region.hidden) {
+    const bool isMeant =
+        IsMoreThanABound(hidden.box.x, region.matches.x) && IsMoreThanABound(hidden.box.y, region.matches.y);
+    if (isMeant || region.wins.empty()) blockers.insert(hidden.by);
+  }
+  return {blockers.begin(), blockers.end()};
 }
 
 // ---- the group ----
@@ -148,27 +180,22 @@ class MapDrawing {
     for (std::size_t size = 0; size < kSizeCount; ++size) {
       map_.sizes[size] = MapSizeOf(rows, size);
       map_.fixed[size] = question_.fixed[size].value_or(RoundNumber(MostAccepted(rows, size)));
-      picture_[size] = {map_.fixed[size], map_.fixed[size]};
     }
-    TakeAxis(question_.x, question_.xRange);
-    TakeAxis(question_.y, question_.yRange);
-  }
-
-  void TakeAxis(std::size_t size, const std::optional<Interval>& range) {
-    if (range) map_.sizes[size].shown = *range;
-    picture_[size] = map_.sizes[size].shown;
+    picture_ = PictureOf(question_, map_.fixed, map_.sizes);
   }
 
   void DrawRows(const Rows& rows) {
     for (const ModelRow* row : rows) {
       const Box box = Intersection(row->box, picture_);
       if (IsEmpty(box)) continue;
-      MapRegion region{row->row, LayerOf(*row), Flat(box), {}, {}};
+      MapRegion region{row->row, LayerOf(*row), Flat(box), {}, {}, {}, {}};
       for (const Box& piece : Uncovered(box)) region.wins.push_back(Flat(piece));
       for (const MapRegion& earlier : map_.regions) AddHidden(earlier, region);
+      region.hiddenBy = BlockersOf(region);
       taken_.push_back(box);
       map_.regions.push_back(std::move(region));
     }
+    NameNeighbours(map_.regions, Flat(picture_));
   }
 
   void DrawGaps() {
@@ -195,7 +222,12 @@ class MapDrawing {
   }
 
   /// Where the earlier row wins, and so takes the plates of this one. What wins there does not overlap.
-  static void AddHidden(const MapRegion& earlier, MapRegion& region) {
+  void AddHidden(const MapRegion& earlier, MapRegion& region) {
+    if (!earlier.matches.x.Meets(region.matches.x) || !earlier.matches.y.Meets(region.matches.y)) return;
+    if (!work_.Spend(earlier.wins.size())) {
+      map_.isComplete = false;
+      return;
+    }
     for (const FlatBox& won : earlier.wins) {
       if (!won.x.Meets(region.matches.x) || !won.y.Meets(region.matches.y)) continue;
       region.hidden.push_back({{Both(won.x, region.matches.x), Both(won.y, region.matches.y)}, earlier.row});
@@ -224,9 +256,19 @@ class MapDrawing {
 }  // namespace
 
 MapSize MapSizeOf(const MapRows& rows, std::size_t size) {
-  MapSize shown{{0, kUsualSize}, StatedBounds(rows, size)};
+  MapSize shown{{0, kUsualSize}, StatedBounds(rows, size), {}};
   if (!shown.bounds.empty()) shown.shown.high = shown.bounds.back() + shown.bounds.back() / kShareBeyond;
+  shown.slider = SliderOf(size, shown.shown.high);
   return shown;
+}
+
+Box PictureOf(const MapQuestion& question, const std::array<double, kSizeCount>& fixed, MapSizes& sizes) {
+  if (question.xRange) sizes[question.x].shown = *question.xRange;
+  if (question.yRange) sizes[question.y].shown = *question.yRange;
+  Box picture;
+  for (std::size_t size = 0; size < kSizeCount; ++size) picture[size] = {fixed[size], fixed[size]};
+  for (const std::size_t axis : {question.x, question.y}) picture[axis] = sizes[axis].shown;
+  return picture;
 }
 
 RuleMap DrawRuleMap(const RuleModel& model, const PlateSpace& space, const MapQuestion& question) {

@@ -56,17 +56,34 @@ struct MapRegion {
   FlatBox matches;
   std::vector<FlatBox> wins;      ///< Where a plate gets this row.
   std::vector<HiddenBox> hidden;  ///< Where it gets an earlier one. With `wins` all of `matches`, once.
+  /// The rows of `hidden`, ascending. Without those that take no more than the tolerance beyond a bound that
+  /// both rows state, unless such slices are all that the row has.
+  std::vector<int> hiddenBy;
+  std::vector<int> neighbours;  ///< Earlier rows that are seen to win beside it, ascending.
+};
+
+/// The values of a slider: plates have no length, width or thickness of 0.
+struct MapSlider {
+  double from = 0;
+  double to = 0;
+  double step = 1;  ///< A power of ten; `from` is 0 or one of it.
 };
 
 /// What a size has to show beside the picture.
 struct MapSize {
-  Interval shown;              ///< In the picture if it spans this size, or as a slider's range.
+  Interval shown;              ///< In the picture if it spans this size.
   std::vector<double> bounds;  ///< What rows of the group state, ascending; without 0 and "no bound".
+  MapSlider slider;
 };
 
+using MapSizes = std::array<MapSize, kSizeCount>;
 using MapRows = std::vector<const ModelRow*>;
 
 MapSize MapSizeOf(const MapRows& rows, std::size_t size);
+
+/// The plates that are drawn: the fixed sizes, and what is shown of the two others. A range that the question
+/// gives is what is shown.
+Box PictureOf(const MapQuestion& question, const std::array<double, kSizeCount>& fixed, MapSizes& sizes);
 
 /// Plates of the body colours that the rules do not tell apart.
 struct ColorChoice {
@@ -75,7 +92,7 @@ struct ColorChoice {
 };
 
 struct RuleMap {
-  std::array<MapSize, kSizeCount> sizes;
+  MapSizes sizes;
   std::array<double, kSizeCount> fixed{};  ///< Those of x and y say nothing.
   int bodyColor = 0;
   GroupName group;

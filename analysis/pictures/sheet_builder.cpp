@@ -7,19 +7,31 @@
 namespace plateconfig {
 namespace {
 
-/// Of the sheet; nothing else could be meant.
-bool IsShare(double value) {
-  return value >= 0 && value <= 1;
+bool FitsOn(const SheetPart& part, const PaperSize& paper) {
+  return IsShare(part.width / paper.width) && IsShare(part.height / paper.height);
 }
 
 /// What is known of a part that has no place.
-std::optional<Specimen> SpecimenOf(const SheetPart& part) {
-  if (part.kind == PartKind::kPoint) return std::nullopt;
+std::optional<Specimen> SpecimenOf(const SheetPart& part, const PaperSize& paper) {
   if (part.kind == PartKind::kText) return TextSpecimen(part.text, part.layer);
+  if (part.kind == PartKind::kPoint || !FitsOn(part, paper)) return std::nullopt;
   return Specimen{SpecimenKind::kRectangle, part.width, part.height, {}, part.color, part.layer};
 }
 
+/// Why a part has no place; nothing when it has one.
+std::optional<Words> WhyUnplaced(const SheetPart& part, const PaperSize& paper, double x, double y) {
+  // A size that is no number is in the place.
+  if (!std::isfinite(part.x) || !std::isfinite(part.y)) return reasons::kNoNumber;
+  if (!FitsOn(part, paper)) return reasons::kNoSize;
+  if (!IsShare(x) || !IsShare(y)) return reasons::kOutside;
+  return std::nullopt;
+}
+
 }  // namespace
+
+bool IsShare(double value) {
+  return value >= 0 && value <= 1;
+}
 
 SheetPart PartOf(PartKind kind, const Words& label) {
   SheetPart part;
@@ -74,11 +86,6 @@ void SheetBuilder::AddAtMargins(SheetPart part, const SheetSetting& left, const 
   part.x = left.Number() * paper_.width;
   part.y = (1 - top.Number()) * paper_.height - part.height;
   part.assumes.insert(part.assumes.begin(), {Assumption::kPaper, Assumption::kMargins});
-  if (std::isfinite(part.x) && std::isfinite(part.y) && !(IsShare(left.Number()) && IsShare(top.Number()))) {
-    part.keys.insert(part.keys.begin(), {left.key, top.key});
-    sheet_.unknown.push_back({part.label, reasons::kOutside, SpecimenOf(part), std::move(part.keys)});
-    return;
-  }
   Add(std::move(part), left, top);
 }
 
@@ -90,10 +97,9 @@ void SheetBuilder::AddUnknown(const Words& what, const Words& why, const std::ve
 void SheetBuilder::Add(SheetPart part, const SheetSetting& x, const SheetSetting& y) {
   part.keys.insert(part.keys.begin(), {x.key, y.key});
   if (part.kind == PartKind::kText) part.assumes.push_back(Assumption::kTextSize);
-  // A size that is no number is in the place.
-  const bool hasPlace = std::isfinite(part.x) && std::isfinite(part.y);
-  if (hasPlace) return sheet_.parts.push_back(std::move(part));
-  sheet_.unknown.push_back({part.label, reasons::kNoNumber, SpecimenOf(part), std::move(part.keys)});
+  const auto why = WhyUnplaced(part, paper_, x.Number(), y.Number());
+  if (!why) return sheet_.parts.push_back(std::move(part));
+  sheet_.unknown.push_back({part.label, *why, SpecimenOf(part, paper_), std::move(part.keys)});
 }
 
 }  // namespace plateconfig

@@ -25,6 +25,9 @@ struct SheetQuestion {
   SheetSize size = SheetSize::kLarge;
 };
 
+/// Of the sheet; nothing else could be meant.
+bool IsShare(double value);
+
 SheetPart PartOf(PartKind kind, const Words& label);
 
 /// The keys of the settings, in their order.

@@ -36,6 +36,10 @@ inline constexpr Words kNothingCompared = {"no table says which size of a plate 
 inline constexpr Words kOutside = {
     "read as a share of the sheet the place lies outside of it, and no table says another unit",
     "按图纸的比例算，这个位置在图纸之外，而表中没有说明别的单位"};
+inline constexpr Words kNoSize = {
+    "read as a share of the sheet it is larger than the sheet or less than nothing, and no table says "
+    "another unit",
+    "按图纸的比例算，它比图纸还大或者小于零，而表中没有说明别的单位"};
 inline constexpr Words kNoNumber = {"its place is no number", "它的位置不是一个数"};
 inline constexpr Words kSquare = {
     "on a square paper it may be the place for landscape or the one for portrait",

@@ -4,6 +4,8 @@
 
 #include "analysis/checks/given_tables.h"
 #include "analysis/rules/rule_scene.h"
+#include "plateconfig/output/findings_json.h"
+#include "plateconfig/output/json_output.h"
 
 namespace plateconfig {
 namespace {
@@ -65,6 +67,30 @@ TEST(RuleFindings, AConditionThatAdmitsNothingIsNamed) {
   EXPECT_EQ(message({.profile = "有型面"}), "row 2 accepts no plate at all: its profile admits none");
   EXPECT_EQ(message({.wireCutting = "有线割"}),
             "row 2 accepts no plate at all: its wire cutting admits none");
+}
+
+/// The member "group" of the first finding of a code, as JSON.
+std::string GroupOf(const std::vector<Finding>& findings, std::string_view code) {
+  for (const Finding& finding : findings) {
+    if (test::CodesOf({finding}).front() != code) continue;
+    for (const auto& [name, value] : finding.members) {
+      if (name == "group") return JsonArray::ToText(ToJson(value));
+    }
+  }
+  return {};
+}
+
+TEST(RuleFindings, AnExampleOfAHiddenRowComesWithItsGroup) {
+  const Row row{.wireCutting = "有线割", .material = "硬料（体颜色）"};
+  EXPECT_EQ(GroupOf(Analyse({row, row}).findings, "row-shadowed"),
+            R"({"colors":[42],"profile":false,"wireCutting":true})");
+}
+
+TEST(RuleFindings, AnExampleOfASharedBoundComesWithItsGroup) {
+  const auto found = Analyse({{.length = "0_100", .profile = "有型面", .drilling = "a"},
+                              {.length = "100_200", .profile = "有型面", .drilling = "b"}})
+                         .findings;
+  EXPECT_EQ(GroupOf(found, "row-shared-bound"), R"({"colors":[12],"profile":true,"wireCutting":false})");
 }
 
 TEST(RuleFindings, RowsThatWereNotFullyComparedAreToldInOneSentence) {

@@ -186,6 +186,31 @@ TEST(LayoutSheet, APlaceThatIsNoNumberIsUnknown) {
   EXPECT_EQ(Unknown(sheet, "code").keys[1].cell, "B2");
 }
 
+TEST(LayoutSheet, APlaceThatIsNoShareIsOutsideOfTheSheet) {
+  Tables tables;
+  tables.With(Role::kLayoutDefaults,
+              "俯视图左上角交点X坐标所占图纸长度的比例,代号左上角交点Y坐标所占图纸高度的比例,代号注释的样式\n"
+              "28,-0.1,宋体|6|1|1|1|1\n");
+  const Sheet sheet = tables.Layout(Paper(400, 200));
+  EXPECT_FALSE(HasPart(sheet, "upper left corner of the top view"));
+  const UnknownPart& corner = Unknown(sheet, "upper left corner of the top view");
+  EXPECT_EQ(corner.why.english, reasons::kOutside.english);
+  EXPECT_FALSE(corner.specimen);
+  EXPECT_EQ(Unknown(sheet, "code").why.english, reasons::kOutside.english);
+  EXPECT_EQ(Unknown(sheet, "code").specimen->text.height, 6);
+}
+
+TEST(LayoutSheet, AShareThatIsNoneHasNoSpecimen) {
+  Tables tables;
+  tables.With(Role::kLayoutDefaults,
+              "视图间距与图纸长度的比例,水平方向所有视图总长度与图纸长度的比例,"
+              "竖直方向所有视图总长度与图纸高度的比例\n"
+              "8,0.5,-0.25\n");
+  const Sheet sheet = tables.Layout(Paper(400, 200));
+  EXPECT_FALSE(Unknown(sheet, "gap between views").specimen);
+  EXPECT_FALSE(Unknown(sheet, "room of all views together").specimen);
+}
+
 // ---- where values come from ----
 
 TEST(SheetSettings, WithoutATableTheClassesOwnValuesAreDrawn) {
@@ -262,6 +287,28 @@ TEST(CustomSheets, AMarginThatIsNoShareGivesNoPlace) {
   EXPECT_EQ(group.keys[0].cell, "A2");
   EXPECT_EQ(Unknown(sheet, "code of the sub-sheet").why.english, reasons::kOutside.english);
   EXPECT_EQ(Unknown(sheet, "code of the sub-sheet").specimen->text.height, 6);
+}
+
+TEST(CustomSheets, AShareOfMoreThanTheSheetOrLessThanNothingGivesNoSize) {
+  for (const char* share : {"-0.6", "20", "1.001"}) {
+    SCOPED_TRACE(share);
+    Tables tables;
+    tables.With(Role::kCustomSettings, "分图-视图图组尺寸与图框尺寸比例\n" + std::string(share) + "\n");
+    const Sheet sheet = tables.Sub(Paper(400, 200));
+    EXPECT_FALSE(HasPart(sheet, "room of all views together"));
+    const UnknownPart& group = Unknown(sheet, "room of all views together");
+    EXPECT_EQ(group.why.english, reasons::kNoSize.english);
+    EXPECT_FALSE(group.specimen);
+    EXPECT_EQ(group.keys[2].cell, "A2");
+  }
+}
+
+TEST(CustomSheets, AShareOfNothingAndOfAllIsASize) {
+  Tables tables;
+  tables.With(Role::kCustomSettings,
+              "爆炸图-视图图组尺寸与图框尺寸比例,分图-视图图组尺寸与图框尺寸比例\n0,1\n");
+  EXPECT_EQ(Part(tables.ExplodedView(Paper(400, 200)), "room of all views together").width, 0);
+  EXPECT_EQ(Part(tables.Sub(Paper(400, 200)), "room of all views together").height, 200);
 }
 
 TEST(CustomSheets, MarginsOfNothingAndOfAllAreShares) {

@@ -9,6 +9,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "analysis/pictures/flat_box.h"
@@ -135,6 +136,106 @@ TEST(RuleMap, RowsBesideEachOtherHideNothing) {
                      {.length = "100_200", .width = "300_400"},
                      {.length = "300_400", .width = "100_200"}});
   for (const MapRegion& region : MapOf(scene, Question()).regions) EXPECT_THAT(region.hidden, IsEmpty());
+}
+
+std::vector<int> BlockersOf(const Scene& scene, int row) {
+  for (const MapRegion& region : MapOf(scene, Question()).regions) {
+    if (region.row == row) return region.hiddenBy;
+  }
+  ADD_FAILURE() << "row " << row << " is not in the picture";
+  return {};
+}
+
+TEST(RuleMap, TheRowsThatHideARowAreNamedOnceAndInOrder) {
+  const Scene scene({{.length = "300_400", .width = "100_200"},
+                     {.length = "100_200", .width = "100_400"},
+                     {.length = "100_250", .width = "150_180"},
+                     {.length = "150_350", .width = "110_300"}});
+  EXPECT_THAT(BlockersOf(scene, 2), IsEmpty());
+  EXPECT_THAT(BlockersOf(scene, 4), ElementsAre(3));
+  EXPECT_THAT(BlockersOf(scene, 5), ElementsAre(2, 3, 4));
+}
+
+TEST(RuleMap, ARowThatSharesNoMoreThanABoundWithAnotherIsNotHiddenByIt) {
+  const Scene besides({{.length = "100_200"}, {.length = "200_300"}});
+  EXPECT_THAT(BlockersOf(besides, 3), IsEmpty());
+  const Scene above({{.width = "100_200"}, {.width = "200_300"}});
+  EXPECT_THAT(BlockersOf(above, 3), IsEmpty());
+}
+
+TEST(RuleMap, ARowOfOneSizeIsHiddenAsAnyOther) {
+  const Scene whole({{.length = "300_400"}, {.length = "300_300"}});
+  EXPECT_THAT(BlockersOf(whole, 3), ElementsAre(2));
+  const Scene part({{.length = "300_400", .width = "100_200"}, {.length = "300_300", .width = "100_400"}});
+  EXPECT_THAT(BlockersOf(part, 3), ElementsAre(2));
+  // All of it goes to rows that take no more of it than the tolerance of a bound.
+  const Scene slices({{.length = "200_300"}, {.length = "300.001_400"}, {.length = "300_300.0005"}});
+  EXPECT_THAT(BlockersOf(slices, 4), ElementsAre(2, 3));
+}
+
+TEST(RuleMap, ASliderBeginsAboveZeroWherePlatesDo) {
+  const Scene scene({{.length = "1_2000", .width = "1_90", .weight = "0_5"}});
+  const RuleMap map = MapOf(scene, Question());
+  const auto expect = [&](std::size_t size, double from, double to, double step) {
+    EXPECT_DOUBLE_EQ(map.sizes[size].slider.from, from);
+    EXPECT_DOUBLE_EQ(map.sizes[size].slider.to, to);
+    EXPECT_DOUBLE_EQ(map.sizes[size].slider.step, step);
+  };
+  expect(kLength, 1, 2200, 1);
+  expect(kWidth, 0.1, 99, 0.1);
+  expect(kThickness, 1, 1000, 1);
+  expect(kWeight, 0, 5.5, 0.01);
+}
+
+TEST(RuleMap, ABoundOfThatNumberThatMeansNoneOrMoreIsNone) {
+  const Scene scene({{.length = "100_999999", .width = "100_1200000", .thickness = "20_999998"}});
+  const RuleMap map = MapOf(scene, Question());
+  EXPECT_THAT(map.sizes[kLength].bounds, ElementsAre(100));
+  EXPECT_THAT(map.sizes[kWidth].bounds, ElementsAre(100));
+  EXPECT_THAT(map.sizes[kThickness].bounds, ElementsAre(20, 999998));
+}
+
+// ---- neighbours ----
+
+std::vector<int> NeighboursOf(const RuleMap& map, int row) {
+  for (const MapRegion& region : map.regions) {
+    if (region.row == row) return region.neighbours;
+  }
+  ADD_FAILURE() << "row " << row << " is not in the picture";
+  return {};
+}
+
+TEST(RuleMap, NeighboursAreTheEarlierRowsThatWinBesideARow) {
+  const Scene scene({{.length = "100_200", .width = "100_200"},
+                     {.length = "200_300", .width = "100_200"},
+                     {.length = "600_900", .width = "300_400"},
+                     {.length = "100_300", .width = "100_350"}});
+  const RuleMap map = MapOf(scene, Question());
+  EXPECT_THAT(NeighboursOf(map, 2), IsEmpty());
+  EXPECT_THAT(NeighboursOf(map, 3), ElementsAre(2));
+  EXPECT_THAT(NeighboursOf(map, 4), IsEmpty());
+  EXPECT_THAT(NeighboursOf(map, 5), ElementsAre(2, 3));
+}
+
+TEST(RuleMap, ASpaceThatNobodySeesDoesNotPartNeighbours) {
+  // The picture is 1000 wide: 1.9 of it are not seen, 2.1 are.
+  const auto neighbours = [](const std::string& second) {
+    MapQuestion question = Question();
+    question.xRange = Interval{0, 1000};
+    const RuleMap map = MapOf(Scene({{.length = "100_200"}, {.length = second}}), question);
+    return NeighboursOf(map, 3);
+  };
+  EXPECT_THAT(neighbours("201.9_300"), ElementsAre(2));
+  EXPECT_THAT(neighbours("202.1_300"), IsEmpty());
+}
+
+TEST(RuleMap, WhatIsTooNarrowToBeSeenHasNoNeighbours) {
+  const Scene scene({{.length = "100_200"}, {.length = "200_201"}, {.length = "201_300"}});
+  MapQuestion question = Question();
+  question.xRange = Interval{0, 1000};
+  const RuleMap map = MapOf(scene, question);
+  EXPECT_THAT(NeighboursOf(map, 3), IsEmpty());
+  EXPECT_THAT(NeighboursOf(map, 4), ElementsAre(2));
 }
 
 TEST(RuleMap, ASizeThatIsNotFixedIsNoneAtWhichTwoRangesMeet) {
@@ -274,7 +375,7 @@ class RowByRow {
 };
 
 struct Met {
-  int won = 0, hidden = 0, gaps = 0, outside = 0;
+  int won = 0, hidden = 0, gaps = 0, outside = 0, beside = 0;
 };
 
 /// Everything that the map says of a point against the evaluation.
@@ -310,12 +411,45 @@ bool IsIn(const std::optional<Box>& hull, const Plate& plate) {
   return true;
 }
 
+/// Whether a part of the one wins beside a part of the other, by looking at every pair.
+bool WinBeside(const MapRegion& one, const MapRegion& other, double seenX, double seenY) {
+  const auto isSeen = [&](const FlatBox& box) {
+    return box.x.high - box.x.low >= seenX && box.y.high - box.y.low >= seenY;
+  };
+  const auto touch = [](const Interval& a, const Interval& b, double seen) {
+    const auto& [first, second] = a.low <= b.low ? std::tie(a, b) : std::tie(b, a);
+    return second.low - first.high <= seen;
+  };
+  for (const FlatBox& a : one.wins) {
+    for (const FlatBox& b : other.wins) {
+      if (isSeen(a) && isSeen(b) && touch(a.x, b.x, seenX) && touch(a.y, b.y, seenY)) return true;
+    }
+  }
+  return false;
+}
+
+void CompareNeighbours(const RuleMap& map, const MapQuestion& question, Met& met) {
+  const auto seen = [&](std::size_t size) {
+    return (map.sizes[size].shown.high - map.sizes[size].shown.low) / 500;
+  };
+  for (auto region = map.regions.begin(); region != map.regions.end(); ++region) {
+    std::vector<int> expected;
+    for (auto earlier = map.regions.begin(); earlier != region; ++earlier) {
+      if (WinBeside(*earlier, *region, seen(question.x), seen(question.y))) expected.push_back(earlier->row);
+    }
+    ASSERT_EQ(region->neighbours, expected) << "row " << region->row;
+    met.beside += static_cast<int>(expected.size());
+  }
+}
+
 void CompareMap(const RuleTables& tables, const MapQuestion& question, Random& random, Met& met) {
   const RuleModel model = MakeRuleModel(tables);
   const PlateSpace space({&model});
   const RuleMap map = DrawRuleMap(model, space, question);
   ASSERT_TRUE(map.isComplete);
   if (!map.isPossible) return;
+  CompareNeighbours(map, question, met);
+  if (testing::Test::HasFatalFailure()) return;
   const auto group = std::find_if(space.Groups().begin(), space.Groups().end(),
                                   [&](const PlateGroup& each) { return NameOf(space, each) == map.group; });
   const RowByRow rows(tables);
@@ -366,6 +500,22 @@ TEST(RuleMap, OfRandomTablesEveryPointIsWhatTheEvaluationSays) {
   EXPECT_GT(met.hidden, 10000);
   EXPECT_GT(met.gaps, 1000);
   EXPECT_GT(met.outside, 5000);
+  EXPECT_GT(met.beside, 50);
+}
+
+TEST(RuleMap, OfManyRandomRowsTheNeighboursAreThoseThatLookingAtEveryPairFinds) {
+  Met met;
+  Random random(1);
+  const auto range = [&] {
+    const int low = random.Below(90);
+    return std::to_string(low * 10) + "_" + std::to_string(low * 10 + random.Below(200));
+  };
+  for (int i = 0; i < 50 && !HasFailure(); ++i) {
+    std::vector<Row> rows;
+    for (int row = 0; row < 30; ++row) rows.push_back({.length = range(), .width = range()});
+    CompareNeighbours(MapOf(Scene(rows), Question()), Question(), met);
+  }
+  EXPECT_GT(met.beside, 500);
 }
 
 }  // namespace

@@ -244,6 +244,25 @@ TEST_F(CheckCommand, ExplainTellsWhatACodeMeans) {
   EXPECT_EQ(unknown.err, "plateconfig: error: \"gaps\" is no code; did you mean \"gap\"?\n");
 }
 
+TEST_F(CheckCommand, ExplainedAsJsonAnAdviceSaysWhetherAFindingSaysMore) {
+  const auto explained = [](const std::string& code) {
+    return Json::parse(RunPlateconfig({"check", "--format", "json", "--explain", code}).out);
+  };
+  EXPECT_EQ(explained("rows-mergeable"),
+            Json({{"code", "rows-mergeable"},
+                  {"severity", "hint"},
+                  {"default", false},
+                  {"message", "rows … and … write the same and could be one row with the range …"},
+                  {"advice", nullptr},
+                  {"adviceHasPlaces", false},
+                  {"meaning", "Fewer rows are easier to keep."}}));
+  const Json shadowed = explained("row-shadowed");
+  EXPECT_EQ(shadowed["advice"], "delete the row, or move it above …");
+  EXPECT_EQ(shadowed["adviceHasPlaces"], true);
+  EXPECT_EQ(explained("text-blank")["advice"], "delete the blank");
+  EXPECT_EQ(explained("text-blank")["adviceHasPlaces"], false);
+}
+
 // ---- gaps ----
 
 TEST_F(CheckCommand, TheDomainReplacesWhereGapsAreLookedFor) {

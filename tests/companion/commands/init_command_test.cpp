@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <nlohmann/json.hpp>
 
 #include "support/companion.h"
 #include "support/gbk_text.h"
@@ -19,6 +20,9 @@ class InitCommand : public ::testing::Test {
         std::filesystem::path(PLATECONFIG_SAMPLES_DIR) / u8"config" / u8"标准";
     for (const auto& entry : std::filesystem::directory_iterator(tables))
       std::filesystem::copy(entry.path(), folder_.Path() / entry.path().filename());
+  }
+  void CopySample(const std::string& name) const {
+    std::filesystem::copy(std::filesystem::path(PLATECONFIG_SAMPLES_DIR) / name, folder_.Path() / name);
   }
   std::string Manifest() const { return ReadBytes(folder_.Path() / "tables.json"); }
 
@@ -182,6 +186,35 @@ TEST_F(InitCommand, WhatItWritesIsAConfiguration) {
   Init();
   EXPECT_THAT(RunPlateconfig({"show", "bom", "--config", ArgumentPath(folder_, "")}).out,
               HasSubstr("= 7.85"));
+}
+
+TEST_F(InitCommand, AsJsonEachFileThatIsNoTableSaysWhatItIs) {
+  folder_.WriteTable("甲.csv", "密度(g/cm)\n7.85\n");
+  folder_.WriteTable("名单.csv", "姓名,部门\n王,一\n");
+  for (const char* const name : {"plates.csv", "holes.csv", "hole-types.csv"}) CopySample(name);
+  const auto run = RunPlateconfig({"init", ArgumentPath(folder_, ""), "--format", "json"});
+  EXPECT_EQ(run.exitCode, 1) << run.err;  // For 名单.csv.
+  const auto json = nlohmann::json::parse(run.out);
+  EXPECT_EQ(json["manifest"], ArgumentPath(folder_, "") + "tables.json");
+  EXPECT_EQ(json["roles"], nlohmann::json({{"bom", "甲.csv"}}));
+  std::vector<std::string> kinds;
+  for (const auto& file : json["leftOut"])
+    kinds.push_back(file["file"].get<std::string>() + " " + file["kind"].dump() + " " +
+                    file["doubtful"].dump());
+  EXPECT_THAT(kinds,
+              ::testing::ElementsAre(R"(hole-types.csv "hole-types" false)", R"(holes.csv "holes" false)",
+                                     R"(plates.csv "plates" false)", "名单.csv null true"));
+  EXPECT_EQ(json["leftOut"][3]["why"], "no column of any role");
+}
+
+TEST_F(InitCommand, AsJsonAFolderWithoutATableHasNoManifest) {
+  CopySample("plates.csv");
+  const auto run = RunPlateconfig({"init", ArgumentPath(folder_, ""), "--format", "json"});
+  EXPECT_EQ(run.exitCode, 2);
+  const auto json = nlohmann::json::parse(run.out);
+  EXPECT_TRUE(json["manifest"].is_null());
+  EXPECT_TRUE(json["roles"].empty());
+  EXPECT_EQ(json["leftOut"][0]["kind"], "plates");
 }
 
 }  // namespace

@@ -181,12 +181,18 @@ TEST_F(MapCommand, RegionsNameTheirRowAndTheLineOnWhichItBegins) {
                                      {"layer", "12"},
                                      {"matches", Boxes({{100, 500.001, 100, 400.001}})},
                                      {"wins", Boxes({{100, 500.001, 100, 400.001}})},
-                                     {"hidden", Json::array()}}));
+                                     {"hidden", Json::array()},
+                                     {"hiddenBy", Json::array()},
+                                     {"neighbours", Json::array()}}));
   EXPECT_EQ(map["regions"][1]["line"], 4);
   EXPECT_EQ(map["regions"][1]["wins"], Boxes({{500.00100000000003, 800.001, 100, 300.001}}));
   Json hidden = Boxes({{300, 500.001, 100, 300.001}});
   hidden[0]["by"] = 2;
   EXPECT_EQ(map["regions"][1]["hidden"], hidden);
+  EXPECT_EQ(map["regions"][1]["hiddenBy"], Json({2}));
+  EXPECT_EQ(map["regions"][1]["neighbours"], Json({2}));
+  EXPECT_EQ(map["regions"][2]["hiddenBy"], Json({2}));
+  EXPECT_EQ(map["regions"][2]["neighbours"], Json::array());
   EXPECT_EQ(map["gaps"], Boxes({{500.00100000000003, 800.001, 300.00100000000003, 400.001}}));
 }
 
@@ -194,9 +200,12 @@ TEST_F(MapCommand, SizesTellTheirHullTheirRangeAndTheBoundsOfTheRows) {
   const Json sizes = Map({"--x-range", "50_60.5"})["sizes"];
   EXPECT_EQ(sizes["length"], Json({{"hull", {100.0, 800.001}},
                                    {"shown", {50.0, 60.5}},
-                                   {"bounds", {100, 300, 350, 450, 500, 800}}}));
-  EXPECT_EQ(sizes["weight"],
-            Json({{"hull", {0.0, 999999.001}}, {"shown", {0.0, 1000.0}}, {"bounds", Json::array()}}));
+                                   {"bounds", {100, 300, 350, 450, 500, 800}},
+                                   {"slider", {{"from", 1.0}, {"to", 880.0}, {"step", 1.0}}}}));
+  EXPECT_EQ(sizes["weight"], Json({{"hull", {0.0, 999999.001}},
+                                   {"shown", {0.0, 1000.0}},
+                                   {"bounds", Json::array()},
+                                   {"slider", {{"from", 0.0}, {"to", 1000.0}, {"step", 1.0}}}}));
 }
 
 TEST_F(MapCommand, AHullWithoutAnEndHasNone) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <nlohmann/json.hpp>
 
 #include "plateconfig/report/embedded_page.h"
@@ -105,11 +106,40 @@ TEST_F(ReportCommand, IsNotWrittenWithoutAFileThatWasAskedFor) {
   EXPECT_FALSE(std::filesystem::exists(folder_.Path() / "r.html"));
 }
 
-TEST_F(ReportCommand, LeavesOutTablesThatLieElsewhere) {
-  folder_.WriteBytes("标准/tables.json", R"({"layers": "../../../x.csv", "connect-string": "../holes.csv"})");
+std::vector<std::string> PathsIn(const Json& data) {
+  std::vector<std::string> paths;
+  for (const Json& file : data["files"]) paths.push_back(file["path"]);
+  return paths;
+}
+
+TEST_F(ReportCommand, HoldsATableThatLiesElsewhereUnderThePathThatLeadsThere) {
+  folder_.WriteBytes("标准/tables.json", R"({"layers": "../../no/x.csv", "connect-string": "../holes.csv"})");
   const Json data = DataIn(Report({}).out);
-  ASSERT_EQ(data["files"].size(), 1u);
-  EXPECT_EQ(data["files"][0]["path"], "标准/tables.json");
+  EXPECT_THAT(PathsIn(data), testing::ElementsAre("标准/tables.json", "标准/../holes.csv"));
+  EXPECT_EQ(data["files"][1]["base64"], "aA==");
+}
+
+TEST_F(ReportCommand, HoldsAManifestWithASecondEndingSinceTheCheckNamesIt) {
+  std::filesystem::rename(folder_.Path() / u8"标准/tables.json", folder_.Path() / u8"标准/tables.json.txt");
+  const CompanionResult result = Report({});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(PathsIn(DataIn(result.out)), testing::ElementsAre("标准/tables.json.txt"));
+}
+
+TEST_F(ReportCommand, SaysWhenItWasWritten) {
+  const test::ScopedVariable time("SOURCE_DATE_EPOCH", "951827696");
+  // 2000-02-29 is 951782400 seconds behind 1970; 45296 more are 12 hours, 34 minutes, 56 seconds.
+  EXPECT_EQ(DataIn(Report({}).out)["written"], "2000-02-29T12:34:56Z");
+}
+
+TEST_F(ReportCommand, TakesTheTimeThatItIs) {
+  const auto now = [] { return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()); };
+  const std::chrono::year_month_day before(now());
+  const std::string written = DataIn(Report({}).out)["written"];
+  const std::chrono::year_month_day after(now());
+  EXPECT_THAT(written.substr(0, 4), testing::AnyOf(std::to_string(static_cast<int>(before.year())),
+                                                   std::to_string(static_cast<int>(after.year()))));
+  EXPECT_THAT(written, testing::MatchesRegex("....-..-..T..:..:..Z"));
 }
 
 TEST_F(ReportCommand, IsRefusedForATextThatIsNotThePage) {
@@ -151,7 +181,7 @@ TEST(Base64, PutsThreeBytesIntoFourDigits) {
 
 TEST(PageWithData, CanNotBeLeftByTheNameOfAFile) {
   const std::string page = std::string(kBeforeData) + std::string(kBehindData);
-  const ReportData data = {"</script><script>alert(1)//", {{"<!--.csv", "x", ""}}};
+  const ReportData data = {"</script><script>alert(1)//", "", {{"<!--.csv", "x", ""}}};
   const auto filled = PageWithData(page, data);
   ASSERT_TRUE(filled);
   const std::string inside =

@@ -17,4 +17,7 @@ std::string NoCode(const std::string& name);
 /// Writes the page of a code: its severity, its sentences, what it means. An unknown code is an error.
 void WriteCodePage(const std::string& name, std::ostream& out, Reporter& reporter);
 
+/// The same as JSON.
+void WriteCodePageAsJson(const std::string& name, std::ostream& out, Reporter& reporter);
+
 }  // namespace plateconfig

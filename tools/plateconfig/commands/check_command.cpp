@@ -27,9 +27,12 @@ std::string Indented(const Json& json) {
   return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
+bool IsJson(const CheckJob& job, Format format) {
+  return job.format == "json" || (job.format.empty() && format == Format::kJson);
+}
+
 std::string TextOf(const CheckReport& report, const CheckJob& job, Format format) {
-  const bool isJson = job.format == "json" || (job.format.empty() && format == Format::kJson);
-  if (isJson) return Indented(ToJson(report, CurrentLanguage()));
+  if (IsJson(job, format)) return Indented(ToJson(report, CurrentLanguage()));
   if (job.format == "sarif") return Indented(ToSarif(report, CurrentLanguage()));
   std::ostringstream text;
   text.exceptions(std::ios::badbit);  // No memory for it: the stream would go on without it.
@@ -41,13 +44,18 @@ std::string TextOf(const CheckReport& report, const CheckJob& job, Format format
   return text.str();
 }
 
+void Explain(const CheckJob& job, Context& context) {
+  const auto write = IsJson(job, context.format) ? WriteCodePageAsJson : WriteCodePage;
+  write(job.explained, context.streams.out, context.reporter);
+}
+
 bool ApplyBaseline(const CheckJob& job, CheckReport& report, Reporter& reporter) {
   return job.updateBaseline ? AcceptAll(job.baseline, report, reporter)
                             : LeaveOutAccepted(job.baseline, report, reporter);
 }
 
 void RunCheck(const CheckJob& job, Context& context) {
-  if (!job.explained.empty()) return WriteCodePage(job.explained, context.streams.out, context.reporter);
+  if (!job.explained.empty()) return Explain(job, context);
   if (job.updateBaseline && job.baseline.empty()) {
     return context.reporter.Error({"plateconfig"},
                                   Say("--update-baseline writes the file that --baseline names",

@@ -28,8 +28,8 @@ struct InitJob {
 
 /// A file of records: it has the columns without which none can be read.
 template <typename Record>
-OtherKind FileOf(const Words& name, const RecordKind<Record>& records) {
-  OtherKind kind{name, {}};
+OtherKind FileOf(std::string_view id, const Words& name, const RecordKind<Record>& records) {
+  OtherKind kind{id, name, {}};
   for (const Field<Record>& field : records.fields) {
     if (field.need == Need::kRequired && !field.names.column.empty())
       kind.columns.emplace_back(field.names.column);
@@ -38,7 +38,7 @@ OtherKind FileOf(const Words& name, const RecordKind<Record>& records) {
 }
 
 OtherKind IndexTable() {
-  OtherKind kind{{"the index of configurations", "配置索引表"}, {}};
+  OtherKind kind{"index", {"the index of configurations", "配置索引表"}, {}};
   for (const ColumnSchema& column : SchemaOf(Role::kIndex).columns)
     kind.columns.push_back(GbkToUtf8(column.column));
   return kind;
@@ -46,15 +46,31 @@ OtherKind IndexTable() {
 
 /// What else a keeper has in the folder of the tables.
 std::vector<OtherKind> OtherKinds() {
-  return {FileOf({"a file of plates", "板文件"}, PlateFields(PlateVocabulary({}))),
-          FileOf({"a file of combined holes", "组合孔文件"}, SegmentFields()),
-          FileOf({"a file of hole types", "孔类型文件"}, HoleTypeFields()), IndexTable()};
+  return {FileOf("plates", {"a file of plates", "板文件"}, PlateFields(PlateVocabulary({}))),
+          FileOf("holes", {"a file of combined holes", "组合孔文件"}, SegmentFields()),
+          FileOf("hole-types", {"a file of hole types", "孔类型文件"}, HoleTypeFields()), IndexTable()};
 }
 
-std::string Manifest(const std::map<Role, std::string>& files) {
-  nlohmann::ordered_json json = nlohmann::ordered_json::object();
+using Json = nlohmann::ordered_json;
+
+Json RolesOf(const std::map<Role, std::string>& files) {
+  Json json = Json::object();
   for (const auto& [role, file] : files) json[std::string(NameOf(role))] = file;
-  return json.dump(2) + "\n";
+  return json;
+}
+
+/// All that was found. `manifest` is the file that is written, empty without a role.
+Json ToJson(const FoundRoles& found, const std::string& manifest) {
+  Json leftOut = Json::array();
+  for (const LeftOutFile& file : found.leftOut) {
+    leftOut.push_back({{"file", file.name},
+                       {"kind", file.kind.empty() ? Json(nullptr) : Json(file.kind)},
+                       {"doubtful", file.isDoubtful},
+                       {"why", file.why}});
+  }
+  return {{"manifest", manifest.empty() ? Json(nullptr) : Json(manifest)},
+          {"roles", RolesOf(found.certain)},
+          {"leftOut", leftOut}};
 }
 
 void WriteFound(const std::map<Role, std::string>& certain, Context& context) {
@@ -71,9 +87,23 @@ void WriteFound(const std::map<Role, std::string>& certain, Context& context) {
 /// What is left to the user, and what is left out because it is no table.
 void WriteLeftOut(const std::vector<LeftOutFile>& files, Context& context) {
   for (const LeftOutFile& file : files) {
-    if (file.isDoubtful) context.reporter.CountFinding();
     context.streams.out << "  " << Say("{}: {}", "{}：{}", OnOneLine(file.name), file.why) << "\n";
   }
+}
+
+void WriteAnswer(const FoundRoles& found, const std::string& manifest, Context& context) {
+  for (const LeftOutFile& file : found.leftOut) {
+    if (file.isDoubtful) context.reporter.CountFinding();
+  }
+  if (context.format == Format::kJson) {
+    context.streams.out << JsonArray::ToText(ToJson(found, manifest)) << "\n";
+    return;
+  }
+  if (!manifest.empty()) {
+    context.streams.out << OnOneLine(manifest) << "\n";
+    WriteFound(found.certain, context);
+  }
+  WriteLeftOut(found.leftOut, context);
 }
 
 /// False, with an error, when there is no such folder.
@@ -91,7 +121,7 @@ void RunInit(const InitJob& job, Context& context) {
   if (!IsFolder(job.folder, context.reporter)) return;
   const FoundRoles found = FindRoles(PathFromUtf8(job.folder), OtherKinds());
   if (found.certain.empty()) {
-    WriteLeftOut(found.leftOut, context);
+    WriteAnswer(found, {}, context);
     return context.reporter.Error({job.folder},
                                   Say("no table here has the columns of a role, so there is nothing to write",
                                       "此处没有一个表具有任何用途的列，因此没有可写的内容"));
@@ -99,11 +129,9 @@ void RunInit(const InitJob& job, Context& context) {
   const std::string path = ManifestIn(job.folder);
   const auto file = OutputFile::Open(path, IfPresent::kMustNotExist, context.reporter);
   if (!file) return;
-  file->Stream() << Manifest(found.certain);
+  file->Stream() << RolesOf(found.certain).dump(2) << "\n";
   if (!file->Finish(context.reporter)) return;
-  context.streams.out << OnOneLine(path) << "\n";
-  WriteFound(found.certain, context);
-  WriteLeftOut(found.leftOut, context);
+  WriteAnswer(found, path, context);
 }
 
 }  // namespace

@@ -18,8 +18,6 @@ nlohmann::ordered_json ToJson(const Interval& interval);
 nlohmann::ordered_json ToJson(const FlatBox& box);
 nlohmann::ordered_json ToJson(const FaceAnswers& answers);
 
-using MapSizes = std::array<MapSize, kSizeCount>;
-
 nlohmann::ordered_json AxisToJson(const MapSizes& sizes, std::size_t size);
 /// Those of the fixed sizes that the picture does not span.
 nlohmann::ordered_json FixedToJson(const std::array<double, kSizeCount>& fixed, const MapQuestion& question);

@@ -38,7 +38,13 @@ Json ToJson(const MapRegion& region, const TableText& text) {
           {"layer", GbkToUtf8(region.layer)},
           {"matches", Json::array({ToJson(region.matches)})},
           {"wins", ListOf(region.wins)},
-          {"hidden", ListOf(region.hidden)}};
+          {"hidden", ListOf(region.hidden)},
+          {"hiddenBy", region.hiddenBy},
+          {"neighbours", region.neighbours}};
+}
+
+Json ToJson(const MapSlider& slider) {
+  return {{"from", slider.from}, {"to", slider.to}, {"step", slider.step}};
 }
 
 Json SizesToJson(const RuleMap& map) {
@@ -47,7 +53,8 @@ Json SizesToJson(const RuleMap& map) {
     const MapSize& of = map.sizes[size];
     sizes[NameOfSize(size)] = {{"hull", map.hull ? ToJson((*map.hull)[size]) : Json(nullptr)},
                                {"shown", ToJson(of.shown)},
-                               {"bounds", of.bounds}};
+                               {"bounds", of.bounds},
+                               {"slider", ToJson(of.slider)}};
   }
   return sizes;
 }

@@ -1,6 +1,10 @@
 #include "plateconfig/report/report_data.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <charconv>
+#include <chrono>
 #include <filesystem>
 #include <sstream>
 #include <utility>
@@ -8,6 +12,7 @@
 #include "plateconfig/messages/language.h"
 #include "plateconfig/system/file_kind.h"
 #include "plateconfig/system/file_streams.h"
+#include "platform/environment.h"
 #include "platform/file.h"
 
 namespace plateconfig {
@@ -20,11 +25,28 @@ std::string Utf8(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+/// Now, in the form of ISO 8601. The variable sets another time: the same report is then the same, byte for
+/// byte.
+std::string TimeOfWriting() {
+  using std::chrono::floor, std::chrono::seconds, std::chrono::days, std::chrono::sys_seconds;
+  const std::string given = EnvironmentVariable("SOURCE_DATE_EPOCH").value_or("");
+  long long fixed = 0;
+  const bool isFixed = std::from_chars(given.data(), given.data() + given.size(), fixed).ec == std::errc();
+  const sys_seconds now =
+      isFixed ? sys_seconds(seconds(fixed)) : floor<seconds>(std::chrono::system_clock::now());
+  const std::chrono::year_month_day day(floor<days>(now));
+  const std::chrono::hh_mm_ss time(now - floor<days>(now));
+  return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", static_cast<int>(day.year()),
+                     static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()),
+                     time.hours().count(), time.minutes().count(), time.seconds().count());
+}
+
 class Reading {
  public:
   Reading(const ReportInputs& inputs, Reporter& reporter) : inputs_(inputs), reporter_(reporter) {}
 
   std::optional<ReportData> Run() {
+    data_.written = TimeOfWriting();
     AddConfiguration();
     const bool isWhole = AddAll(inputs_.plates, "plates") && AddAll(inputs_.holes, "holes") &&
                          AddAll(inputs_.holeTypes, "hole-types");
@@ -41,24 +63,28 @@ class Reading {
     if (folder.empty()) return;
     data_.name = Utf8(fs::absolute(PathFromUtf8(folder)).lexically_normal().parent_path().filename());
     if (data_.name.empty()) data_.name = "config";
-    const std::string manifest = ManifestIn(folder);
-    if (auto bytes = ReadAllBytes(PathFromUtf8(manifest))) {
-      Add({data_.name + "/" + manifest.substr(folder.size()), std::move(*bytes), {}});
-    }
+    AddManifest(folder);
     for (const RoleRow& role : ManifestRoles()) {
       if (const auto table = configuration.FindOptional(role.role)) AddTable(*table, folder);
     }
   }
 
-  /// One that lies elsewhere has no place below the page's folder.
+  /// Under the name that it has: with a second ending it is no manifest, which is a finding.
+  void AddManifest(const std::string& folder) {
+    const std::string manifest = ManifestIn(folder);
+    for (const std::string& file : {manifest, manifest + ".txt"}) {
+      auto bytes = ReadAllBytes(PathFromUtf8(file));
+      if (!bytes) continue;
+      return Add({data_.name + "/" + file.substr(folder.size()), std::move(*bytes), {}});
+    }
+  }
+
+  /// One that lies elsewhere has a path like 标准/../shared/x.csv, which leads there in the page too.
   void AddTable(const TableFile& table, const std::string& folder) {
-    if (!table.shownAs.starts_with(folder)) return;
     std::string name = table.shownAs.substr(folder.size());
     std::replace(name.begin(), name.end(), '\\', '/');
-    const std::string path = Utf8((PathFromUtf8(data_.name) / PathFromUtf8(name)).lexically_normal());
-    if (!path.starts_with(data_.name + "/")) return;
     const auto bytes = ReadWholeFile(table.hostPath);
-    if (bytes) Add({path, std::string(bytes->View()), {}});
+    if (bytes) Add({data_.name + "/" + name, std::string(bytes->View()), {}});
   }
 
   bool AddAll(const std::vector<std::string>& files, const std::string& use) {

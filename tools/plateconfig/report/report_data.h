@@ -27,11 +27,13 @@ struct ReportFile {
 };
 
 struct ReportData {
-  std::string name;  ///< The configuration folder's own, UTF-8.
+  std::string name;     ///< The configuration folder's own, UTF-8.
+  std::string written;  ///< When: 2026-01-31T08:30:00Z.
   std::vector<ReportFile> files;
 };
 
-/// Reads everything. Nothing, with an error reported, when a file that the command line names can not be
+/// Reads everything. A table that lies outside of the folder keeps the path by which the manifest leads to
+/// it. Nothing, with an error reported, when a file that the command line names can not be
 /// read; of tables that are missing the page itself will tell.
 std::optional<ReportData> ReadReportData(const ReportInputs& inputs, Reporter& reporter);
 

@@ -18,7 +18,7 @@ Json ToJson(const ReportData& data) {
     if (!file.use.empty()) entry["use"] = file.use;
     entry["base64"] = Base64Of(file.bytes);
   }
-  return {{"name", data.name}, {"files", std::move(files)}};
+  return {{"name", data.name}, {"written", data.written}, {"files", std::move(files)}};
 }
 
 /// JSON that can not end the element that it stands in, whatever a file is called.

@@ -42,9 +42,9 @@ struct Candidate {
   std::string name;  ///< UTF-8
   std::vector<Role> roles;
   Strength strength = 0;
-  bool isClear = false;  ///< What its columns tell is more than that a few names are the same.
-  std::string why;       ///< Why it is none, when that is known already.
-  bool isOther = false;  ///< It is of another kind.
+  bool isClear = false;        ///< What its columns tell is more than that a few names are the same.
+  std::string why;             ///< Why it is none, when that is known already.
+  std::string_view otherKind;  ///< Empty, or the other kind that it is of.
 };
 
 std::string Utf8(const fs::path& path) {
@@ -185,7 +185,7 @@ Candidate CandidateFrom(const fs::path& path, const std::vector<OtherKind>& othe
   }
   if (const OtherKind* kind = KindOf(HeaderOf(*table), others)) {
     candidate.why = Say("{}, which has no role", "{}，不作配置表", kind->name.In(CurrentLanguage()));
-    candidate.isOther = true;
+    candidate.otherKind = kind->id;
     return candidate;
   }
   candidate.why = FaultOf(candidate.name, *table);
@@ -267,7 +267,9 @@ FoundRoles FindRoles(const std::filesystem::path& folder, const std::vector<Othe
   for (const Candidate& candidate : candidates) {
     const bool isCertain = std::any_of(found.certain.begin(), found.certain.end(),
                                        [&](const auto& entry) { return entry.second == candidate.name; });
-    if (!isCertain) found.leftOut.push_back({candidate.name, Doubt(candidate), !candidate.isOther});
+    if (!isCertain)
+      found.leftOut.push_back(
+          {candidate.name, Doubt(candidate), candidate.otherKind, candidate.otherKind.empty()});
   }
   return found;
 }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/schema/role.h"
@@ -14,6 +15,7 @@ namespace plateconfig {
 
 /// A kind of file that may lie among the tables and is none of them, such as a file of plates.
 struct OtherKind {
+  std::string_view id;  ///< As programs know it.
   Words name;
   std::vector<std::string> columns;  ///< UTF-8; a file that has all of these is of the kind.
 };
@@ -22,6 +24,7 @@ struct OtherKind {
 struct LeftOutFile {
   std::string name;         ///< UTF-8
   std::string why;          ///< In the current language.
+  std::string_view kind;    ///< The id of another kind; empty for what is of none.
   bool isDoubtful = false;  ///< It may be a table; false for one of another kind.
 };
 
