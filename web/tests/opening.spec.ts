@@ -246,3 +246,74 @@ test("Plates that lie in the folder itself are listed once among the tables", as
   );
   assert.equal(new Set(names).size, names.length);
 });
+
+test("A second folder leads to what differs, stands in the header, and can be left again", async () => {
+  await open(copied());
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await page.waitForSelector(".panel-comparison .difference, .panel-comparison .tabs-inner");
+  await settled(page);
+  assert.match(await page.innerText(".compared-with"), /对比：精密模/);
+  await showView(page, "sheet");
+  await page.click(".compared-with >> text=对比");
+  await page.waitForSelector(".panel-comparison");
+  await screenshot(page, "compared-header-zh");
+  await page.click(".compared-with [aria-label='结束对比']");
+  await page.waitForSelector(".panel-comparison .open-second");
+  assert.equal(await page.isVisible(".compared-with"), false);
+  assert.equal(await page.innerText(".folder-name"), "标准");
+});
+
+test("What the check did not list is told, and listed at a click", async () => {
+  await open(copied());
+  assert.match(await page.innerText(".checked"), /另有 \d+ 处空缺未列出/);
+  const count = async () => Number(/\d+/.exec(await page.innerText(".findings-list [role=status]"))![0]);
+  const before = await count();
+  await page.click(".checked button");
+  await page.waitForSelector(".checked button", { state: "detached" });
+  await settled(page);
+  assert.ok((await count()) > before);
+  assert.doesNotMatch(await page.innerText(".checked"), /未列出/);
+});
+
+test("Where no rule was read the findings say what that means, though none of them is an error", async () => {
+  const copy = copied();
+  const rules = join(copy, "工艺规则.csv");
+  writeFileSync(rules, new TextDecoder("gbk").decode(readFileSync(rules)));
+  await open(copy);
+  assert.match(await page.innerText(".manifest"), /没有读出任何规则行，所有的板都得不到工艺文本/);
+  writeFileSync(join(copy, "tables.json"), "{}");
+  await page.keyboard.press("F5");
+  await page.waitForSelector('.manifest:has-text("tables.json 没有说明哪个文件是“工艺规则”")');
+});
+
+test("A folder that can not be compared is named by its own name", async () => {
+  const copy = join(folder, "新的");
+  cpSync(join(samples, "config", "标准"), copy, { recursive: true });
+  rmSync(join(copy, "列宽.csv"));
+  await open(join(samples, "config", "标准"));
+  await drop(page, [copy], { x: 1100, y: 400 });
+  const failure = await page.innerText(".panel-comparison .failure");
+  assert.match(failure, /无法对比。请先改正：\s+新的\/列宽\.csv: 错误: 此表不存在/);
+});
+
+test("In a small or zoomed window the list of plates lies over nothing, and nothing is cut off", async () => {
+  await open(copied(), kPlates);
+  await showView(page, "plate");
+  await settled(page);
+  for (const [width, height] of [
+    [683, 384],
+    [800, 600],
+  ] as const) {
+    await page.setViewportSize({ width, height });
+    const box = async (selector: string) => (await page.locator(selector).boundingBox())!;
+    const [list, form, table] = [
+      await box(".try-plate .item-list"),
+      await box(".plate-form"),
+      await box(".processes"),
+    ];
+    assert.ok(list.y + list.height <= form.y, `list over form at ${width}`);
+    assert.ok(table.x + table.width <= width, `table ends at ${table.x + table.width} of ${width}`);
+    assert.ok((await box(".view")).height >= 450, `height at ${width}`);
+    await screenshot(page, `small-plate-${width}`);
+  }
+});

@@ -69,11 +69,16 @@ function useLanguage(): [Language, (language: Language) => void] {
 }
 
 /** While the same folder is read again, what was found before stays in sight. */
-function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language): Answer<CheckReport> {
+function useCheck(
+  engine: Engine,
+  workspace: Workspace | undefined,
+  language: Language,
+  listsAll: boolean,
+): Answer<CheckReport> {
   const files = useMemo(() => filesOf(workspace), [workspace]);
   const args = useMemo(
-    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json")),
-    [workspace, language],
+    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json", listsAll)),
+    [workspace, language, listsAll],
   );
   const answer = useAnswer<CheckReport>(engine, args, files);
   const checked = useRef<string | undefined>(undefined);
@@ -118,6 +123,16 @@ function useReport(open: Opening["open"]): void {
     const source = reportSource();
     if (source !== undefined) open([source], "config");
   }, [open]);
+}
+
+/** A second folder shows in two views alone: who is in another one is led to what differs. */
+function useComparison(other: Workspace | undefined, view: ViewName, show: (view: ViewName) => void): void {
+  const compared = useRef<string | undefined>(undefined);
+  useEffect(() => {
+    const isNew = other !== undefined && other.name !== compared.current;
+    compared.current = other?.name;
+    if (isNew && view !== "sheet") show("comparison");
+  }, [other]);
 }
 
 function Notice({ opening }: { opening: Opening }) {
@@ -166,14 +181,29 @@ export function Page({ engine }: { engine: Engine }) {
   const [language, speak] = useLanguage();
   const opening = useOpening(engine);
   const { workspace, other } = opening;
-  const check = useCheck(engine, workspace, language);
+  const [listsAll, setListsAll] = useState(false);
+  const listAll = useCallback(() => setListsAll(true), []);
+  const check = useCheck(engine, workspace, language, listsAll);
   const place = usePlace();
+  useComparison(other, place.view, place.show);
   useAgainKey(opening);
   useReport(opening.open);
   useUnfoldedOnPaper();
   const { addFile, addedFile } = opening;
   const openSecond = <OpenSecond opening={opening} />;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
+  const app: App = {
+    engine,
+    language,
+    workspace,
+    other,
+    check,
+    listsAll,
+    listAll,
+    addFile,
+    addedFile,
+    openSecond,
+    ...place,
+  };
   const say = sayIn(language);
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;

@@ -60,6 +60,30 @@ function Counts() {
   );
 }
 
+/** The second folder, with the way to what differs, and the way out of the comparison. */
+function ComparedWith({ opening }: { opening: Opening }) {
+  const { other, show } = useApp();
+  const say = useSay();
+  if (other === undefined) return null;
+  return (
+    <span class="compared-with">
+      <button type="button" onClick={() => show("comparison")}>
+        {say(kOpenWords.comparedWith)}
+        {say(kOpenWords.colon)}
+        <b>{other.name}</b>
+      </button>
+      <button
+        type="button"
+        title={say(kOpenWords.endComparison)}
+        aria-label={say(kOpenWords.endComparison)}
+        onClick={() => opening.compareWith(undefined)}
+      >
+        ×
+      </button>
+    </span>
+  );
+}
+
 interface HeaderProps {
   readonly opening: Opening;
   readonly language: Language;
@@ -81,6 +105,7 @@ export function Header({ opening, language, speak }: HeaderProps) {
         )}
       </h1>
       {workspace !== undefined && <Counts />}
+      <ComparedWith opening={opening} />
       <span class="spring" />
       {opening.isBusy && <span class="quiet">{say(kPageWords.busy)}</span>}
       {workspace !== undefined && <FilesMenu opening={opening} />}

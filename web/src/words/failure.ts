@@ -20,6 +20,10 @@ export const kFailureWords = {
     zh: "tables.json 有错误，读不出各表的用途，这里因此没有可显示的内容。",
     en: "tables.json is wrong, and does not tell the tables' roles, so there is nothing to show here.",
   },
+  noTexts: {
+    zh: "没有读出任何规则行，所有的板都得不到工艺文本。",
+    en: "No rule row was read, so no plate gets a text.",
+  },
   noRows: {
     zh: "规则表没有读出任何规则行，这里因此没有可显示的内容。",
     en: "No rule row could be read from the rule table, so there is nothing to show here.",

@@ -72,6 +72,8 @@ export const kOpenWords = {
   usedFor: { zh: "用作", en: "Used as" },
   configuration: { zh: "配置", en: "Configuration" },
   comparedWith: { zh: "对比", en: "Compared with" },
+  colon: { zh: "：", en: ": " },
+  endComparison: { zh: "结束对比", en: "End the comparison" },
   none: { zh: "（无）", en: "(none)" },
   otherFolder: { zh: "其他文件夹…", en: "another folder…" },
   uses: {

@@ -3,6 +3,7 @@
 import type { ComponentChildren } from "preact";
 import { kFailureWords } from "../../words/failure";
 import { kPageWords } from "../../words/page";
+import type { Text } from "../../words/say";
 import type { OwnFailure } from "../answer";
 import { useApp, useSay, type Workspace } from "../state";
 
@@ -13,7 +14,7 @@ function withOwnName(text: string, workspace: Workspace | undefined): string {
 }
 
 /** The program's own error text, or why it was not asked. */
-export function Failure({ error }: { error: string | OwnFailure }) {
+export function Failure({ error, title }: { error: string | OwnFailure; title?: Text }) {
   const say = useSay();
   const { workspace, other } = useApp();
   if (typeof error !== "string") {
@@ -28,7 +29,7 @@ export function Failure({ error }: { error: string | OwnFailure }) {
   }
   return (
     <div class="failure" role="alert">
-      <p>{say(kPageWords.failed)}</p>
+      <p>{say(title ?? kPageWords.failed)}</p>
       <pre>{withOwnName(withOwnName(error, workspace), other)}</pre>
     </div>
   );

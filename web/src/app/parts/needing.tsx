@@ -36,6 +36,20 @@ function Obstacle({ text, findings }: { text: Text; findings: readonly Finding[]
   );
 }
 
+/** Above the findings: what makes all the others small. Nothing when rules were read. */
+export function NoRules({ report }: { report: CheckReport }) {
+  const say = useSay();
+  const { tables, ruleRows } = report.checked;
+  if (ruleRows > 0 || isManifestMissing(report)) return null;
+  const isUnusable = report.findings.some(({ severity }) => severity === "error");
+  if (tables.length === 0) return isUnusable ? null : <NoRole roles={["process-rules"]} />;
+  return (
+    <section class="manifest">
+      <h2>{say(kFailureWords.noTexts)}</h2>
+    </section>
+  );
+}
+
 function NoRole({ roles }: { roles: readonly NeededTable[] }) {
   const say = useSay();
   const names = roles.map((role) => say(kFailureWords.tables[role]));

@@ -116,7 +116,7 @@ function ComparedPair({ pair, turn }: { pair: Pair; turn: () => void }) {
   return (
     <>
       <PairBar pair={pair} turn={turn} />
-      {answer.state === "failed" && <Failure error={answer.error} />}
+      {answer.state === "failed" && <Failure error={answer.error} title={kComparisonWords.notCompared} />}
       {answer.state === "running" && (
         <div class="pad">
           <UnderWay text={say(kComparisonWords.comparing)} stop={answer.stop} />
