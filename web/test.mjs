@@ -24,6 +24,7 @@ if (files.length === 0) throw new Error("no test has that name");
 
 rmSync(outdir, { recursive: true, force: true });
 await build({
+  absWorkingDir: process.cwd(),
   entryPoints: files.map((name) => join("tests", name)),
   outdir,
   bundle: true,

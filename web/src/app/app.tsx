@@ -12,7 +12,7 @@ import { RuleMap } from "../views/map/map";
 import { Sheet } from "../views/sheet/sheet";
 import { TryPlate } from "../views/plate/plate";
 import { kPageWords } from "../words/page";
-import { browserLanguage, type Language, sayIn } from "../words/say";
+import { browserLanguage, type Language } from "../words/say";
 import { type Answer, useAnswer } from "./answer";
 import { checkArguments } from "./check_arguments";
 import { DropZone } from "./drop_zone";
@@ -28,6 +28,7 @@ import {
   type App,
   type CellPlace,
   filesOf,
+  useApp,
   useSay,
   type ViewName,
   type Workspace,
@@ -81,10 +82,14 @@ function useCheck(
     [workspace, language, listsAll],
   );
   const answer = useAnswer<CheckReport>(engine, args, files);
-  const checked = useRef<string | undefined>(undefined);
-  if (answer.state === "done") checked.current = workspace?.name;
-  if (answer.state !== "running" || checked.current === workspace?.name) return answer;
-  return { state: "running", ...(answer.stop && { stop: answer.stop }) };
+  // A folder that was just opened is drawn once before its check begins: the answer is still that of the one before.
+  const checked = useRef<{ readonly value: CheckReport; readonly opened: string | undefined } | undefined>(
+    undefined,
+  );
+  if (answer.state === "done" && answer.value !== checked.current?.value)
+    checked.current = { value: answer.value, opened: workspace?.opened };
+  if (answer.value === undefined || checked.current?.opened === workspace?.opened) return answer;
+  return { state: "running", ...("stop" in answer && answer.stop && { stop: answer.stop }) };
 }
 
 /** Where the reader is: the view, and what other views sent it there for. */
@@ -117,20 +122,33 @@ function useAgainKey(opening: Opening): void {
   }, [isOpen, opening.again]);
 }
 
-/** A report has its files inside. */
-function useReport(open: Opening["open"]): void {
+/** A report has its files inside. True in one: nothing else opens by itself there. */
+function useReport(open: Opening["open"]): boolean {
+  const source = useMemo(reportSource, []);
   useEffect(() => {
-    const source = reportSource();
     if (source !== undefined) open([source], "config");
-  }, [open]);
+  }, [open, source]);
+  return source !== undefined;
+}
+
+function Footer() {
+  const { workspace, language } = useApp();
+  const say = useSay();
+  const written = workspace?.written?.toLocaleString(language, { dateStyle: "long", timeStyle: "short" });
+  return (
+    <footer class="footer">
+      {written !== undefined && <strong>{say(kPageWords.written, written)} </strong>}
+      {say(kPageWords.local)}
+    </footer>
+  );
 }
 
 /** A second folder shows in two views alone: who is in another one is led to what differs. */
 function useComparison(other: Workspace | undefined, view: ViewName, show: (view: ViewName) => void): void {
   const compared = useRef<string | undefined>(undefined);
   useEffect(() => {
-    const isNew = other !== undefined && other.name !== compared.current;
-    compared.current = other?.name;
+    const isNew = other !== undefined && other.opened !== compared.current;
+    compared.current = other?.opened;
     if (isNew && view !== "sheet") show("comparison");
   }, [other]);
 }
@@ -187,7 +205,7 @@ export function Page({ engine }: { engine: Engine }) {
   const place = usePlace();
   useComparison(other, place.view, place.show);
   useAgainKey(opening);
-  useReport(opening.open);
+  const isReport = useReport(opening.open);
   useUnfoldedOnPaper();
   const { addFile, addedFile } = opening;
   const openSecond = <OpenSecond opening={opening} />;
@@ -204,7 +222,6 @@ export function Page({ engine }: { engine: Engine }) {
     openSecond,
     ...place,
   };
-  const say = sayIn(language);
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;
   }, [workspace]);
@@ -213,13 +230,11 @@ export function Page({ engine }: { engine: Engine }) {
       <Header opening={opening} language={language} speak={speak} />
       <Notice opening={opening} />
       {workspace === undefined ? (
-        <main class="view">
-          <Start opening={opening} />
-        </main>
+        <main class="view">{!isReport && <Start opening={opening} />}</main>
       ) : (
         <Views app={app} />
       )}
-      <footer class="footer">{say(kPageWords.local)}</footer>
+      <Footer />
       <DropZone opening={opening} isOpen={workspace !== undefined} />
     </AppContext.Provider>
   );

@@ -9,8 +9,8 @@ export function checkArguments(
   format: "json" | "csv",
   listsAll: boolean,
 ): readonly string[] {
-  const plates = workspace.plates === undefined ? [] : ["--plates", workspace.plates.path];
-  const types = workspace.holeTypes === undefined ? [] : ["--types", workspace.holeTypes.path];
+  const plates = workspace.plates.flatMap(({ path }) => ["--plates", path]);
+  const types = workspace.holeTypes.flatMap(({ path }) => ["--types", path]);
   const limit = listsAll ? ["--limit", "0"] : [];
   return [
     "check",

@@ -3,7 +3,7 @@
 import { useMemo } from "preact/hooks";
 import { OpenFirst } from "../../app/parts/failure";
 import { roleName } from "../../app/parts/role_name";
-import { shownFile, useApp, useSay, type Workspace } from "../../app/state";
+import { filesBeside, shownFile, useApp, useSay, type Workspace } from "../../app/state";
 import { type CheckReport, type Finding, kRuleTable, type Role } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Text } from "../../words/say";
@@ -27,7 +27,7 @@ function listed(path: string, role?: Role): ListedFile {
 /** Tables in the order of their roles, then what no role names. */
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
   const tables = (report?.checked.tables ?? []).map((table) => listed(table.file, table));
-  const beside = [workspace.plates, workspace.holes, workspace.holeTypes].flatMap((file) => file ?? []);
+  const beside = filesBeside(workspace);
   // Plates and holes that lie in the folder itself are in its files too.
   const others = workspace.files.filter(
     ({ path, bytes }) =>
