@@ -1,7 +1,6 @@
 // Two folders, compared.
 
 import type { ChangedRow } from "../model/diff";
-import type { SizeName } from "../model/plate";
 import type { Text, TextOf } from "./say";
 
 export type ComparisonPart = "plates" | "rows" | "settings" | "regions" | "tables";
@@ -71,22 +70,15 @@ export const kComparisonWords = {
     no: { zh: "无线割", en: "no wire cutting" },
   },
   before: { zh: (text: string) => `原为${text}`, en: (text: string) => `was ${text}` },
-  sizes: {
-    length: { zh: "长度", en: "Length" },
-    width: { zh: "宽度", en: "Width" },
-    thickness: { zh: "厚度", en: "Thickness" },
-    weight: { zh: "重量", en: "Weight" },
-  } satisfies Record<SizeName, Text>,
   yes: { zh: "是", en: "yes" },
   no: { zh: "否", en: "no" },
   anySize: { zh: "不限", en: "any" },
   witness: { zh: "例如", en: "such as" },
   regionsMap: {
-    zh: (thickness: string, weight: string, color: number) =>
-      `受影响的板：厚度 ${thickness} mm、重量 ${weight}、体颜色 ${color} 处的截面`,
-    en: (thickness: string, weight: string, color: number) =>
-      `Affected plates, cut at thickness ${thickness} mm, weight ${weight}, body colour ${color}`,
-  } satisfies TextOf<[string, string, number]>,
+    zh: (sizes: string, color: number) => `受影响的板：${sizes}、体颜色 ${color} 处的截面`,
+    en: (sizes: string, color: number) => `Affected plates, cut at ${sizes}, body colour ${color}`,
+  } satisfies TextOf<[string, number]>,
+  mapName: { zh: "变动图", en: "Changes" },
   mapLegend: {
     zh: "方框内是旧行号→新行号，∅ 表示没有符合的规则行；十字是所选区域的例子。",
     en: "In the boxes: old row → new row, ∅ for no row that fits; the cross is the example of the chosen region.",
