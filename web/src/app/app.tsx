@@ -70,11 +70,16 @@ function useLanguage(): [Language, (language: Language) => void] {
 }
 
 /** While the same folder is read again, what was found before stays in sight. */
-function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language): Answer<CheckReport> {
+function useCheck(
+  engine: Engine,
+  workspace: Workspace | undefined,
+  language: Language,
+  listsAll: boolean,
+): Answer<CheckReport> {
   const files = useMemo(() => filesOf(workspace), [workspace]);
   const args = useMemo(
-    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json")),
-    [workspace, language],
+    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json", listsAll)),
+    [workspace, language, listsAll],
   );
   const answer = useAnswer<CheckReport>(engine, args, files);
   // A folder that was just opened is drawn once before its check begins: the answer is still that of the one before.
@@ -138,6 +143,16 @@ function Footer() {
   );
 }
 
+/** A second folder shows in two views alone: who is in another one is led to what differs. */
+function useComparison(other: Workspace | undefined, view: ViewName, show: (view: ViewName) => void): void {
+  const compared = useRef<string | undefined>(undefined);
+  useEffect(() => {
+    const isNew = other !== undefined && other.opened !== compared.current;
+    compared.current = other?.opened;
+    if (isNew && view !== "sheet") show("comparison");
+  }, [other]);
+}
+
 function Notice({ opening }: { opening: Opening }) {
   const say = useSay();
   if (opening.notice === undefined) return null;
@@ -191,8 +206,11 @@ export function Page({ engine }: { engine: Engine }) {
   const [language, speak] = useLanguage();
   const opening = useOpening(engine);
   const { workspace, other } = opening;
-  const check = useCheck(engine, workspace, language);
+  const [listsAll, setListsAll] = useState(false);
+  const listAll = useCallback(() => setListsAll(true), []);
+  const check = useCheck(engine, workspace, language, listsAll);
   const place = usePlace();
+  useComparison(other, place.view, place.show);
   useAgainKey(opening);
   const isReport = useReport(opening.open);
   useUnfoldedOnPaper();
@@ -204,6 +222,8 @@ export function Page({ engine }: { engine: Engine }) {
     workspace,
     other,
     check,
+    listsAll,
+    listAll,
     addFile,
     addedFile,
     openSecond,

@@ -48,6 +48,9 @@ export interface App {
   readonly other: Workspace | undefined;
   /** What `check` says of the workspace, in the page's language. */
   readonly check: Answer<CheckReport>;
+  /** Whether the check lists all that it finds, also of kinds that there are very many of; and what has it do so. */
+  readonly listsAll: boolean;
+  listAll(): void;
   readonly view: ViewName;
   /** The cell that was selected last; the view "tables" shows it. */
   readonly selected: CellPlace | undefined;

@@ -6,6 +6,10 @@ import type { Text, TextOf } from "./say";
 export type ComparisonPart = "plates" | "rows" | "settings" | "regions" | "tables";
 
 export const kComparisonWords = {
+  notCompared: {
+    zh: "有表读不出来，无法对比。请先改正：",
+    en: "Some tables can not be read, so nothing is compared. Mend these first:",
+  },
   openSecond: {
     zh: "要看改动前后的差别，请再打开一个配置文件夹：拖到窗口的右半边，或用下面的按钮。",
     en: "To see what an edit changes, open a second configuration folder: drop it on the right half of the window, or use the button.",

@@ -5,6 +5,8 @@ import { checkArguments } from "../../app/check_arguments";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { CopyButton } from "../../app/parts/finding_card";
 import { useKept } from "../../app/parts/kept";
+import { FoundManifest, isManifestMissing, MissingManifest } from "../../app/parts/missing_manifest";
+import { NoRules } from "../../app/parts/needing";
 import { saveFile } from "../../app/parts/save";
 import { filesOf, shownFile, useApp, useSay } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
@@ -15,7 +17,6 @@ import { kNoFilter, listedFindings, placeOf, shownPlace } from "./filter";
 import { FilterSide } from "./filter_side";
 import { FindingDetail } from "./finding_detail";
 import { FindingList } from "./finding_list";
-import { FoundManifest, MissingManifest } from "./missing_manifest";
 
 /** The list as somebody mails it. */
 function asText(findings: readonly Finding[], say: Say): string {
@@ -30,11 +31,11 @@ function asText(findings: readonly Finding[], say: Say): string {
 
 /** The program's own CSV: of the whole check, with all its columns. */
 function useSaveCsv(): () => Promise<void> {
-  const { engine, workspace, language } = useApp();
+  const { engine, workspace, language, listsAll } = useApp();
   const say = useSay();
   return async () => {
     if (workspace === undefined) return;
-    const run = await engine.run(checkArguments(workspace, language, "csv"), filesOf(workspace));
+    const run = await engine.run(checkArguments(workspace, language, "csv", listsAll), filesOf(workspace));
     saveFile(say(kFindingsWords.csvName), run.out, "text/csv");
   };
 }
@@ -57,20 +58,19 @@ function ListBar({ listed, report }: { listed: readonly Finding[]; report: Check
 
 /** What was looked at, and what was not. */
 function Checked({ report }: { report: CheckReport }) {
+  const { listsAll, listAll } = useApp();
   const say = useSay();
   const { tables, ruleRows, processes, incomplete } = report.checked;
   return (
     <div class="checked">
       <p>{say(kFindingsWords.checked, tables.length, ruleRows, processes)}</p>
-      {incomplete.length > 0 && (
-        <details>
-          <summary>{say(kFindingsWords.incomplete)}</summary>
-          <ul>
-            {incomplete.map((text) => (
-              <li key={text}>{text}</li>
-            ))}
-          </ul>
-        </details>
+      {incomplete.map((text) => (
+        <p key={text}>{text}</p>
+      ))}
+      {incomplete.length > 0 && !listsAll && (
+        <button type="button" class="small" onClick={listAll}>
+          {say(kFindingsWords.listAll)}
+        </button>
       )}
     </div>
   );
@@ -92,7 +92,8 @@ function Reported({ report }: { report: CheckReport }) {
       <FilterSide report={report} filter={filter} change={setFilter} />
       <div class="findings">
         <div class="findings-list">
-          {report.findings.some(({ code }) => code === "manifest-missing") && <MissingManifest />}
+          {isManifestMissing(report) && <MissingManifest />}
+          <NoRules report={report} />
           <FoundManifest />
           <ListBar listed={listed} report={report} />
           {listed.length === 0 ? (

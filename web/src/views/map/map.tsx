@@ -4,6 +4,7 @@ import { useEffect, useMemo, useRef, useState } from "preact/hooks";
 import { useAnswer } from "../../app/answer";
 import { Failure, OpenFirst } from "../../app/parts/failure";
 import { useKept } from "../../app/parts/kept";
+import { Needing } from "../../app/parts/needing";
 import { useOpenRow } from "../../app/parts/row_link";
 import { useApp, useSay } from "../../app/state";
 import { shown } from "../../drawing/numbers";
@@ -172,5 +173,10 @@ function MapPane() {
 
 export function RuleMap() {
   const { workspace } = useApp();
-  return workspace === undefined ? <OpenFirst /> : <MapPane />;
+  if (workspace === undefined) return <OpenFirst />;
+  return (
+    <Needing tables={["process-rules"]}>
+      <MapPane />
+    </Needing>
+  );
 }

@@ -97,7 +97,9 @@ interface StepsProps {
 
 export function Steps({ steps, at, go }: StepsProps) {
   const say = useSay();
+  const { check } = useApp();
   const finding = at === undefined ? undefined : steps[at];
+  if (check.value === undefined) return null;
   if (steps.length === 0) return <p class="quiet">{say(kMapWords.noSteps)}</p>;
   return (
     <section class={`map-steps ${finding ? "" : "no-print"}`} aria-label={say(kMapWords.steps)}>

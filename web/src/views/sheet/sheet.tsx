@@ -4,6 +4,7 @@ import { useMemo, useRef, useState } from "preact/hooks";
 import { useAnswer } from "../../app/answer";
 import { Failure, OpenFirst } from "../../app/parts/failure";
 import { useKept } from "../../app/parts/kept";
+import { Needing } from "../../app/parts/needing";
 import { AppContext, filesOf, useApp, useSay, type Workspace } from "../../app/state";
 import { kInk } from "../../drawing/looks";
 import { shown } from "../../drawing/numbers";
@@ -235,7 +236,7 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
   );
 }
 
-export function Sheet() {
+function Sheets() {
   const { workspace, other } = useApp();
   const [question, ask] = useKept<SheetQuestion>("sheet-question", kFirstQuestion);
   const answer = useSheets(workspace, question);
@@ -248,5 +249,13 @@ export function Sheet() {
       {otherAnswer.state === "failed" && <Failure error={otherAnswer.error} />}
       <Pane picture={answer.value} otherPicture={otherAnswer.value} question={question} ask={ask} />
     </>
+  );
+}
+
+export function Sheet() {
+  return (
+    <Needing tables={[]}>
+      <Sheets />
+    </Needing>
   );
 }
