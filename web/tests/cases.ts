@@ -16,7 +16,7 @@ const samples = "../samples";
 const mistakes = "samples/config/带错误";
 const corpus = "../fuzz/corpus";
 
-async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
+export async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
   const entries = await readdir(folder, { withFileTypes: true });
   const files = entries.map(async (entry): Promise<InputFile[]> => {
     const [from, to] = [join(folder, entry.name), `${as}/${entry.name}`];

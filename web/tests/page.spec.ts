@@ -537,6 +537,65 @@ test("A folder that was chosen in a dialog can not be read again after a save, a
   assert.match(await page.innerText(".notice"), /请把文件夹重新拖进来/);
 });
 
+test("Who is sent to a cell goes on from there by keys", async () => {
+  await open(mistakes);
+  await page.click('.side-item:has-text("列宽.csv")');
+  await page.click(".finding >> nth=1");
+  await page.focus(".finding-list");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(".panel-tables .cell.is-selected");
+  assert.equal(await page.innerText(".cell-name"), "B2");
+  await page.keyboard.press("ArrowLeft");
+  await page.waitForFunction(() => document.querySelector(".cell-name")?.textContent === "A2");
+});
+
+test("A view that somebody is sent to has the focus, and a tab keeps it", async () => {
+  await open(mistakes);
+  await page.click("#view-tab-map");
+  assert.equal(await page.evaluate(() => document.activeElement?.id), "view-tab-map");
+  await page.click(".map-step-buttons button >> nth=1");
+  await page.click("text=试这块板");
+  await page.waitForSelector(".panel-plate");
+  await page.waitForFunction(() => document.activeElement?.id === "view");
+});
+
+test("A folder that the browser may not read is told; a dialog that is closed is not", async () => {
+  const pick = async (problem: string) => {
+    await page.evaluate((name) => {
+      Object.assign(window, { showDirectoryPicker: () => Promise.reject(new DOMException("no", name)) });
+    }, problem);
+    await page.click("text=打开文件夹");
+  };
+  await pick("AbortError");
+  await page.waitForTimeout(200);
+  assert.equal(await page.locator(".notice").count(), 0);
+  await pick("NotAllowedError");
+  await page.waitForSelector(".notice");
+  assert.match(await page.innerText(".notice"), /浏览器没有允许读取这个文件夹/);
+});
+
+test("A page whose file is damaged says so", async () => {
+  if (isServed) return;
+  const text = await readPage();
+  const place = '<script type="text/plain" id="plateconfig-page">';
+  const damaged = join(folder, "damaged.html");
+  writeFileSync(damaged, text.replace(place, `${place}AAAA`));
+  await page.goto(pathToFileURL(damaged).href);
+  await page.waitForSelector("p");
+  assert.match(await page.innerText("body"), /已损坏[\s\S]*is damaged/);
+});
+
+test("A file whose name is no Unicode does not keep the folder from being opened", async () => {
+  const copy = copied("标准");
+  // 板 as a Chinese Windows wrote it.
+  writeFileSync(
+    Buffer.concat([Buffer.from(`${copy}/`), Buffer.from([0xb0, 0xe5]), Buffer.from(".csv")]),
+    "1\r\n",
+  );
+  await open(copy);
+  assert.match(await counts(), /0 个错误/);
+});
+
 test("The last folder is offered again, and opens by itself where the browser still allows it", async () => {
   await open(mistakes);
   const second = await opened.context.newPage();

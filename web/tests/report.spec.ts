@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { cp, mkdir, mkdtemp, readFile, rename, rm, writeFile } from "node:fs/promises";
 import { tmpdir } from "node:os";
-import { join, resolve } from "node:path";
+import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { pathToFileURL } from "node:url";
 import type { Browser, Page } from "playwright-core";
@@ -11,14 +11,13 @@ import {
   drop,
   type Opened,
   openPage,
+  pageFile,
   samples,
   screenshot,
   settled,
   startBrowser,
 } from "./browser";
 import { runNative } from "./native_engine";
-
-const given = resolve(process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html");
 
 let folder = "";
 let browser: Browser;
@@ -45,7 +44,7 @@ async function nativeCounts(inputs: readonly string[]): Promise<readonly string[
 /** Writes a report and opens it in a page that may have others beside it. */
 async function openReport(page: Page, inputs: readonly string[]): Promise<void> {
   const file = join(folder, "report.html");
-  await runNative(["report", "--page", given, ...inputs, "-o", file, "--force"], folder);
+  await runNative(["report", "--page", pageFile, ...inputs, "-o", file, "--force"], folder);
   await page.goto(pathToFileURL(file).href);
   await settled(page);
 }
@@ -67,7 +66,7 @@ async function onPage(test: (opened: Opened) => Promise<void>): Promise<void> {
 test("A report opens with the findings, the tables and the plates of the day on which it was written", async () => {
   const file = join(folder, "report.html");
   const holes = ["--holes", join(samples, "holes.csv"), "--types", join(samples, "hole-types.csv")];
-  const written = await runNative(["report", "--page", given, ...inputs, ...holes, "-o", file], folder);
+  const written = await runNative(["report", "--page", pageFile, ...inputs, ...holes, "-o", file], folder);
   assert.deepEqual([written.code, written.err.toString()], [1, ""]);
   const opened = await openPage(browser);
   const { page } = opened;
@@ -105,7 +104,7 @@ test(
     const args = ["report", "--config", join(samples, "config/标准")];
     const time = { SOURCE_DATE_EPOCH: "951827696" };
     const own = await runNative(args, folder, time, { program: withPage! });
-    const named = await runNative([...args, "--page", given], folder, time);
+    const named = await runNative([...args, "--page", pageFile], folder, time);
     assert.deepEqual([own.code, own.err.toString()], [0, ""]);
     assert.ok(own.out.length > 500_000);
     assert.ok(own.out.equals(named.out));
@@ -156,7 +155,7 @@ test("A manifest with a second ending is told as that", () =>
 test("A report says when it was written, until something else is opened", () =>
   onPage(async ({ page }) => {
     const file = join(folder, "dated.html");
-    const args = ["report", "--page", given, "--config", join(samples, "config/标准"), "-o", file];
+    const args = ["report", "--page", pageFile, "--config", join(samples, "config/标准"), "-o", file];
     await runNative(args, folder, { SOURCE_DATE_EPOCH: "951827696" });
     await page.goto(pathToFileURL(file).href);
     await settled(page);

@@ -3,6 +3,14 @@
 import { useEffect, useRef, useState } from "preact/hooks";
 import { EngineError } from "../engine/engine_error";
 import type { Engine, InputFile, Run } from "../engine/engine";
+import { kFailureWords } from "../words/failure";
+import type { Text } from "../words/say";
+
+/** What the page itself says in place of an answer, and what asks once more. */
+export interface OwnFailure {
+  readonly words: Text;
+  again(): void;
+}
 
 export type Answer<Value> =
   /** Nothing was asked. */
@@ -10,11 +18,8 @@ export type Answer<Value> =
   /** Under way; `value` is the answer before, to be shown meanwhile; `stop` gives it up. */
   | { readonly state: "running"; readonly value?: Value; readonly stop?: () => void }
   | { readonly state: "done"; readonly value: Value; readonly code: number; readonly messages: string }
-  /** The run ended with code 2, or with something else than JSON: `error` is the program's own text. */
-  | { readonly state: "failed"; readonly error: string; readonly value?: undefined };
-
-/** What stands instead of an answer that the user gave up; it is no text of the program. */
-const kStopped = { state: "failed", error: "已取消 / cancelled" } as const;
+  /** The run ended with code 2, or with something else than JSON: `error` is the program's own text. Or there was no run. */
+  | { readonly state: "failed"; readonly error: string | OwnFailure; readonly value?: undefined };
 
 export const kIdle = { state: "idle" } as const;
 
@@ -29,9 +34,8 @@ export function answerOf<Value>(run: Run): Answer<Value> {
   }
 }
 
-/** What the engine says of itself comes in both languages: here nobody knows which one is read. */
-function textOf(error: unknown): string {
-  if (error instanceof EngineError) return `${error.words.zh}\n${error.words.en}`;
+function reasonOf(error: unknown, again: () => void): string | OwnFailure {
+  if (error instanceof EngineError) return { words: error.words, again };
   return error instanceof Error ? error.message : String(error);
 }
 
@@ -40,11 +44,12 @@ async function ask<Value>(
   args: readonly string[],
   files: readonly InputFile[],
   signal: AbortSignal,
+  again: () => void,
 ): Promise<Answer<Value>> {
   try {
     return answerOf<Value>(await engine.run(args, files, signal));
   } catch (error) {
-    return { state: "failed", error: textOf(error) };
+    return { state: "failed", error: reasonOf(error, again) };
   }
 }
 
@@ -60,6 +65,7 @@ export function useAnswer<Value>(
 ): Answer<Value> {
   const [answer, setAnswer] = useState<Answer<Value>>(kIdle);
   const last = useRef<Value | undefined>(undefined);
+  const [attempt, setAttempt] = useState(0);
   const asked = args === undefined ? undefined : JSON.stringify(args);
   useEffect(() => {
     if (asked === undefined) {
@@ -68,13 +74,14 @@ export function useAnswer<Value>(
       return undefined;
     }
     const abort = new AbortController();
+    const again = () => setAttempt(attempt + 1);
     const stop = () => {
       abort.abort();
-      setAnswer(kStopped);
+      setAnswer({ state: "failed", error: { words: kFailureWords.stopped, again } });
     };
     setAnswer({ state: "running", stop, ...(last.current !== undefined && { value: last.current }) });
     const timer = setTimeout(() => {
-      void ask<Value>(engine, JSON.parse(asked) as string[], files, abort.signal).then((given) => {
+      void ask<Value>(engine, JSON.parse(asked) as string[], files, abort.signal, again).then((given) => {
         if (abort.signal.aborted) return;
         last.current = given.value;
         setAnswer(given);
@@ -84,6 +91,6 @@ export function useAnswer<Value>(
       clearTimeout(timer);
       abort.abort();
     };
-  }, [engine, asked, files, delay]);
+  }, [engine, asked, files, delay, attempt]);
   return answer;
 }

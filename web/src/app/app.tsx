@@ -70,11 +70,16 @@ function useLanguage(): [Language, (language: Language) => void] {
 }
 
 /** While the same folder is read again, what was found before stays in sight. */
-function useCheck(engine: Engine, workspace: Workspace | undefined, language: Language): Answer<CheckReport> {
+function useCheck(
+  engine: Engine,
+  workspace: Workspace | undefined,
+  language: Language,
+  listsAll: boolean,
+): Answer<CheckReport> {
   const files = useMemo(() => filesOf(workspace), [workspace]);
   const args = useMemo(
-    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json")),
-    [workspace, language],
+    () => (workspace === undefined ? undefined : checkArguments(workspace, language, "json", listsAll)),
+    [workspace, language, listsAll],
   );
   const answer = useAnswer<CheckReport>(engine, args, files);
   // A folder that was just opened is drawn once before its check begins: the answer is still that of the one before.
@@ -138,6 +143,16 @@ function Footer() {
   );
 }
 
+/** A second folder shows in two views alone: who is in another one is led to what differs. */
+function useComparison(other: Workspace | undefined, view: ViewName, show: (view: ViewName) => void): void {
+  const compared = useRef<string | undefined>(undefined);
+  useEffect(() => {
+    const isNew = other !== undefined && other.opened !== compared.current;
+    compared.current = other?.opened;
+    if (isNew && view !== "sheet") show("comparison");
+  }, [other]);
+}
+
 function Notice({ opening }: { opening: Opening }) {
   const say = useSay();
   if (opening.notice === undefined) return null;
@@ -164,12 +179,19 @@ function useTabs(app: App): readonly Tab<ViewName>[] {
 function Views({ app }: { app: App }) {
   const say = useSay();
   const tabs = useTabs(app);
+  const panel = useRef<HTMLDivElement>(null);
+  // What sent the reader to another view is gone with the view that it stood in, and the focus with it.
+  useEffect(() => {
+    if (document.activeElement === document.body) panel.current?.focus({ preventScroll: true });
+  }, [app.view]);
   const View = kViews.find(({ name }) => name === app.view)?.view ?? Findings;
   return (
     <main class="view">
       <Tabs label={say(kPageWords.views)} tabs={tabs} chosen={app.view} panel="view" choose={app.show} />
       <div
         id="view"
+        ref={panel}
+        tabIndex={-1}
         class={`panel panel-${app.view}`}
         role="tabpanel"
         aria-labelledby={tabId("view", app.view)}
@@ -184,14 +206,30 @@ export function Page({ engine }: { engine: Engine }) {
   const [language, speak] = useLanguage();
   const opening = useOpening(engine);
   const { workspace, other } = opening;
-  const check = useCheck(engine, workspace, language);
+  const [listsAll, setListsAll] = useState(false);
+  const listAll = useCallback(() => setListsAll(true), []);
+  const check = useCheck(engine, workspace, language, listsAll);
   const place = usePlace();
+  useComparison(other, place.view, place.show);
   useAgainKey(opening);
   const isReport = useReport(opening.open);
   useUnfoldedOnPaper();
-  const { addFile, addedFile } = opening;
+  const { addFile, addedFile, tell } = opening;
   const openSecond = <OpenSecond opening={opening} />;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
+  const app: App = {
+    engine,
+    language,
+    workspace,
+    other,
+    check,
+    listsAll,
+    listAll,
+    addFile,
+    addedFile,
+    openSecond,
+    tell,
+    ...place,
+  };
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;
   }, [workspace]);

@@ -7,8 +7,21 @@ export function checkArguments(
   workspace: Workspace,
   language: Language,
   format: "json" | "csv",
+  listsAll: boolean,
 ): readonly string[] {
   const plates = workspace.plates.flatMap(({ path }) => ["--plates", path]);
   const types = workspace.holeTypes.flatMap(({ path }) => ["--types", path]);
-  return ["check", "--config", workspace.folder, ...plates, ...types, "--format", format, "--lang", language];
+  const limit = listsAll ? ["--limit", "0"] : [];
+  return [
+    "check",
+    "--config",
+    workspace.folder,
+    ...plates,
+    ...types,
+    ...limit,
+    "--format",
+    format,
+    "--lang",
+    language,
+  ];
 }

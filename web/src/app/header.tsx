@@ -1,5 +1,6 @@
 // The top of the page: what is open, and what can be done with all of it.
 
+import { kFailureWords } from "../words/failure";
 import { kOpenWords } from "../words/open";
 import { kPageWords } from "../words/page";
 import type { Language } from "../words/say";
@@ -38,6 +39,13 @@ function Counts() {
   const { check, show } = useApp();
   const say = useSay();
   if (check.state === "running") return <UnderWay text={say(kPageWords.checking)} stop={check.stop} />;
+  if (check.state === "failed" && typeof check.error !== "string") {
+    return (
+      <button type="button" onClick={check.error.again}>
+        {say(kFailureWords.checkAgain)}
+      </button>
+    );
+  }
   if (check.state !== "done") return null;
   const { errors, warnings, hints } = check.value.summary;
   const counts = { error: errors, warning: warnings, hint: hints };
@@ -49,6 +57,30 @@ function Counts() {
         </span>
       ))}
     </button>
+  );
+}
+
+/** The second folder, with the way to what differs, and the way out of the comparison. */
+function ComparedWith({ opening }: { opening: Opening }) {
+  const { other, show } = useApp();
+  const say = useSay();
+  if (other === undefined) return null;
+  return (
+    <span class="compared-with">
+      <button type="button" onClick={() => show("comparison")}>
+        {say(kOpenWords.comparedWith)}
+        {say(kOpenWords.colon)}
+        <b>{other.name}</b>
+      </button>
+      <button
+        type="button"
+        title={say(kOpenWords.endComparison)}
+        aria-label={say(kOpenWords.endComparison)}
+        onClick={() => opening.compareWith(undefined)}
+      >
+        ×
+      </button>
+    </span>
   );
 }
 
@@ -73,6 +105,7 @@ export function Header({ opening, language, speak }: HeaderProps) {
         )}
       </h1>
       {workspace !== undefined && <Counts />}
+      <ComparedWith opening={opening} />
       <span class="spring" />
       {opening.isBusy && <span class="quiet">{say(kPageWords.busy)}</span>}
       {workspace !== undefined && <FilesMenu opening={opening} />}

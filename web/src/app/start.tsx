@@ -29,10 +29,12 @@ function LastFolder({ opening }: { opening: Opening }) {
   }, [open]);
   if (last === undefined) return null;
   const openLast = async () => {
-    if (await mayRead(last, true)) open([folderSource(last)], "config");
+    await mayRead(last, true);
+    // Reading says so itself when it was not allowed.
+    open([folderSource(last)], "config");
   };
   return (
-    <button type="button" onClick={() => void openLast()}>
+    <button type="button" onClick={() => void openLast().catch(opening.tell)}>
       {say(kOpenWords.last, last.name)}
     </button>
   );

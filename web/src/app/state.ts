@@ -48,6 +48,9 @@ export interface App {
   readonly other: Workspace | undefined;
   /** What `check` says of the workspace, in the page's language. */
   readonly check: Answer<CheckReport>;
+  /** Whether the check lists all that it finds, also of kinds that there are very many of; and what has it do so. */
+  readonly listsAll: boolean;
+  listAll(): void;
   readonly view: ViewName;
   /** The cell that was selected last; the view "tables" shows it. */
   readonly selected: CellPlace | undefined;
@@ -62,6 +65,8 @@ export interface App {
   readonly openSecond: ComponentChildren;
   /** Puts a file that the program wrote into the workspace; the disk stays as it is. */
   addFile(name: string, bytes: Uint8Array): void;
+  /** Says above the page what went wrong with something that no view waits for. */
+  tell(error: unknown): void;
   /** The file that was added so, until the folder is read again. */
   readonly addedFile: string | undefined;
 }

@@ -28,11 +28,10 @@ export const kFindingsWords = {
   csvName: { zh: "问题.csv", en: "findings.csv" },
   reset: { zh: "清除筛选", en: "Clear the filter" },
   openTable: { zh: "在表格中查看", en: "Open in the table" },
-  pick: { zh: "选一个问题，这里显示它所在的单元格。", en: "Choose a finding to see its cell here." },
   witness: { zh: "例如这块板", en: "Such as this plate" },
   newRow: { zh: "可在表末加的一行", en: "A row that would take these plates, behind the last one" },
   copyRow: { zh: "复制此行（粘贴到 Excel）", en: "Copy the row (for Excel)" },
-  incomplete: { zh: "没有全部分析或列出：", en: "Not analysed or listed in full:" },
+  listAll: { zh: "全部列出", en: "List all" },
   exampleOf: {
     zh: (length: string, width: string, thickness: string, weight: string, color: number) =>
       `${length} × ${width} × ${thickness} mm，重量 ${weight}，体颜色 ${color}`,

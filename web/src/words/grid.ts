@@ -16,6 +16,7 @@ export const kGridWords = {
     zh: "选中有颜色的单元格，这里说明问题和改法。",
     en: "Select a coloured cell: what is wrong and what to write stands here.",
   },
+  pickCell: { zh: "选中一个单元格，这里显示它的全部内容。", en: "Select a cell to see all of it here." },
   next: { zh: "下一个问题", en: "Next finding" },
   previous: { zh: "上一个问题", en: "Previous finding" },
   find: { zh: "在表中查找", en: "Find in the table" },

@@ -40,16 +40,45 @@ export const kOpenWords = {
     zh: "这里没有可读的表格（CSV）或 JSON 文件。",
     en: "There is no table (CSV) or JSON file to read here.",
   },
-  notAllowed: {
+  onlyWorkbooks: {
+    zh: "这里只有 Excel 工作簿，不能读取。请在 Excel 中另存为“CSV（逗号分隔）”，再打开。",
+    en: "There are only Excel workbooks here, which can not be read. Save them in Excel as “CSV (Comma delimited)”, and open those.",
+  },
+  workbook: {
+    zh: (names: string) => `“${names}”是 Excel 工作簿，没有读取。请在 Excel 中另存为“CSV（逗号分隔）”。`,
+    en: (names: string) =>
+      `“${names}” is an Excel workbook and was not read. Save it in Excel as “CSV (Comma delimited)”.`,
+  } satisfies TextOf<[string]>,
+  unlikeAny: {
+    zh: (names: string) =>
+      `“${names}”不像板表、组合孔表或孔类型表，没有使用。请看列名对不对，或在“文件”里指定用途。`,
+    en: (names: string) =>
+      `“${names}” looks like neither plates nor combined holes nor hole types, and is not used. Look at its column names, or say under “Files” what it is.`,
+  } satisfies TextOf<[string]>,
+  notRead: {
+    zh: (names: string) => `“${names}”不是表格（CSV）或 JSON 文件，没有读取。`,
+    en: (names: string) => `“${names}” is no table (CSV) or JSON file, and was not read.`,
+  } satisfies TextOf<[string]>,
+  gone: {
+    zh: (name: string) => `找不到“${name}”：它已被移动、改名或删除。请重新打开。`,
+    en: (name: string) =>
+      `“${name}” is not there any more: it was moved, renamed or deleted. Open it once more.`,
+  } satisfies TextOf<[string]>,
+  folderNotAllowed: {
     zh: "浏览器没有允许读取这个文件夹。",
     en: "The browser was not allowed to read this folder.",
   },
+  notAllowed: {
+    zh: (name: string) => `浏览器没有得到读取“${name}”的许可。请重新打开，并选择“允许”。`,
+    en: (name: string) => `The browser was not allowed to read “${name}”. Open it once more, and allow it.`,
+  } satisfies TextOf<[string]>,
   files: { zh: "文件", en: "Files" },
   usedFor: { zh: "用作", en: "Used as" },
   configuration: { zh: "配置", en: "Configuration" },
   comparedWith: { zh: "对比", en: "Compared with" },
+  colon: { zh: "：", en: ": " },
+  endComparison: { zh: "结束对比", en: "End the comparison" },
   none: { zh: "（无）", en: "(none)" },
-  otherFolder: { zh: "其他文件夹…", en: "another folder…" },
   uses: {
     plates: { zh: "板表", en: "plates" },
     holes: { zh: "组合孔", en: "combined holes" },

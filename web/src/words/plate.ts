@@ -52,8 +52,8 @@ export const kPlateWords = {
   } satisfies Record<PlateStatus, Text>,
   short: {
     written: { zh: "有文本", en: "text" },
-    "no-row": { zh: "无行", en: "no row" },
-    "no-text": { zh: "无文本", en: "no text" },
+    "no-row": { zh: "没有符合的行", en: "no row fits" },
+    "no-text": { zh: "没有文本", en: "no text" },
   } satisfies Record<PlateStatus, Text>,
   fits: { zh: (row: number) => `符合第 ${row} 行`, en: (row: number) => `Row ${row} fits` } satisfies TextOf<
     [number]
@@ -62,7 +62,6 @@ export const kPlateWords = {
   text: { zh: "工艺文本", en: "Process text" },
   copy: { zh: "复制文本", en: "Copy the text" },
   mend: { zh: "请先改正标出的内容。", en: "Mend the marked fields first." },
-  messages: { zh: "提示", en: "Remarks" },
 
   processes: { zh: "各工艺", en: "Processes" },
   onlyWritten: { zh: "只看写出的", en: "Written ones alone" },

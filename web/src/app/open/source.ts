@@ -25,12 +25,20 @@ export interface Source {
 export class StaleFiles extends Error {}
 /** More than a page can hold. */
 export class TooLarge extends Error {}
+/** What was opened has been moved, renamed or deleted. */
+export class GoneFiles extends Error {}
+/** The user, or a policy, does not let the page read it. */
+export class NotAllowed extends Error {}
 
 const kMostDepth = 4;
 const kMostFiles = 2000;
 
 /** What the companion reads, and what somebody may take for it: a workbook under a table's name, a manifest with a second ending. */
 const kReadEndings = /\.(csv|txt|json|jsonl|ndjson|xls|xlsx)$/i;
+
+export function isWorkbook(path: string): boolean {
+  return /\.xlsx?$/i.test(path);
+}
 
 function isRead(name: string): boolean {
   return kReadEndings.test(name) && !name.startsWith(".") && !name.startsWith("~$");
@@ -82,20 +90,33 @@ async function filesBelow(
   return found;
 }
 
+/** Reasons that a keeper meets are told in the page's own words: the browser's are in its own language, and name nothing. */
+async function unlessBarred<Value>(name: string, reading: Promise<Value>): Promise<Value> {
+  try {
+    return await reading;
+  } catch (error) {
+    const reason = error instanceof DOMException ? error.name : "";
+    if (reason === "NotFoundError") throw new GoneFiles(name);
+    if (reason === "NotAllowedError") throw new NotAllowed(name);
+    throw error;
+  }
+}
+
 export function folderSource(handle: FileSystemDirectoryHandle): Source {
   return {
     name: handle.name,
     isFolder: true,
     handle,
-    read: async () => readAll(await filesBelow(handle, "", 0)),
+    read: () => unlessBarred(handle.name, filesBelow(handle, "", 0).then(readAll)),
   };
 }
 
 export function fileSource(handle: FileSystemFileHandle): Source {
+  const found = { path: handle.name, file: () => handle.getFile() };
   return {
     name: handle.name,
     isFolder: false,
-    read: () => readAll([{ path: handle.name, file: () => handle.getFile() }]),
+    read: () => unlessBarred(handle.name, readAll(isRead(handle.name) ? [found] : [])),
   };
 }
 

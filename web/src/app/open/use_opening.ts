@@ -7,7 +7,8 @@ import { kOpenWords } from "../../words/open";
 import type { Text } from "../../words/say";
 import type { Workspace } from "../state";
 import { rememberFolder } from "./remembered";
-import { type Entry, type Source, StaleFiles, TooLarge } from "./source";
+import { type Entry, GoneFiles, isWorkbook, NotAllowed, type Source, StaleFiles, TooLarge } from "./source";
+import { unusedText } from "./unused";
 import { type Choices, guessedUses, type Use, type Uses, withChoices } from "./uses";
 import { configurationFolders, type OpenedFolder, workspaceOf } from "./workspaces";
 
@@ -18,8 +19,15 @@ interface Opened extends OpenedFolder {
   /** What the files look like, and what the user said of them. */
   readonly guesses: Uses;
   readonly choices: Choices;
-  /** A file that only the page has. */
-  readonly addedFile?: string;
+  readonly added?: AddedFile;
+}
+
+/** A file that only the page has. */
+interface AddedFile {
+  readonly folder: string;
+  readonly name: string;
+  /** What the disk has in its place. */
+  readonly replaced: Entry | undefined;
 }
 
 type Sides = Readonly<Partial<Record<Side, Opened>>>;
@@ -31,6 +39,8 @@ export interface Opening {
   readonly isBusy: boolean;
   readonly notice: Text | undefined;
   dismissNotice(): void;
+  /** Says what went wrong with something that nobody waits for. */
+  tell(error: unknown): void;
   open(sources: readonly Source[] | Promise<readonly Source[]>, side: Side): void;
   /** Reads everything from the disk once more. */
   again(): void;
@@ -50,6 +60,13 @@ function noticeOf(error: unknown): Text {
   if (error instanceof StaleFiles) return kOpenWords.stale;
   if (error instanceof TooLarge)
     return { zh: kOpenWords.tooLarge.zh(error.message), en: kOpenWords.tooLarge.en(error.message) };
+  if (error instanceof DOMException && error.name === "NotAllowedError") return kOpenWords.folderNotAllowed;
+  for (const [kind, words] of [
+    [GoneFiles, kOpenWords.gone],
+    [NotAllowed, kOpenWords.notAllowed],
+  ] as const) {
+    if (error instanceof kind) return { zh: words.zh(error.message), en: words.en(error.message) };
+  }
   const reason = error instanceof Error ? error.message : String(error);
   return { zh: kOpenWords.unreadable.zh(reason), en: kOpenWords.unreadable.en(reason) };
 }
@@ -77,12 +94,40 @@ async function entriesOf(sources: readonly Source[]): Promise<readonly Entry[]> 
   return [...byPath.values()];
 }
 
+function pathOf({ folder, name }: Pick<AddedFile, "folder" | "name">): string {
+  return folder === "" ? name : `${folder}/${name}`;
+}
+
+function entryAt(entries: readonly Entry[], path: string): Entry | undefined {
+  return entries.find((entry) => entry.path === path);
+}
+
+function hasSameBytes(one: Entry | undefined, two: Entry | undefined): boolean {
+  if (one === undefined || two === undefined) return one === two;
+  return one.bytes.length === two.bytes.length && one.bytes.every((byte, index) => byte === two.bytes[index]);
+}
+
+/** What the disk has in the place of a file that the page adds, also of one that it adds anew. */
+function replacedBy(path: string, { entries, added }: Opened): Entry | undefined {
+  return added !== undefined && pathOf(added) === path ? added.replaced : entryAt(entries, path);
+}
+
+/** A file that only the page has stays until the disk has another one in its place. */
+function withAdded(read: readonly Entry[], before: Opened | undefined): Pick<Opened, "entries" | "added"> {
+  const added = before?.added;
+  if (before === undefined || added === undefined) return { entries: read };
+  const path = pathOf(added);
+  const entry = entryAt(before.entries, path);
+  if (entry === undefined || !hasSameBytes(entryAt(read, path), added.replaced)) return { entries: read };
+  return { entries: [...read.filter((each) => each.path !== path), entry], added };
+}
+
 async function readSide(
   engine: Engine,
   sources: readonly Source[],
   before: Opened | undefined,
 ): Promise<Opened> {
-  const entries = await entriesOf(sources);
+  const { entries, added } = withAdded(await entriesOf(sources), before);
   const folders = configurationFolders(entries);
   const folder = before !== undefined && folders.includes(before.folder) ? before.folder : (folders[0] ?? "");
   const guesses = await guessedUses(engine, entries);
@@ -99,14 +144,16 @@ async function readSide(
     uses: withChoices(guesses, choices),
     opening: before?.opening ?? revision,
     ...(main?.written && { written: main.written }),
+    ...(added && { added }),
     revision,
   };
 }
 
-/** Single files come to what is open; a folder takes its place. */
+/** Single files come to what is open; a folder takes the folder's place, and plates and holes that were opened by themselves stay. */
 function joined(before: Opened | undefined, given: readonly Source[]): readonly Source[] {
-  if (before === undefined || given.some((source) => source.isFolder)) return given;
-  return [...before.sources.filter(({ name }) => !given.some((source) => source.name === name)), ...given];
+  const others = (before?.sources ?? []).filter(({ name }) => !given.some((source) => source.name === name));
+  if (!given.some((source) => source.isFolder)) return [...others, ...given];
+  return [...given, ...others.filter(({ isFolder, name }) => !isFolder && before?.uses.has(name))];
 }
 
 /** Two folders at once are the old one and the new one; single files come to the old one. */
@@ -158,10 +205,20 @@ export function useOpening(engine: Engine): Opening {
   }, []);
 
   const read = useCallback(
-    async (side: Side, sources: readonly Source[], before: Opened | undefined) => {
+    async (
+      side: Side,
+      sources: readonly Source[],
+      before: Opened | undefined,
+      given: readonly Source[] = [],
+    ) => {
       const opened = await readSide(engine, sources, before);
       if (opened.entries.length === 0) setNotice(kOpenWords.nothingToRead);
-      else setSides((all) => ({ ...all, [side]: opened }));
+      else if (opened.entries.every(({ path }) => isWorkbook(path))) setNotice(kOpenWords.onlyWorkbooks);
+      else {
+        setSides((all) => ({ ...all, [side]: opened }));
+        const unused = unusedText(given, opened, before?.entries ?? []);
+        if (unused !== undefined) setNotice(unused);
+      }
     },
     [engine],
   );
@@ -172,7 +229,8 @@ export function useOpening(engine: Engine): Opening {
         for (const [where, sources] of bySide(await given, side)) {
           const before = current.current[where];
           const all = joined(before, sources);
-          await read(where, all, all === sources ? undefined : before);
+          const isOther = sources.some((source) => source.isFolder);
+          await read(where, all, isOther ? undefined : before, sources);
           if (where === "config") remember(all);
         }
       }),
@@ -222,15 +280,17 @@ export function useOpening(engine: Engine): Opening {
     (name: string, bytes: Uint8Array) => {
       const opened = current.current.config;
       if (opened === undefined) return;
-      const path = opened.folder === "" ? name : `${opened.folder}/${name}`;
+      const { folder } = opened;
+      const path = pathOf({ folder, name });
       change("config", {
         entries: [...opened.entries.filter((entry) => entry.path !== path), { path, bytes }],
-        addedFile: name,
+        added: { folder, name, replaced: replacedBy(path, opened) },
       });
     },
     [change],
   );
 
+  const added = sides.config?.added;
   return {
     sides,
     workspace: useWorkspace(sides.config, "config"),
@@ -238,12 +298,13 @@ export function useOpening(engine: Engine): Opening {
     isBusy,
     notice,
     dismissNotice: useCallback(() => setNotice(undefined), []),
+    tell: useCallback((error: unknown) => setNotice(noticeOf(error)), []),
     open,
     again,
     chooseFolder: useCallback((side, folder) => change(side, { folder }), [change]),
     compareWith,
     use,
     addFile,
-    addedFile: sides.config?.addedFile,
+    addedFile: added?.folder === sides.config?.folder ? added?.name : undefined,
   };
 }

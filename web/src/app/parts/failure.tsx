@@ -1,16 +1,36 @@
 // What stands instead of a view that has nothing to show.
 
 import type { ComponentChildren } from "preact";
+import { kFailureWords } from "../../words/failure";
 import { kPageWords } from "../../words/page";
-import { useSay } from "../state";
+import type { Text } from "../../words/say";
+import type { OwnFailure } from "../answer";
+import { useApp, useSay, type Workspace } from "../state";
 
-/** The program's own error text. */
-export function Failure({ error }: { error: string }) {
+/** The program knows the folders by the page's names for them, the reader by their own. */
+function withOwnName(text: string, workspace: Workspace | undefined): string {
+  if (workspace === undefined) return text;
+  return text.replace(new RegExp(`(?<![\\w./-])${workspace.folder}/`, "g"), () => `${workspace.name}/`);
+}
+
+/** The program's own error text, or why it was not asked. */
+export function Failure({ error, title }: { error: string | OwnFailure; title?: Text }) {
   const say = useSay();
+  const { workspace, other } = useApp();
+  if (typeof error !== "string") {
+    return (
+      <div class="failure" role="alert">
+        <p>{say(error.words)}</p>
+        <button type="button" onClick={error.again}>
+          {say(kFailureWords.again)}
+        </button>
+      </div>
+    );
+  }
   return (
     <div class="failure" role="alert">
-      <p>{say(kPageWords.failed)}</p>
-      <pre>{error}</pre>
+      <p>{say(title ?? kPageWords.failed)}</p>
+      <pre>{withOwnName(withOwnName(error, workspace), other)}</pre>
     </div>
   );
 }

@@ -82,7 +82,7 @@ export function FindingCard({ finding }: { finding: Finding }) {
       <Facts finding={finding} advice={adviceFor(finding, page)} />
       <details class="meaning">
         <summary>
-          {say(kGridWords.meaning)} <code>{finding.code}</code>
+          {say(kGridWords.meaning)} <code>({finding.code})</code>
         </summary>
         <p>{page?.meaning ?? "…"}</p>
       </details>

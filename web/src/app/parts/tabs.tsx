@@ -2,6 +2,7 @@
 
 import type { TargetedKeyboardEvent } from "preact";
 import { useRef } from "preact/hooks";
+import { isBare } from "./list_keys";
 
 export interface Tab<Name extends string> {
   readonly name: Name;
@@ -21,10 +22,11 @@ interface TabsProps<Name extends string> {
 
 const kSteps: Readonly<Record<string, number>> = { ArrowRight: 1, ArrowLeft: -1 };
 
-function target(key: string, at: number, count: number): number | undefined {
-  if (key === "Home") return 0;
-  if (key === "End") return count - 1;
-  const step = kSteps[key];
+function target(event: KeyboardEvent, at: number, count: number): number | undefined {
+  if (!isBare(event)) return undefined;
+  if (event.key === "Home") return 0;
+  if (event.key === "End") return count - 1;
+  const step = kSteps[event.key];
   return step === undefined ? undefined : (at + step + count) % count;
 }
 
@@ -43,7 +45,7 @@ export function Tabs<Name extends string>({
   const row = useRef<HTMLDivElement>(null);
   const onKeyDown = (event: TargetedKeyboardEvent<HTMLDivElement>) => {
     const at = tabs.findIndex((tab) => tab.name === chosen);
-    const next = tabs[target(event.key, at, tabs.length) ?? -1];
+    const next = tabs[target(event, at, tabs.length) ?? -1];
     if (next === undefined) return;
     event.preventDefault();
     choose(next.name);

@@ -3,7 +3,6 @@
 import {
   elementScroll,
   observeElementOffset,
-  observeElementRect,
   Virtualizer,
   type VirtualizerOptions,
 } from "@tanstack/virtual-core";
@@ -22,6 +21,17 @@ interface VirtualProps {
 
 type Options = VirtualizerOptions<HTMLElement, HTMLElement>;
 
+/** The room within the borders and beside the scroll bars, which lie over nothing that must be seen. */
+const observeRoom: Options["observeElementRect"] = (instance, tell) => {
+  const element = instance.scrollElement;
+  if (element === null) return;
+  const measure = () => tell({ width: element.clientWidth, height: element.clientHeight });
+  measure();
+  const observer = new ResizeObserver(measure);
+  observer.observe(element);
+  return () => observer.disconnect();
+};
+
 export function useVirtual(props: VirtualProps): Virtualizer<HTMLElement, HTMLElement> {
   const [, rerender] = useReducer((count: number) => count + 1, 0);
   const options: Options = {
@@ -30,9 +40,10 @@ export function useVirtual(props: VirtualProps): Virtualizer<HTMLElement, HTMLEl
     estimateSize: props.sizeOf,
     horizontal: props.isHorizontal ?? false,
     overscan: props.overscan ?? 6,
-    scrollPaddingStart: props.frozen ?? 0,
+    // Items are counted from where the frozen part ends, so what is lost of the room is lost at the far end.
+    scrollPaddingEnd: props.frozen ?? 0,
     initialRect: { width: 1200, height: 700 },
-    observeElementRect,
+    observeElementRect: observeRoom,
     observeElementOffset,
     scrollToFn: elementScroll,
     onChange: () => rerender(undefined),

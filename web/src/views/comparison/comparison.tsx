@@ -4,6 +4,7 @@ import { useState } from "preact/hooks";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { UnderWay } from "../../app/parts/under_way";
 import { useKept } from "../../app/parts/kept";
+import { Needing } from "../../app/parts/needing";
 import { Tabs, tabId } from "../../app/parts/tabs";
 import { useApp, useSay } from "../../app/state";
 import { kRuleTable } from "../../model/check";
@@ -115,7 +116,7 @@ function ComparedPair({ pair, turn }: { pair: Pair; turn: () => void }) {
   return (
     <>
       <PairBar pair={pair} turn={turn} />
-      {answer.state === "failed" && <Failure error={answer.error} />}
+      {answer.state === "failed" && <Failure error={answer.error} title={kComparisonWords.notCompared} />}
       {answer.state === "running" && (
         <div class="pad">
           <UnderWay text={say(kComparisonWords.comparing)} stop={answer.stop} />
@@ -145,5 +146,9 @@ export function Comparison() {
     );
   }
   const pair = isTurned ? { old: other, now: workspace } : { old: workspace, now: other };
-  return <ComparedPair pair={pair} turn={() => setTurned(!isTurned)} />;
+  return (
+    <Needing tables={[]}>
+      <ComparedPair pair={pair} turn={() => setTurned(!isTurned)} />
+    </Needing>
+  );
 }

@@ -7,27 +7,13 @@ import { useSay } from "../../app/state";
 import type { TableCells } from "../../model/cells";
 import type { ChangedRow } from "../../model/diff";
 import { kComparisonWords } from "../../words/comparison";
-import { kGridWords } from "../../words/grid";
 import { useCells } from "../grid/use_cells";
-import { useMarked } from "./marked_text";
+import { DifferenceTable } from "./marked_text";
 import type { Pair, TablePair } from "./use_difference";
 
 function cellOf(cells: TableCells | undefined, row: number | null, column: string): string {
   const at = cells?.rows[0]?.cells.indexOf(column) ?? -1;
   return row === null || at === -1 ? "" : (cells?.rows[row - 1]?.cells[at] ?? "");
-}
-
-function CellRow({ column, old, now }: { column: string; old: string; now: string }) {
-  const say = useSay();
-  const marked = useMarked(old, now);
-  const empty = <span class="quiet">{say(kGridWords.emptyText)}</span>;
-  return (
-    <tr>
-      <th scope="row">{column}</th>
-      <td>{old === "" ? empty : marked.old}</td>
-      <td>{now === "" ? empty : marked.now}</td>
-    </tr>
-  );
 }
 
 /** "Row 5", "row 5 → 3", the side that has it. */
@@ -63,25 +49,14 @@ function RowDifference({ row, old, now, showInTables }: RowDifferenceProps) {
           {say(kComparisonWords.showInTables)}
         </button>
       </div>
-      <table class="plain difference">
-        <thead>
-          <tr>
-            <th scope="col">{say(kComparisonWords.column)}</th>
-            <th scope="col">{say(kComparisonWords.old)}</th>
-            <th scope="col">{say(kComparisonWords.new)}</th>
-          </tr>
-        </thead>
-        <tbody>
-          {row.columns.map((column) => (
-            <CellRow
-              key={column}
-              column={column}
-              old={cellOf(old, row.oldRow, column)}
-              now={cellOf(now, row.newRow, column)}
-            />
-          ))}
-        </tbody>
-      </table>
+      <DifferenceTable
+        of={say(kComparisonWords.column)}
+        rows={row.columns.map((column) => ({
+          name: column,
+          old: cellOf(old, row.oldRow, column),
+          now: cellOf(now, row.newRow, column),
+        }))}
+      />
     </>
   );
 }

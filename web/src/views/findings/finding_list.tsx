@@ -1,6 +1,7 @@
 // The findings below each other; of a long list only what is in sight is in the page, unless it is printed.
 
 import { useCallback, useEffect, useId, useRef } from "preact/hooks";
+import { indexAfterKey, isBare } from "../../app/parts/list_keys";
 import { usePrinting } from "../../app/parts/printing";
 import { SeverityMark } from "../../app/parts/severity";
 import { useVirtual } from "../../app/parts/virtual";
@@ -50,18 +51,10 @@ function Item({ finding }: { finding: Finding }) {
   );
 }
 
-const kSteps: Readonly<Record<string, number>> = {
-  ArrowDown: 1,
-  ArrowUp: -1,
-  PageDown: 12,
-  PageUp: -12,
-  Home: -Infinity,
-  End: Infinity,
-};
-
 interface ListProps {
   readonly findings: readonly Finding[];
-  readonly chosen: number | undefined;
+  /** Of the findings, of which there is at least one. */
+  readonly chosen: number;
   choose(index: number): void;
   open(index: number): void;
 }
@@ -74,14 +67,14 @@ export function FindingList({ findings, chosen, choose, open }: ListProps) {
   const heightOf = useCallback(() => kItemHeight, []);
   const items = useVirtual({ scroller, count: findings.length, sizeOf: heightOf });
   useEffect(() => {
-    if (chosen !== undefined) items.scrollToIndex(chosen, { align: "auto" });
+    items.scrollToIndex(chosen, { align: "auto" });
   }, [chosen, items]);
   const onKeyDown = (event: KeyboardEvent) => {
-    if (event.key === "Enter" && chosen !== undefined) return open(chosen);
-    const step = kSteps[event.key];
-    if (step === undefined) return;
+    if (event.key === "Enter" && isBare(event)) return open(chosen);
+    const next = indexAfterKey(event, chosen, findings.length);
+    if (next === undefined) return;
     event.preventDefault();
-    choose(Math.min(findings.length - 1, Math.max(0, (chosen ?? -1) + step)));
+    choose(next);
   };
   const shown = isPrinting
     ? findings.map((_, index) => ({ index, start: index * kItemHeight }))
@@ -92,7 +85,7 @@ export function FindingList({ findings, chosen, choose, open }: ListProps) {
       role="listbox"
       tabIndex={0}
       aria-label={say(kFindingsWords.list)}
-      aria-activedescendant={chosen === undefined ? undefined : `${id}-${chosen}`}
+      aria-activedescendant={`${id}-${chosen}`}
       ref={scroller}
       onKeyDown={onKeyDown}
     >

@@ -5,6 +5,8 @@ import { checkArguments } from "../../app/check_arguments";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
 import { CopyButton } from "../../app/parts/finding_card";
 import { useKept } from "../../app/parts/kept";
+import { FoundManifest, isManifestMissing, MissingManifest } from "../../app/parts/missing_manifest";
+import { NoRules } from "../../app/parts/needing";
 import { saveFile } from "../../app/parts/save";
 import { filesOf, shownFile, useApp, useSay } from "../../app/state";
 import type { CheckReport, Finding } from "../../model/check";
@@ -15,7 +17,6 @@ import { kNoFilter, listedFindings, placeOf, shownPlace } from "./filter";
 import { FilterSide } from "./filter_side";
 import { FindingDetail } from "./finding_detail";
 import { FindingList } from "./finding_list";
-import { FoundManifest, MissingManifest } from "./missing_manifest";
 
 /** The list as somebody mails it. */
 function asText(findings: readonly Finding[], say: Say): string {
@@ -30,24 +31,25 @@ function asText(findings: readonly Finding[], say: Say): string {
 
 /** The program's own CSV: of the whole check, with all its columns. */
 function useSaveCsv(): () => Promise<void> {
-  const { engine, workspace, language } = useApp();
+  const { engine, workspace, language, listsAll } = useApp();
   const say = useSay();
   return async () => {
     if (workspace === undefined) return;
-    const run = await engine.run(checkArguments(workspace, language, "csv"), filesOf(workspace));
+    const run = await engine.run(checkArguments(workspace, language, "csv", listsAll), filesOf(workspace));
     saveFile(say(kFindingsWords.csvName), run.out, "text/csv");
   };
 }
 
 function ListBar({ listed, report }: { listed: readonly Finding[]; report: CheckReport }) {
   const say = useSay();
+  const { tell } = useApp();
   const saveCsv = useSaveCsv();
   return (
     <div class="bar">
       <span role="status">{say(kFindingsWords.shown, listed.length, report.findings.length)}</span>
       <span class="spring" />
       <CopyButton text={asText(listed, say)} label={say(kFindingsWords.copy)} />
-      <button type="button" class="small" onClick={() => void saveCsv()}>
+      <button type="button" class="small" onClick={() => void saveCsv().catch(tell)}>
         {say(kFindingsWords.csv)}
       </button>
     </div>
@@ -56,20 +58,19 @@ function ListBar({ listed, report }: { listed: readonly Finding[]; report: Check
 
 /** What was looked at, and what was not. */
 function Checked({ report }: { report: CheckReport }) {
+  const { listsAll, listAll } = useApp();
   const say = useSay();
   const { tables, ruleRows, processes, incomplete } = report.checked;
   return (
     <div class="checked">
       <p>{say(kFindingsWords.checked, tables.length, ruleRows, processes)}</p>
-      {incomplete.length > 0 && (
-        <details>
-          <summary>{say(kFindingsWords.incomplete)}</summary>
-          <ul>
-            {incomplete.map((text) => (
-              <li key={text}>{text}</li>
-            ))}
-          </ul>
-        </details>
+      {incomplete.map((text) => (
+        <p key={text}>{text}</p>
+      ))}
+      {incomplete.length > 0 && !listsAll && (
+        <button type="button" class="small" onClick={listAll}>
+          {say(kFindingsWords.listAll)}
+        </button>
       )}
     </div>
   );
@@ -81,7 +82,8 @@ function Reported({ report }: { report: CheckReport }) {
   const [filter, setFilter] = useKept("findings filter", kNoFilter);
   const [chosen, setChosen] = useKept<Finding | undefined>("chosen finding", undefined);
   const listed = useMemo(() => listedFindings(report.findings, filter), [report, filter]);
-  const at = chosen === undefined ? -1 : listed.indexOf(chosen);
+  // Until one is chosen the first is shown, and so when the chosen one is no longer listed.
+  const at = Math.max(0, chosen === undefined ? -1 : listed.indexOf(chosen));
   const open = (finding: Finding | undefined) =>
     finding !== undefined && select({ file: finding.file, cell: placeOf(finding) });
   const shown = listed[at];
@@ -90,7 +92,8 @@ function Reported({ report }: { report: CheckReport }) {
       <FilterSide report={report} filter={filter} change={setFilter} />
       <div class="findings">
         <div class="findings-list">
-          {report.findings.some(({ code }) => code === "manifest-missing") && <MissingManifest />}
+          {isManifestMissing(report) && <MissingManifest />}
+          <NoRules report={report} />
           <FoundManifest />
           <ListBar listed={listed} report={report} />
           {listed.length === 0 ? (
@@ -100,7 +103,7 @@ function Reported({ report }: { report: CheckReport }) {
           ) : (
             <FindingList
               findings={listed}
-              chosen={at === -1 ? undefined : at}
+              chosen={at}
               choose={(index) => setChosen(listed[index])}
               open={(index) => open(listed[index])}
             />
@@ -108,11 +111,7 @@ function Reported({ report }: { report: CheckReport }) {
           <Checked report={report} />
         </div>
         <section class="findings-detail" aria-label={say(kFindingsWords.finding)}>
-          {shown === undefined ? (
-            <Empty>{say(kFindingsWords.pick)}</Empty>
-          ) : (
-            <FindingDetail finding={shown} open={() => open(shown)} />
-          )}
+          {shown !== undefined && <FindingDetail finding={shown} open={() => open(shown)} />}
         </section>
       </div>
     </div>

@@ -25,7 +25,12 @@ import { fileNamed, useCells } from "./use_cells";
 /** What stands in the selected cell, whole: in the grid it may be cut off. */
 function CellBar({ cells, spot }: { cells: TableCells; spot: Spot | undefined }) {
   const say = useSay();
-  if (spot === undefined) return <div class="cell-bar" />;
+  if (spot === undefined)
+    return (
+      <div class="cell-bar">
+        <span class="quiet">{say(kGridWords.pickCell)}</span>
+      </div>
+    );
   const row = cells.rows[spot.row - 1];
   const text = spot.column === 0 ? undefined : row?.cells[spot.column - 1];
   const header = spot.row > 1 ? cells.rows[0]?.cells[spot.column - 1] : undefined;

@@ -27,16 +27,19 @@ function listed(path: string, role?: Role): ListedFile {
 /** Tables in the order of their roles, then what no role names. */
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
   const tables = (report?.checked.tables ?? []).map((table) => listed(table.file, table));
+  const beside = filesBeside(workspace);
+  // Plates and holes that lie in the folder itself are in its files too.
   const others = workspace.files.filter(
-    ({ path }) => /\.csv$/i.test(path) && !tables.some((table) => table.path === path),
+    ({ path, bytes }) =>
+      /\.csv$/i.test(path) &&
+      !tables.some((table) => table.path === path) &&
+      !beside.some((file) => file.bytes === bytes),
   );
   return [
     { title: kGridWords.tables, files: tables },
     {
       title: kGridWords.besideTables,
-      files: filesBeside(workspace)
-        .filter(({ path }) => /\.csv$/i.test(path))
-        .map(({ path }) => listed(path)),
+      files: beside.filter(({ path }) => /\.csv$/i.test(path)).map(({ path }) => listed(path)),
     },
     { title: kGridWords.otherFiles, files: others.map(({ path }) => listed(path)) },
   ].filter(({ files }) => files.length > 0);

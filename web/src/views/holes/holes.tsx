@@ -1,10 +1,10 @@
 // Combined holes: each in section, beside the types that it belongs to.
 
-import { useMemo, useRef, useState } from "preact/hooks";
+import { useMemo, useState } from "preact/hooks";
 import { useAnswer } from "../../app/answer";
 import { Empty, Failure, OpenFirst } from "../../app/parts/failure";
+import { ItemList } from "../../app/parts/item_list";
 import { useKept } from "../../app/parts/kept";
-import { useVirtual } from "../../app/parts/virtual";
 import { useApp, useSay } from "../../app/state";
 import { colorAt } from "../../drawing/palette";
 import type { MatchedHole } from "../../model/holes";
@@ -13,11 +13,9 @@ import { kHoleWords } from "../../words/holes";
 import { useFiles } from "../plate/asking";
 import { Detail } from "./detail";
 import { SectionMark } from "./section";
-import "../../app/parts/common.css";
 import "./holes.css";
 
-const kRowHeight = 38;
-const rowHeight = () => kRowHeight;
+const kItemHeight = 38;
 
 function useHoles() {
   const { engine, language, workspace } = useApp();
@@ -59,51 +57,11 @@ interface Entry {
   readonly index: number;
 }
 
-interface ListProps {
-  readonly entries: readonly Entry[];
-  readonly colors: ReadonlyMap<number, string>;
-  readonly chosen: number;
-  choose(index: number): void;
-}
-
 function Verdict({ hole }: { hole: HoleSection }) {
   const say = useSay();
   if (hole.types.length === 0) return <span class="hole-none">✕ {say(kHoleWords.noType)}</span>;
   if (hole.tied) return <span class="hole-tied">＝ {say(kHoleWords.tied)}</span>;
   return <span class="quiet">{hole.types[0]?.name}</span>;
-}
-
-function List({ entries, colors, chosen, choose }: ListProps) {
-  const say = useSay();
-  const scroller = useRef<HTMLDivElement>(null);
-  const virtual = useVirtual({ scroller, count: entries.length, sizeOf: rowHeight });
-  return (
-    <div class="item-list" ref={scroller}>
-      <ul style={{ height: `${virtual.getTotalSize()}px` }} aria-label={say(kHoleWords.holes)}>
-        {virtual.getVirtualItems().map(({ index: at, start }) => {
-          const entry = entries[at];
-          if (entry === undefined) return null;
-          const { hole, index } = entry;
-          return (
-            <li key={index} style={{ top: `${start}px`, height: `${kRowHeight}px` }}>
-              <button
-                type="button"
-                class="hole-item"
-                aria-current={index === chosen ? "true" : undefined}
-                onClick={() => choose(index)}
-              >
-                <SectionMark hole={hole} colors={colors} />
-                <span class="hole-names">
-                  <span class="item-name">{hole.name}</span>
-                  <Verdict hole={hole} />
-                </span>
-              </button>
-            </li>
-          );
-        })}
-      </ul>
-    </div>
-  );
 }
 
 function useEntries(holes: readonly HoleSection[], part: string): readonly Entry[] {
@@ -140,7 +98,23 @@ function HolesPane({ picture, matches }: { picture: HolesPicture; matches: reado
           aria-label={say(kHoleWords.find)}
           onInput={(event) => setPart(event.currentTarget.value)}
         />
-        <List entries={entries} colors={colors} chosen={chosen} choose={choose} />
+        <ItemList
+          label={say(kHoleWords.holes)}
+          items={entries}
+          chosen={entries.findIndex(({ index }) => index === chosen)}
+          itemHeight={kItemHeight}
+          choose={({ index }) => choose(index)}
+        >
+          {(entry) => (
+            <>
+              <SectionMark hole={entry.hole} colors={colors} />
+              <span class="hole-names">
+                <span class="item-name">{entry.hole.name}</span>
+                <Verdict hole={entry.hole} />
+              </span>
+            </>
+          )}
+        </ItemList>
       </section>
       {hole && <Detail key={chosen} hole={hole} match={matches[chosen]} colors={colors} />}
     </div>

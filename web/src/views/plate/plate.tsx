@@ -3,6 +3,7 @@
 import { useEffect, useState } from "preact/hooks";
 import { Failure, OpenFirst } from "../../app/parts/failure";
 import { useKept } from "../../app/parts/kept";
+import { Needing } from "../../app/parts/needing";
 import { useApp, useSay } from "../../app/state";
 import type { ProcessedPlate } from "../../model/process";
 import { kPlateWords } from "../../words/plate";
@@ -105,5 +106,10 @@ function Trial() {
 
 export function TryPlate() {
   const { workspace } = useApp();
-  return workspace === undefined ? <OpenFirst /> : <Trial />;
+  if (workspace === undefined) return <OpenFirst />;
+  return (
+    <Needing tables={["process-rules", "process-settings"]}>
+      <Trial />
+    </Needing>
+  );
 }

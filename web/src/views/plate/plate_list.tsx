@@ -1,18 +1,16 @@
 // The plates of the loaded file, those without a text first.
 
-import { useMemo, useRef, useState } from "preact/hooks";
+import { useMemo, useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
-import { useVirtual } from "../../app/parts/virtual";
+import { ItemList } from "../../app/parts/item_list";
 import type { Answer } from "../../app/answer";
 import { useSay } from "../../app/state";
 import type { PlateStatus, ProcessedPlate } from "../../model/process";
 import { kPlateWords } from "../../words/plate";
 import { StatusMark } from "./status_mark";
-import "../../app/parts/common.css";
 
 const kOrder: Readonly<Record<PlateStatus, number>> = { "no-row": 0, "no-text": 1, written: 2 };
-const kRowHeight = 30;
-const rowHeight = () => kRowHeight;
+const kItemHeight = 30;
 
 /** Without a text first, else as in the file. */
 export function inOrder(plates: readonly ProcessedPlate[]): readonly ProcessedPlate[] {
@@ -25,40 +23,10 @@ interface PlateListProps {
   choose(plate: ProcessedPlate): void;
 }
 
-function Items({
-  plates,
-  chosen,
-  choose,
-}: Omit<PlateListProps, "answer"> & { plates: readonly ProcessedPlate[] }) {
+function Gets({ plate }: { plate: ProcessedPlate }) {
   const say = useSay();
-  const scroller = useRef<HTMLDivElement>(null);
-  const virtual = useVirtual({ scroller, count: plates.length, sizeOf: rowHeight });
-  return (
-    <div class="item-list" ref={scroller}>
-      <ul style={{ height: `${virtual.getTotalSize()}px` }} aria-label={say(kPlateWords.plates)}>
-        {virtual.getVirtualItems().map(({ index, start }) => {
-          const plate = plates[index];
-          if (plate === undefined) return null;
-          return (
-            <li key={index} style={{ top: `${start}px` }}>
-              <button
-                type="button"
-                aria-current={plate === chosen ? "true" : undefined}
-                onClick={() => choose(plate)}
-              >
-                <span class="item-name">{plate.name}</span>
-                {plate.status === "written" && plate.line !== null ? (
-                  <span class="quiet">{say(kPlateWords.row, plate.line)}</span>
-                ) : (
-                  <StatusMark status={plate.status} isShort />
-                )}
-              </button>
-            </li>
-          );
-        })}
-      </ul>
-    </div>
-  );
+  if (plate.status !== "written" || plate.line === null) return <StatusMark status={plate.status} isShort />;
+  return <span class="quiet">{say(kPlateWords.row, plate.line)}</span>;
 }
 
 export function PlateList({ answer, chosen, choose }: PlateListProps) {
@@ -86,7 +54,20 @@ export function PlateList({ answer, chosen, choose }: PlateListProps) {
             aria-label={say(kPlateWords.find)}
             onInput={(event) => setPart(event.currentTarget.value)}
           />
-          <Items plates={plates} chosen={chosen} choose={choose} />
+          <ItemList
+            label={say(kPlateWords.plates)}
+            items={plates}
+            chosen={chosen === undefined ? -1 : plates.indexOf(chosen)}
+            itemHeight={kItemHeight}
+            choose={choose}
+          >
+            {(plate) => (
+              <>
+                <span class="item-name">{plate.name}</span>
+                <Gets plate={plate} />
+              </>
+            )}
+          </ItemList>
         </>
       )}
     </section>
