@@ -112,7 +112,7 @@ export async function sampleCases(): Promise<Case[]> {
     ...["folder", "explain samples/plates.csv --plate 加长托板", "check", "show"].flatMap((line) =>
       everyWay(line, files).map((each) => ({ ...each, files, variables: { TQConfig: "samples" } })),
     ),
-    ...["plates", "holes", "hole-types", "process-rules"].flatMap((role) =>
+    ...["holes", "hole-types", "process-rules"].flatMap((role) =>
       everyWay(`template ${role}`, files, ["csv"]),
     ),
   ];
