@@ -108,12 +108,12 @@ export async function sampleCases(): Promise<Case[]> {
     ...everyWay("holes --types samples/hole-types.json samples/holes.json", files, all),
     ...everyWay("picture holes --types samples/hole-types.csv samples/holes.csv", files, ["json"]),
     ...everyWay("schema", files, ["text", "json", "markdown"]),
-    ...everyWay("folder", files),
+    ...everyWay("folder", files).map((each) => ({ ...each, isWrong: true })), // Without TQConfig.
     ...["folder", "explain samples/plates.csv --plate 加长托板", "check", "show"].flatMap((line) =>
       everyWay(line, files).map((each) => ({ ...each, files, variables: { TQConfig: "samples" } })),
     ),
-    ...["plates", "holes", "hole-types", "process-rules"].flatMap((role) =>
-      everyWay(`template ${role}`, files, ["text"]),
+    ...["holes", "hole-types", "process-rules"].flatMap((role) =>
+      everyWay(`template ${role}`, files, ["csv"]),
     ),
   ];
   const codes = ["row-shadowed", "text-blank"].flatMap((code) => everyWay(`check --explain ${code}`, files));
