@@ -4,7 +4,7 @@
 #   lib/, on Windows also bin/  the library; the DLL lies in bin, its import library in lib
 #   lib/cmake/plateconfig/      find_package(plateconfig) gives the target plateconfig::plateconfig
 #   lib/pkgconfig/              pkg-config plateconfig
-#   bin/                        the companion
+#   bin/                        the companion, and the page beside it when PLATECONFIG_PAGE names it
 include(CMakePackageConfigHelpers)
 
 set(plateconfigIncludeDir ${CMAKE_INSTALL_INCLUDEDIR}/plateconfig)
@@ -50,6 +50,9 @@ install(TARGETS plateconfig EXPORT plateconfig
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 if(PLATECONFIG_BUILD_COMPANION)
   install(TARGETS plateconfig_command RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  if(PLATECONFIG_PAGE)
+    install(FILES ${PLATECONFIG_PAGE} DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME plateconfig.html)
+  endif()
 endif()
 
 install(EXPORT plateconfig NAMESPACE plateconfig:: FILE plateconfigConfig.cmake DESTINATION ${plateconfigPackageDir})

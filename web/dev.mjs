@@ -3,13 +3,14 @@
  * the shipped page.
  *
  *     PLATECONFIG=../build/debug/tools/plateconfig/plateconfig node dev.mjs [port]
+ *
+ * Port 0 is any that is free.
  */
 import { createServer } from "node:http";
-import { dirname } from "node:path";
-import { fileURLToPath, pathToFileURL } from "node:url";
 import { mkdtemp } from "node:fs/promises";
 import { tmpdir } from "node:os";
-import { join } from "node:path";
+import { dirname, join } from "node:path";
+import { fileURLToPath, pathToFileURL } from "node:url";
 import { build } from "esbuild";
 import { bundle, page } from "./page.mjs";
 
@@ -19,6 +20,7 @@ process.chdir(dirname(fileURLToPath(import.meta.url)));
 async function nativeEngine() {
   const outfile = join(await mkdtemp(join(tmpdir(), "plateconfig-dev-")), "native_engine.mjs");
   await build({
+    absWorkingDir: process.cwd(),
     entryPoints: ["tests/native_engine.ts"],
     bundle: true,
     platform: "node",
@@ -47,12 +49,24 @@ async function answer(request) {
   return ["text/html", await page({ ...(await bundle({ isServed: true, minify: false })), isServed: true })];
 }
 
-const port = Number(process.argv[2] ?? 8123);
-createServer(async (request, response) => {
+/**
+ * Other pages in the developer's browser may send requests here too, under their own name or under one that leads to this machine;
+ * they must not have the program run.
+ */
+function isOwn({ headers: { host, origin } }) {
+  const own = ["127.0.0.1", "localhost"].map((name) => `${name}:${server.address().port}`);
+  return own.includes(host) && (origin === undefined || own.some((name) => origin === `http://${name}`));
+}
+
+const server = createServer(async (request, response) => {
   try {
+    if (!isOwn(request)) return response.writeHead(403).end();
     const [type, body] = await answer(request);
     response.writeHead(200, { "content-type": `${type}; charset=utf-8` }).end(body);
   } catch (error) {
     response.writeHead(500, { "content-type": "text/plain; charset=utf-8" }).end(String(error));
   }
-}).listen(port, "127.0.0.1", () => console.log(`port ${port} of this machine`));
+});
+server.listen(Number(process.argv[2] ?? 8123), "127.0.0.1", () =>
+  console.log(`port ${server.address().port} of this machine`),
+);

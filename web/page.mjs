@@ -36,6 +36,7 @@ function assertLicencesAreTold({ inputs }) {
 export async function bundle({ entry = "src/main.tsx", isServed = false, minify = true } = {}) {
   const result = await build({
     ...forBrowsers,
+    absWorkingDir: process.cwd(),
     minify,
     entryPoints: [entry],
     outdir: "/",
@@ -49,7 +50,11 @@ export async function bundle({ entry = "src/main.tsx", isServed = false, minify 
 
 /** The worker's script: emscripten's start-up script, and what is done with it. */
 export async function bundleWorker(startUpScript) {
-  const result = await build({ ...forBrowsers, entryPoints: ["src/engine/worker.ts"] });
+  const result = await build({
+    ...forBrowsers,
+    absWorkingDir: process.cwd(),
+    entryPoints: ["src/engine/worker.ts"],
+  });
   return readFileSync(startUpScript, "utf8") + result.outputFiles[0].text;
 }
 

@@ -6,15 +6,13 @@
  * The page is the one that PLATECONFIG_PAGE names, or ../build/page/plateconfig.html. The last line says what ran.
  */
 import { spawnSync } from "node:child_process";
-import { readdirSync, readFileSync, rmSync } from "node:fs";
+import { readdirSync, readFileSync } from "node:fs";
 import { dirname, join } from "node:path";
 import { fileURLToPath } from "node:url";
-import { build } from "esbuild";
+import { bundleForNode } from "./bundle_for_node.mjs";
 
 process.chdir(dirname(fileURLToPath(import.meta.url)));
 
-// Below node_modules, where packages are found from.
-const outdir = "node_modules/.cache/plateconfig-tests";
 const chosen = process.argv.slice(2);
 const files = readdirSync("tests")
   .filter((name) => /\.(test|spec)\.tsx?$/.test(name))
@@ -22,24 +20,7 @@ const files = readdirSync("tests")
   .sort();
 if (files.length === 0) throw new Error("no test has that name");
 
-rmSync(outdir, { recursive: true, force: true });
-await build({
-  entryPoints: files.map((name) => join("tests", name)),
-  outdir,
-  bundle: true,
-  platform: "node",
-  target: "node18",
-  format: "esm",
-  outExtension: { ".js": ".mjs" },
-  packages: "external",
-  define: { IS_SERVED: "false" },
-  loader: { ".css": "empty" },
-  jsx: "automatic",
-  jsxImportSource: "preact",
-  sourcemap: "inline",
-  logLevel: "warning",
-});
-
+const outdir = await bundleForNode(files, "tests");
 const report = join(outdir, "report.tap");
 const reporters = ["spec", "stdout", "tap", report];
 const { status } = spawnSync(

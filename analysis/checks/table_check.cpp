@@ -13,10 +13,12 @@
 namespace plateconfig {
 namespace {
 
-constexpr Words kAbsentColumns = {"every setting gets the value of an absent column", "各设置取缺列时的值"};
-constexpr Words kClassStart = {"the settings stay as the library's classes start",
-                               "各设置保持库中类的初始值"};
-constexpr Words kException = {"the drawing tool gets an exception", "绘图工具会收到异常"};
+constexpr Words kAbsentColumns = {"every setting gets the value of an absent column",
+                                  "各设置都取默认值（与缺列时相同）"};
+constexpr Words kBeforeReading = {"the settings stay as they were before the table was read",
+                                  "各设置保持读取此表之前的值"};
+constexpr Words kException = {"the drawing tool fails when it reads the table (an exception)",
+                              "绘图工具读取此表时会报错（异常）"};
 constexpr Words kNoRuleRows = {"the library then has no rule rows and every process text is empty",
                                "库因此没有任何规则行，所有工艺文本都为空"};
 constexpr Words kNoConnector = {"the library then joins the processes with nothing between them",
@@ -27,7 +29,7 @@ Consequences ConsequencesOf(const GivenTable& given) {
   if (given.role == Role::kProcessSettings) return {kNoConnector, kNoConnector};
   switch (RowOf(given.role).whenUnreadable) {
     case WhenUnreadable::kChangesNothing:
-      return {kClassStart, kAbsentColumns};
+      return {kBeforeReading, kAbsentColumns};
     case WhenUnreadable::kThrowsIfMissing:
       return {given.exists ? kAbsentColumns : kException, kAbsentColumns};
     case WhenUnreadable::kCountsAsEmpty:

@@ -21,9 +21,9 @@ struct DatumCircle {
 };
 
 constexpr DatumCircle kDatumCircles[] = {
-    {{"datum circle of the exploded view", "爆炸图基准圆"}, &SystemDefault::explodedDatumCircleLayer},
-    {{"datum circle of the material drawing", "材料图基准圆"}, &SystemDefault::materialDatumCircleLayer},
-    {{"datum circle of the standard parts", "标准件基准圆"}, &SystemDefault::standardPartDatumCircleLayer},
+    {names::kExplodedCircle, &SystemDefault::explodedDatumCircleLayer},
+    {names::kMaterialCircle, &SystemDefault::materialDatumCircleLayer},
+    {names::kStandardPartCircle, &SystemDefault::standardPartDatumCircleLayer},
 };
 
 /// A share that gives no length.
@@ -51,7 +51,7 @@ class CustomDrawing {
 
   /// Where all views lie together.
   void AddViewGroup(const SheetSetting& left, const SheetSetting& top, const SheetSetting& share) {
-    SheetPart group = PartOf(PartKind::kRectangle, {"room of all views together", "全部视图合起来的范围"});
+    SheetPart group = PartOf(PartKind::kRectangle, names::kViewGroup);
     group.width = share.Number() * paper_.width;
     group.height = share.Number() * paper_.height;
     group.assumes = {Assumption::kViewGroup};
@@ -141,7 +141,7 @@ class CustomDrawing {
     const SheetSetting color = settings_.Of(&BallMark::leaderColor);
     const SheetSetting layer = settings_.Of(&BallMark::layer);
     builder_.AddUnknown(
-        {"ball mark", "球标"}, reasons::kNoEdge,
+        names::kBallMark, reasons::kNoEdge,
         {settings_.Of(&BallMark::bottomMargin), settings_.Of(&BallMark::topMargin), diameter,
          settings_.Of(&BallMark::textToCircleRatio), color, layer, settings_.Of(&BallMark::style)},
         CircleSpecimen(diameter, color, layer));
@@ -157,7 +157,7 @@ class CustomDrawing {
     const SheetSetting feature = settings_.Of(&FeatureMark::style);
     const SheetSetting featureLayer = settings_.Of(&FeatureMark::layer);
     builder_.AddUnknown(
-        {"feature code", "特征代号"}, reasons::kPlate,
+        names::kFeatureCode, reasons::kPlate,
         {settings_.Of(&FeatureMark::angle), settings_.Of(&FeatureMark::distanceRatio), feature, featureLayer},
         TextSpecimen(feature.Style(), featureLayer.Integer()));
     const SheetSetting layerNote = settings_.Of(&SystemDefault::layerNoteFontSize);
@@ -184,7 +184,7 @@ class CustomDrawing {
                         {settings_.Of(&SystemDefault::borderOffset), border, borderLayer},
                         LineSpecimen(border, borderLayer.Integer()));
     const SheetSetting viewFrame = settings_.Of(&SystemDefault::viewFrameColor);
-    builder_.AddUnknown({"box around a view", "视图外框"}, reasons::kNoUnit,
+    builder_.AddUnknown(names::kViewBox, reasons::kNoUnit,
                         {settings_.Of(&SystemDefault::viewFrameGap), viewFrame,
                          settings_.Of(&SystemDefault::materialTopFrameLayer),
                          settings_.Of(&SystemDefault::materialFrontFrameLayer),
@@ -222,7 +222,7 @@ Sheet SubSheet(const SheetSettings& settings, const SheetQuestion& question) {
   drawing.AddLength({"size from which a sheet is large", "大图临界值"}, reasons::kNothingCompared,
                     &Normal::largeSheetThreshold);
   const bool isLarge = question.size == SheetSize::kLarge;
-  drawing.AddShare({"gap between views", "视图间距"}, reasons::kNoBase,
+  drawing.AddShare(names::kViewGap, reasons::kNoBase,
                    isLarge ? settings.Of(&Normal::largeSheetViewGapRatio) : settings.Of(&Sub::viewGapRatio));
   return drawing.WithTheRest();
 }

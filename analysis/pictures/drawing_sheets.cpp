@@ -1,6 +1,5 @@
 #include "analysis/pictures/drawing_sheets.h"
 
-#include <algorithm>
 #include <set>
 
 #include "analysis/pictures/custom_sheets.h"

@@ -51,20 +51,11 @@ struct Circle {
 };
 
 constexpr Circle kCircles[] = {
-    {{"datum circle of the exploded view", "爆炸图基准圆"},
-     reasons::kNoPlace,
-     &Layout::circleDiameter,
-     &Layout::circleColor,
+    {names::kExplodedCircle, reasons::kNoPlace, &Layout::circleDiameter, &Layout::circleColor,
      &Layout::explodedCircleLayer},
-    {{"datum circle of the material drawing", "材料图基准圆"},
-     reasons::kNoPlace,
-     &Layout::circleDiameter,
-     &Layout::circleColor,
+    {names::kMaterialCircle, reasons::kNoPlace, &Layout::circleDiameter, &Layout::circleColor,
      &Layout::materialCircleLayer},
-    {{"datum circle of the standard parts", "标准件基准圆"},
-     reasons::kNoPlace,
-     &Layout::circleDiameter,
-     &Layout::circleColor,
+    {names::kStandardPartCircle, reasons::kNoPlace, &Layout::circleDiameter, &Layout::circleColor,
      &Layout::standardCircleLayer},
     {{"large wire-threading hole", "大穿丝孔"},
      reasons::kPlate,
@@ -159,11 +150,11 @@ class LayoutDrawing {
     const SheetSetting height = settings_.Of(&Layout::viewsHeightRatio);
     const SheetSetting gap = settings_.Of(&Layout::viewGapRatio);
     const SheetSetting color = settings_.Of(&Layout::viewBoxColor);
-    builder_.AddUnknown({"room of all views together", "全部视图合起来的范围"}, reasons::kNoStart,
-                        {length, height}, RoomSpecimen(length.Number(), height.Number()));
-    builder_.AddUnknown({"gap between views", "视图间距"}, reasons::kViews, {gap}, GapSpecimen(gap.Number()));
+    builder_.AddUnknown(names::kViewGroup, reasons::kNoStart, {length, height},
+                        RoomSpecimen(length.Number(), height.Number()));
+    builder_.AddUnknown(names::kViewGap, reasons::kViews, {gap}, GapSpecimen(gap.Number()));
     builder_.AddUnknown(
-        {"box around a view", "视图外框"}, reasons::kNoUnit,
+        names::kViewBox, reasons::kNoUnit,
         {settings_.Of(&Layout::viewBoxMargin), color, settings_.Of(&Layout::materialTopBoxLayer),
          settings_.Of(&Layout::materialFrontBoxLayer), settings_.Of(&Layout::materialLeftBoxLayer),
          settings_.Of(&Layout::standardTopBoxLayer), settings_.Of(&Layout::standardFrontBoxLayer),
@@ -193,7 +184,7 @@ class LayoutDrawing {
   void AddFeatureCode() {
     const SheetSetting style = settings_.Of(&Layout::featureCodeStyle);
     builder_.AddUnknown(
-        {"feature code", "特征代号"}, reasons::kPlate,
+        names::kFeatureCode, reasons::kPlate,
         {settings_.Of(&Layout::featureCodeAngle), settings_.Of(&Layout::featureCodeDistanceRatio), style},
         TextSpecimen(style.Style(), {}));
   }
@@ -203,7 +194,7 @@ class LayoutDrawing {
     const SheetSetting color = settings_.Of(&Layout::ballMarkLineColor);
     const SheetSetting layer = settings_.Of(&Layout::ballMarkLayer);
     builder_.AddUnknown(
-        {"ball mark", "球标"}, reasons::kNoEdge,
+        names::kBallMark, reasons::kNoEdge,
         {settings_.Of(&Layout::ballMarkTopMargin), settings_.Of(&Layout::ballMarkBottomMargin), diameter,
          settings_.Of(&Layout::ballMarkTextRatio), color, layer, settings_.Of(&Layout::ballMarkStyle)},
         CircleSpecimen(diameter, color, layer));

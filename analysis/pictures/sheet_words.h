@@ -1,6 +1,7 @@
 #pragma once
 
-// Why a setting has no place on the sheet, and what is taken for granted, in words.
+// What both generations of settings have on their sheets, why a setting has no place there, and what is taken
+// for granted, in words.
 
 #include <string_view>
 
@@ -8,6 +9,19 @@
 #include "analysis/text/words.h"
 
 namespace plateconfig {
+
+namespace names {
+
+inline constexpr Words kViewGroup = {"room of all views together", "全部视图合起来的范围"};
+inline constexpr Words kViewGap = {"gap between views", "视图间距"};
+inline constexpr Words kViewBox = {"box around a view", "视图外框"};
+inline constexpr Words kExplodedCircle = {"datum circle of the exploded view", "爆炸图基准圆"};
+inline constexpr Words kMaterialCircle = {"datum circle of the material drawing", "材料图基准圆"};
+inline constexpr Words kStandardPartCircle = {"datum circle of the standard parts", "标准件基准圆"};
+inline constexpr Words kBallMark = {"ball mark", "球标"};
+inline constexpr Words kFeatureCode = {"feature code", "特征代号"};
+
+}  // namespace names
 
 namespace reasons {
 

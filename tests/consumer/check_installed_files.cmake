@@ -24,6 +24,10 @@ else()
   expect_file(${BIN}/plateconfig)
 endif()
 
+if(PAGE)
+  expect_file(${BIN}/plateconfig.html)
+endif()
+
 file(GLOB_RECURSE inside RELATIVE ${PREFIX} ${PREFIX}/${headers}/text/* ${PREFIX}/${headers}/platform/*
      ${PREFIX}/${headers}/*.cpp ${PREFIX}/${headers}/uf.h ${PREFIX}/${headers}/rules/rule_*.h)
 if(inside)

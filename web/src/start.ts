@@ -3,7 +3,7 @@
  * Written for browsers that are too old for the rest, to which it says so.
  */
 import { fromBase64 } from "./engine/base64";
-import { engineWords } from "./words/engine";
+import { type EngineProblem, engineWords } from "./words/engine";
 
 /** What build.mjs packs. */
 interface Packed {
@@ -18,8 +18,8 @@ function add(kind: "script" | "style", text: string, inert?: { id: string; type:
   document.body.appendChild(element);
 }
 
-function tell(): void {
-  for (const text of [engineWords.browserTooOld.zh, engineWords.browserTooOld.en]) {
+function tell(problem: EngineProblem): void {
+  for (const text of [engineWords[problem].zh, engineWords[problem].en]) {
     document.body.appendChild(document.createElement("p")).textContent = text;
   }
 }
@@ -33,5 +33,5 @@ async function start(): Promise<void> {
   add("script", script);
 }
 
-if (typeof DecompressionStream === "undefined") tell();
-else void start();
+if (typeof DecompressionStream === "undefined") tell("browserTooOld");
+else start().catch(() => tell("pageDamaged"));

@@ -15,11 +15,13 @@ export const besides = ["plates.csv", "holes.csv", "hole-types.csv"].map((name) 
 export const screenshots = resolve("../build/page/screenshots");
 const given = process.env["PLATECONFIG_PAGE"] ?? "../build/page/plateconfig.html";
 export const isServed = given.startsWith("http");
-const address = isServed ? given : pathToFileURL(resolve(given)).href;
+/** The page on the disk. */
+export const pageFile = resolve(given);
+const address = isServed ? given : pathToFileURL(pageFile).href;
 
 /** The page's own text. */
 export async function readPage(): Promise<string> {
-  return isServed ? (await fetch(address)).text() : readFileSync(resolve(given), "utf8");
+  return isServed ? (await fetch(address)).text() : readFileSync(pageFile, "utf8");
 }
 
 export type Language = "zh" | "en";

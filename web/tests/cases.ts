@@ -7,12 +7,16 @@ export interface Case {
   readonly args: readonly string[];
   readonly files: readonly InputFile[];
   readonly variables?: Record<string, string>;
+  /** Whether the command line or what it reads is wrong to begin with; all others end with 0 or 1. */
+  readonly isWrong?: boolean;
 }
 
 const samples = "../samples";
+/** The sample that is wrong in every way. */
+const mistakes = "samples/config/带错误";
 const corpus = "../fuzz/corpus";
 
-async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
+export async function filesBelow(folder: string, as: string): Promise<InputFile[]> {
   const entries = await readdir(folder, { withFileTypes: true });
   const files = entries.map(async (entry): Promise<InputFile[]> => {
     const [from, to] = [join(folder, entry.name), `${as}/${entry.name}`];
@@ -42,18 +46,29 @@ function everyWay(
     ["zh", "en"].map((language) => ({
       args: [...words(line), "--lang", language, "--format", form],
       files: given,
+      // What is written then does not depend on the time.
+      ...(line.startsWith("report") && { variables: { SOURCE_DATE_EPOCH: "951827696" } }),
     })),
   );
 }
 
+/** A configuration's tables without its manifest, in the folder `bare`. */
+function bareFolder(config: string, files: readonly InputFile[]): InputFile[] {
+  return files
+    .filter(({ path }) => path.startsWith(`${config}/`) && path.endsWith(".csv"))
+    .map(({ path, bytes }) => ({ path: path.replace(config, "bare"), bytes }));
+}
+
 const all = ["text", "json", "csv"];
 
+/** A small page for `report` to fill. */
+async function standInPage(): Promise<InputFile> {
+  const bytes = new Uint8Array(await readFile("../tests/companion/report/stand_in.html"));
+  return { path: "page.html", bytes };
+}
+
 export async function sampleCases(): Promise<Case[]> {
-  const page = {
-    path: "page.html",
-    bytes: new Uint8Array(await readFile("../tests/companion/report/stand_in.html")),
-  };
-  const files = [...(await filesBelow(samples, "samples")), page];
+  const files = [...(await filesBelow(samples, "samples")), await standInPage()];
   const configurations = (await readdir(`${samples}/config`, { withFileTypes: true }))
     .filter((entry) => entry.isDirectory())
     .map((entry) => `samples/config/${entry.name}`);
@@ -65,7 +80,9 @@ export async function sampleCases(): Promise<Case[]> {
     ...everyWay(`show --config ${config}`, files, all),
     ...everyWay(`show --config ${config} --meanings process-rules`, files),
     ...everyWay(`process --config ${config} samples/plates.json -o out.csv`, files, ["csv"]),
-    ...everyWay(`init ${config}`, files, ["text"]),
+    ...everyWay("init bare", bareFolder(config, files)),
+    ...everyWay(`init ${config}`, files).map((each) => ({ ...each, isWrong: true })),
+    ...everyWay(`template plates --config ${config}`, files, ["csv", "json"]),
     ...everyWay(`picture map --config ${config} --x length --y width`, files, ["json"]),
     ...everyWay(`picture map --config ${config} --x thickness --y weight --profile`, files, ["json"]),
     ...files
@@ -76,12 +93,15 @@ export async function sampleCases(): Promise<Case[]> {
       "text",
     ]),
     ...everyWay(
-      `check --config ${config} --holes samples/holes.csv --hole-types samples/hole-types.csv`,
+      `check --config ${config} --plates samples/plates.json --types samples/hole-types.csv`,
       files,
     ),
-    ...configurations.flatMap((other) =>
-      everyWay(`diff ${config} ${other} --plates samples/plates.csv`, files),
-    ),
+    ...everyWay(`picture sheet --config ${config}`, files, ["json"]),
+    ...everyWay(`picture sheet --config ${config} --size small --paper 297x420`, files, ["json"]),
+    ...configurations.flatMap((other) => [
+      ...everyWay(`diff ${config} ${other} --plates samples/plates.csv`, files),
+      ...everyWay(`picture changes ${config} ${other} --x length --y width`, files, ["json"]),
+    ]),
   ]);
   const others = [
     ...everyWay("holes --explain --types samples/hole-types.csv samples/holes.csv", files),
@@ -96,7 +116,12 @@ export async function sampleCases(): Promise<Case[]> {
       everyWay(`template ${role}`, files, ["text"]),
     ),
   ];
-  return [...ofOne, ...others, ...usageCases(files)];
+  const codes = ["row-shadowed", "text-blank"].flatMap((code) => everyWay(`check --explain ${code}`, files));
+  const sampleCases = [...ofOne, ...others, ...codes].map((each) => ({
+    ...each,
+    isWrong: (each.isWrong ?? false) || each.args.includes(mistakes),
+  }));
+  return [...sampleCases, ...usageCases(files)];
 }
 
 /** Help, and command lines that are wrong. */
@@ -137,6 +162,7 @@ function usageCases(files: readonly InputFile[]): Case[] {
     ["zh", "en"].map((language) => ({
       args: ["--lang", language, ...words(line)],
       files: namedBy(words(line), files),
+      isWrong: true,
     })),
   );
 }
@@ -144,22 +170,52 @@ function usageCases(files: readonly InputFile[]): Case[] {
 /** A sound configuration beside which one file is broken. */
 const sound = "samples/config/标准";
 
-/** What a broken input of a kind is tried with; it lies at `path`, or is every table of the folder `broken`. */
-const linesOf: Record<string, (path: string) => string[]> = {
-  check: () => ["check --config broken --enable row-shared-bound,rows-mergeable"],
-  diff: () => [`diff ${sound} broken`, "diff broken broken"],
-  holes: (path) => [
-    `holes --types samples/hole-types.csv ${path}`,
-    `holes --explain --types ${path} samples/holes.csv`,
-  ],
-  manifest: () => ["show --config manifest", "check --config manifest"],
-  plates: (path) => [`process --config ${sound} ${path}`, `explain --config ${sound} ${path}`],
-  rules: () => ["explain --config broken samples/plates.json", "check --config broken"],
-  settings: () => ["show --config broken", "check --config broken"],
-  table: () => ["check --config broken", "show --config broken"],
-  tables: () => ["show --config broken", "explain --config broken samples/plates.csv"],
-  texts: () => ["check --config broken", "show --config broken"],
-};
+/** A command line, and the forms in which it can answer. */
+type Line = string | readonly [line: string, ...forms: string[]];
+
+/** Everything that reads the tables of the folder `broken`. */
+const ofTables: readonly Line[] = [
+  "check --config broken --enable row-shared-bound,rows-mergeable",
+  "show --config broken",
+  "explain --config broken samples/plates.csv",
+  `diff ${sound} broken`,
+  "init bare",
+  ["template plates --config broken", "csv"],
+  ["picture map --config broken --x length --y width", "json"],
+  ["picture sheet --config broken", "json"],
+  [`picture changes ${sound} broken --x length --y width`, "json"],
+  ["picture cells broken/table.csv", "json"],
+  ["report --page page.html --config broken --plates samples/plates.csv", "text"],
+];
+
+/** Everything that takes files beside the tables. */
+const ofPlates = (path: string): readonly Line[] => [
+  `process --config ${sound} ${path}`,
+  `explain --config ${sound} ${path}`,
+  `check --config ${sound} --plates ${path}`,
+  [`report --page page.html --config ${sound} --plates ${path}`, "text"],
+];
+const ofHoles = (path: string): readonly Line[] => [
+  `holes --types samples/hole-types.csv ${path}`,
+  `holes --explain --types ${path} samples/holes.csv`,
+  `check --config ${sound} --types ${path}`,
+  [`picture holes --types samples/hole-types.csv ${path}`, "json"],
+  [`picture holes --types ${path} samples/holes.csv`, "json"],
+];
+const ofManifest: readonly Line[] = [
+  "show --config manifest",
+  "check --config manifest",
+  "init manifest",
+  ["report --page page.html --config manifest", "text"],
+];
+
+/** What a broken input is tried with: it lies at `path`, is every table of the folder `broken`, and a manifest in `manifest`. */
+function linesOf(kind: string, path: string): readonly Line[] {
+  if (kind === "holes") return ofHoles(path);
+  if (kind === "manifest") return ofManifest;
+  if (kind === "plates") return ofPlates(path);
+  return ofTables;
+}
 
 /** The tables.json of a folder in which one file plays every role. */
 async function oneTableForAll(): Promise<InputFile> {
@@ -171,13 +227,22 @@ async function oneTableForAll(): Promise<InputFile> {
   return { path: "broken/tables.json", bytes: new TextEncoder().encode(JSON.stringify(same)) };
 }
 
+/** The index of configurations, as `folder` finds it. */
+const index = "root/config/standard.csv";
+
+/** `folder`, and a check without --config, on a broken index. */
+function indexCases(bytes: Uint8Array): Case[] {
+  const files = [{ path: index, bytes }];
+  return ["folder", "check"].flatMap((line) =>
+    everyWay(line, []).map((each) => ({ ...each, files, variables: { TQConfig: "root" } })),
+  );
+}
+
 export async function brokenCases(): Promise<Case[]> {
-  const files = await filesBelow(samples, "samples");
+  const files = [...(await filesBelow(samples, "samples")), await standInPage()];
   const manifest = await oneTableForAll();
   const kinds = (await readdir(corpus)).sort();
   const cases = kinds.map(async (kind) => {
-    const lines = linesOf[kind];
-    if (!lines) throw new Error(`nobody says how ${kind} is tried`);
     const inputs = await filesBelow(`${corpus}/${kind}`, "given");
     return inputs.flatMap(({ path, bytes }) => {
       const given = [
@@ -185,9 +250,14 @@ export async function brokenCases(): Promise<Case[]> {
         manifest,
         { path, bytes },
         { path: "broken/table.csv", bytes },
+        { path: "bare/table.csv", bytes },
         { path: "manifest/tables.json", bytes },
       ];
-      return lines(path).flatMap((line) => everyWay(line, given));
+      const runs = linesOf(kind, path).flatMap((each) => {
+        const [line, ...forms] = typeof each === "string" ? [each] : each;
+        return everyWay(line, given, forms.length === 0 ? undefined : forms);
+      });
+      return [...runs, ...(kind === "table" ? indexCases(bytes) : [])];
     });
   });
   return (await Promise.all(cases)).flat();

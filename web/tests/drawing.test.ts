@@ -4,7 +4,7 @@ import { describe, test } from "node:test";
 import { exact, exactList, shown, shownRange, typed } from "../src/drawing/numbers";
 import { colorAt, contrast, inkOn, kLinePalette, kPalette, lineColorAt } from "../src/drawing/palette";
 import { sizeScale, zoomed } from "../src/drawing/scales";
-import { within, zoomedBox } from "../src/drawing/view_box";
+import { movedBox, within, zoomedBox } from "../src/drawing/view_box";
 
 describe("Numbers", () => {
   test("A shown number has three decimals at most, and no zeros behind them", () => {
@@ -76,8 +76,19 @@ describe("Scales", () => {
   });
 
   test("Zooming keeps the place around which it zooms, and never leaves the picture", () => {
-    assert.deepEqual(zoomed({ from: 0, to: 100 }, 0.5, 20, { from: 0, to: 100 }), { from: 10, to: 60 });
-    assert.deepEqual(zoomed({ from: 10, to: 60 }, 4, 20, { from: 0, to: 100 }), { from: 0, to: 100 });
+    const limits = { from: 0, to: 100 };
+    const scale = (from: number, to: number) => sizeScale({ from, to }, [0, 400], false);
+    assert.deepEqual(zoomed(scale(0, 100), 0.5, 20, limits), { from: 10, to: 60 });
+    assert.deepEqual(zoomed(scale(10, 60), 4, 20, limits), { from: 0, to: 100 });
+  });
+
+  test("On a logarithmic scale zooming keeps the place too", () => {
+    const scale = sizeScale({ from: 1, to: 10000 }, [0, 400], true);
+    const { from, to } = zoomed(scale, 0.5, 100, scale);
+    assert.deepEqual(
+      [from, to].map((end) => Math.round(end)),
+      [10, 1000],
+    );
   });
 });
 
@@ -90,6 +101,19 @@ describe("What is in sight", () => {
 
   test("Zooming out ends at the whole", () => {
     assert.deepEqual(zoomedBox({ x: 50, y: 30, width: 200, height: 150 }, whole, 10, 60, 60), whole);
+  });
+
+  test("Moving by a share goes to all four sides, and stops at the rim", () => {
+    const box = { x: 100, y: 75, width: 200, height: 150 };
+    const corner = (right: number, down: number) => {
+      const { x, y } = movedBox(box, whole, right, down);
+      return [x, y];
+    };
+    assert.deepEqual(corner(0.25, 0), [150, 75]);
+    assert.deepEqual(corner(-0.25, 0), [50, 75]);
+    assert.deepEqual(corner(0, 0.25), [100, 112.5]);
+    assert.deepEqual(corner(0, -0.25), [100, 37.5]);
+    assert.deepEqual(corner(9, -9), [200, 0]);
   });
 
   test("Moving stops at the rim", () => {

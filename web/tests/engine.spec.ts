@@ -1,5 +1,6 @@
 /** The shipped engine in a browser: opened from a file, without a network. */
 import assert from "node:assert/strict";
+import { readdirSync, readFileSync } from "node:fs";
 import { mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
@@ -8,6 +9,7 @@ import { pathToFileURL } from "node:url";
 import { type Browser, type Page, chromium } from "playwright-core";
 import { bundle, page, parts } from "../page.mjs";
 import type { Engine, InputFile } from "../src/engine/engine";
+import { kMostBytes } from "../src/engine/limits";
 import { engineWords } from "../src/words/engine";
 import { sampleCases } from "./cases";
 import { NativeEngine } from "./native_engine";
@@ -94,10 +96,12 @@ test("A check in the browser says what the native program says", () =>
     assert.deepEqual(await runInPage(opened, sent(args, files)), { code, out, err });
   }));
 
-test("The first answer comes soon after the page is opened", () =>
+test("The first answer comes with the page just opened, and the next one after it", () =>
   onPage(async (opened) => {
     const { args, files } = await aCheck();
-    await runInPage(opened, sent(args, files));
+    const { code, out } = await runInPage(opened, sent(args, files));
+    assert.equal(code, 1);
+    assert.ok((JSON.parse(out) as { findings: unknown[] }).findings.length > 60);
     const cold = await opened.evaluate(() => Math.round(performance.now()));
     const began = Date.now();
     await runInPage(opened, sent(args, files));
@@ -133,41 +137,118 @@ test("Twenty runs at once each get their own answer", () =>
     assert.deepEqual(codes, Array(20).fill(true));
   }));
 
+const kManyPlates = 2_000;
+
+/** `explain` on many plates of the samples' rules: seconds of work. */
+function longRun(): { readonly args: readonly string[]; readonly files: readonly InputFile[] } {
+  const config = "../samples/config/标准";
+  const tables = readdirSync(config).map((name) => ({
+    path: `config/${name}`,
+    bytes: new Uint8Array(readFileSync(join(config, name))),
+  }));
+  const rows = Array.from({ length: kManyPlates }, (_, i) => `P${i},450,400,90,127.2,12,`);
+  const plates = new TextEncoder().encode(["名称,长度,宽度,厚度,重量,体颜色,面颜色", ...rows, ""].join("\n"));
+  const args = ["explain", "--config", "config", "--format", "json", "--rows", "0", "plates.csv"];
+  return { args, files: [...tables, { path: "plates.csv", bytes: plates }] };
+}
+
 test("A run that is cancelled ends with AbortError, and the next one is none the worse", () =>
   onPage(async (opened) => {
-    const answer = await opened.evaluate(async () => {
-      const control = new AbortController();
-      const rows = Array.from({ length: 200_000 }, (_, i) => `P${i},300,200,50,20,12`).join("\n");
-      const bytes = new TextEncoder().encode(`name,length,width,thickness,weight,color\n${rows}\n`);
-      const long = engine.run(
-        ["process", "--config", ".", "p.csv"],
-        [{ path: "p.csv", bytes }],
-        control.signal,
-      );
-      setTimeout(() => control.abort(), 30);
-      const how = await long.then(
-        () => "ended",
-        (error: Error) => error.name,
-      );
-      const before = await engine
-        .run(["--version"], [], AbortSignal.abort())
-        .catch((error: Error) => error.name);
-      return [how, before, (await engine.run(["--version"], [])).code];
-    });
+    const { args, files } = longRun();
+    const began = Date.now();
+    const whole = await runInPage(opened, sent(args, files));
+    const needed = Date.now() - began;
+    assert.equal((JSON.parse(whole.out) as unknown[]).length, kManyPlates);
+    const answer = await opened.evaluate(
+      async ({ args, files }) => {
+        const control = new AbortController();
+        const given = files.map(({ path, bytes }) => ({ path, bytes: new Uint8Array(bytes) }));
+        const long = engine.run(args, given, control.signal);
+        // By then the worker has its order.
+        setTimeout(() => control.abort(), 200);
+        const how = await long.then(
+          () => "ended",
+          (error: Error) => error.name,
+        );
+        const before = await engine
+          .run(["--version"], [], AbortSignal.abort())
+          .catch((error: Error) => error.name);
+        return [how, before, (await engine.run(["--version"], [])).code];
+      },
+      sent(args, files),
+    );
+    assert.ok(needed > 1000, `the run that is cancelled takes but ${needed} ms`);
     assert.deepEqual(answer, ["AbortError", "AbortError", 0]);
   }));
 
-test("More than a gigabyte is refused in both languages", () =>
+test("More than the page has room for is refused in both languages", () =>
   onPage(async (opened) => {
-    const words = await opened.evaluate(() => {
-      const bytes = { length: 2 ** 30 + 1 } as Uint8Array;
+    const words = await opened.evaluate((length) => {
+      const bytes = { length } as Uint8Array;
       return engine.run(["--version"], [{ path: "huge.csv", bytes }]).then(
         () => undefined,
         (error: { words: unknown }) => error.words,
       );
-    });
+    }, kMostBytes + 1);
     assert.deepEqual(words, engineWords.tooLarge);
   }));
+
+test("A worker that fails before anybody needs it costs nobody a run", () =>
+  onPage(
+    async (opened) => {
+      await opened.waitForFunction(() => (globalThis as unknown as { failed: number }).failed === 1);
+      assert.equal(await opened.evaluate(() => engine.run(["--version"], []).then(({ code }) => code)), 0);
+    },
+    () => {
+      const Real = Worker;
+      const state = Object.assign(globalThis, { failed: 0 });
+      globalThis.Worker = class extends Real {
+        constructor(script: string | URL) {
+          const isFirst = state.failed === 0;
+          super(isFirst ? URL.createObjectURL(new Blob(["throw new Error('no memory')"])) : script);
+          if (isFirst) this.addEventListener("error", () => setTimeout(() => state.failed++));
+        }
+      };
+    },
+  ));
+
+test("A run whose worker fails ends with words in both languages", () =>
+  onPage(
+    async (opened) => {
+      const words = await opened.evaluate(() =>
+        engine.run(["--version"], []).then(
+          () => undefined,
+          (error: { words: unknown }) => error.words,
+        ),
+      );
+      assert.deepEqual(words, engineWords.broken);
+    },
+    () => {
+      const Real = Worker;
+      globalThis.Worker = class extends Real {
+        constructor() {
+          super(URL.createObjectURL(new Blob(["throw new Error('no memory')"])));
+        }
+      };
+    },
+  ));
+
+test("A page whose file was damaged on its way says so", async () => {
+  const file = join(folder, "damaged.html");
+  const whole = await readFile(join(folder, "engine.html"), "utf8");
+  const place = whole.indexOf('id="plateconfig-page">') + 2000;
+  await writeFile(file, whole.slice(0, place) + "AAAA" + whole.slice(place + 4));
+  const context = await browser.newContext();
+  try {
+    const opened = await context.newPage();
+    await opened.goto(pathToFileURL(file).href);
+    await opened.waitForSelector("p");
+    const told = await opened.innerText("body");
+    assert.ok(told.includes(engineWords.pageDamaged.zh) && told.includes(engineWords.pageDamaged.en), told);
+  } finally {
+    await context.close();
+  }
+});
 
 test("Where WebAssembly is switched off, each run says so in both languages", () =>
   onPage(

@@ -1,12 +1,14 @@
 /** Hole sections and sheets as they are drawn. */
 import assert from "node:assert/strict";
 import { describe, test } from "node:test";
-import type { HoleSection, SheetPart } from "../src/model/pictures";
+import type { HoleSection, SheetPart, UnknownPlace } from "../src/model/pictures";
 import { apart } from "../src/views/holes/section";
 import { stackOf } from "../src/views/holes/stack";
 import { kPapers, landscape, portrait } from "../src/views/sheet/paper";
-import { differing } from "../src/views/sheet/sameness";
+import { differing, differingPlaces } from "../src/views/sheet/sameness";
 import { boxOf } from "../src/views/sheet/shapes";
+import { reduction, specimenText } from "../src/views/sheet/specimen";
+import { sayIn } from "../src/words/say";
 
 const segment = (diameter: number, height: number | null) => ({
   ...{ group: "top" as const, shape: "cylinder", from: null, to: null, rHeight: null, color: 36 },
@@ -85,5 +87,33 @@ describe("A sheet", () => {
     const moved = { ...corner, x: 120 };
     assert.deepEqual([...differing([frame, corner], [elsewhere, moved])], [corner]);
     assert.equal(differing([frame, corner], undefined).size, 0);
+  });
+
+  const words = { zh: "基准圆", en: "datum circle" };
+  const key = { role: "a", column: "基准圆的标准直径", file: "c", cell: "D2", value: "10", source: "table" };
+  const circle: UnknownPlace = {
+    what: words,
+    why: words,
+    specimen: { kind: "circle", diameter: 10, color: 1, layer: 210 },
+    keys: [key],
+  };
+
+  test("What has no place differs by its settings, wherever they stand", () => {
+    const elsewhere = { ...circle, keys: [{ ...key, file: "d", cell: "E2" }] };
+    const other = { ...circle, keys: [{ ...key, value: "12" }] };
+    assert.equal(differingPlaces([circle], [elsewhere]).size, 0);
+    assert.deepEqual([...differingPlaces([circle], [other])], [circle]);
+    assert.equal(differingPlaces([circle], undefined).size, 0);
+  });
+
+  test("What has no room is drawn at a scale of drawings, and its size and scale are told", () => {
+    assert.deepEqual([10, 70, 70.5, 336, 5000, 70_000].map(reduction), [1, 1, 2, 5, 100, 1000]);
+    const en = sayIn("en");
+    const text = (specimen: UnknownPlace["specimen"]) => specimenText({ ...circle, specimen }, en);
+    assert.equal(text(circle.specimen), "⌀10 · colour 1 · layer 210");
+    const look = { color: null, layer: null };
+    assert.equal(text({ kind: "rectangle", width: 336, height: 237.6, ...look }), "336 x 237.6 mm · 1:5");
+    assert.equal(text({ kind: "length", length: 5000, ...look }), "5000 mm");
+    assert.equal(text(null), "");
   });
 });

@@ -35,10 +35,13 @@ export function runNative(
   args: readonly string[],
   folder: string,
   variables: Record<string, string> = {},
-  signal?: AbortSignal,
+  {
+    program = nativeProgram,
+    signal,
+  }: { readonly program?: string; readonly signal?: AbortSignal | undefined } = {},
 ): Promise<RawRun> {
   return new Promise((done, failed) => {
-    const child = spawn(nativeProgram, [...args], {
+    const child = spawn(program, [...args], {
       cwd: folder,
       env: variables,
       stdio: ["ignore", "pipe", "pipe"],
@@ -54,7 +57,7 @@ export function runNative(
 }
 
 /** The files below a folder that were not given, or not like that. */
-async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
+export async function writtenBelow(folder: string, given: readonly InputFile[]): Promise<InputFile[]> {
   const entries = await readdir(folder, { recursive: true, withFileTypes: true });
   const paths = entries
     .filter((entry) => entry.isFile())
@@ -72,7 +75,7 @@ export class NativeEngine implements Engine {
     const folder = await mkdtemp(join(tmpdir(), "plateconfig-page-"));
     try {
       await writeBelow(folder, files);
-      const run = await runNative(args, folder, {}, signal);
+      const run = await runNative(args, folder, {}, { signal });
       const written = await writtenBelow(folder, files);
       return { code: run.code, out: run.out.toString(), err: run.err.toString(), written };
     } finally {

@@ -1,6 +1,6 @@
 /** What a keeper does with the page, from dropping a folder to looking again after a save. */
 import assert from "node:assert/strict";
-import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { cpSync, mkdtempSync, readFileSync, rmSync, truncateSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { pathToFileURL } from "node:url";
@@ -101,6 +101,100 @@ test("The user may say that a file is no file of plates", async () => {
   await page.click("text=文件 ▾");
   await page.selectOption('select[aria-label^="plates.csv"]', "unused");
   await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("0 个警告"));
+});
+
+test("What the user said of a file still counts after looking again", async () => {
+  await open(join(samples, "config", "标准"), join(samples, "plates.csv"), join(samples, "holes.csv"));
+  await page.click("text=文件 ▾");
+  const use = (name: string) => page.locator(`select[aria-label^="${name}"]`);
+  await use("plates.csv").selectOption("unused");
+  await use("列宽.csv").selectOption("hole-types");
+  await page.keyboard.press("F5");
+  await settled(page);
+  assert.equal(await use("plates.csv").inputValue(), "table"); // As what else lies in the folder.
+  assert.equal(await use("列宽.csv").inputValue(), "hole-types");
+  assert.equal(await use("holes.csv").inputValue(), "holes");
+});
+
+test("Files of one name that come from different folders stay apart", async () => {
+  const names = ["plates", "holes", "hole-types"].map((name) => {
+    const path = join(folder, name, "1.csv");
+    cpSync(join(samples, `${name}.csv`), path);
+    return path;
+  });
+  await open(join(samples, "config", "标准"), ...names);
+  assert.match(await counts(), /0 个错误\s*1 个警告/); // The plate 加长托板.
+  await page.click("text=文件 ▾");
+  const used = await page.$$eval(".files tbody select", (all) =>
+    all.map((each) => (each as HTMLSelectElement).value),
+  );
+  assert.deepEqual(used.filter((use) => use !== "table").sort(), ["hole-types", "holes", "plates"]);
+  await page.keyboard.press("Escape");
+  await showView(page, "holes");
+  await page.waitForSelector(".hole-item");
+  await showView(page, "plate");
+  await page.waitForSelector('.item-name:has-text("加长托板")');
+});
+
+test("Plates of several files, also of names that look like options, are all looked at", async () => {
+  await open(join(samples, "config", "标准"), join(samples, "plates.csv"));
+  assert.match(await counts(), /1 个警告/);
+  const again = join(folder, "--limit.csv");
+  cpSync(join(samples, "plates.csv"), again);
+  await drop(page, [again]);
+  await page.waitForFunction(() => !document.querySelector(".counts")?.textContent?.includes(" 1 个警告"));
+  await settled(page);
+  await page.waitForSelector('.side-item:has-text("plates.csv")');
+  await page.waitForSelector('.side-item:has-text("--limit.csv")');
+});
+
+test("Two folders and plates dropped at once are a comparison of these plates", async () => {
+  await drop(page, [
+    join(samples, "config", "标准"),
+    join(samples, "config", "精密模"),
+    join(samples, "plates.csv"),
+  ]);
+  await settled(page);
+  assert.match(await counts(), /1 个警告/);
+  await showView(page, "comparison");
+  await page.waitForSelector(".changed-plate");
+});
+
+test("A file that is too large is refused as what it is, before it is read", async () => {
+  const huge = join(folder, "huge.csv");
+  writeFileSync(huge, "");
+  truncateSync(huge, 3 * 2 ** 30); // Without its bytes on the disk.
+  await drop(page, [huge]);
+  await page.waitForSelector(".notice");
+  assert.match(await page.innerText(".notice"), /文件太多或太大，读到“huge\.csv”为止/);
+});
+
+test("A folder of the same name shows nothing of the one before while it is checked", async () => {
+  await open(copied("标准"));
+  const other = join(folder, "elsewhere", "标准");
+  cpSync(mistakes, other, { recursive: true });
+  await page.evaluate(() => {
+    const seen: string[] = [];
+    Object.assign(globalThis, { seen });
+    new MutationObserver(() => seen.push(document.querySelector(".header")?.textContent ?? "")).observe(
+      document.querySelector(".header")!,
+      { childList: true, subtree: true, characterData: true },
+    );
+  });
+  await drop(page, [other]);
+  await page.waitForFunction(() => document.querySelector(".counts")?.textContent?.includes("6 个错误"));
+  const seen = await page.evaluate(() => (globalThis as unknown as { seen: string[] }).seen);
+  const checking = seen.findIndex((text) => text.includes("正在检查"));
+  assert.ok(checking >= 0, seen.join("\n"));
+  // While the folder was being read the old one was still open; from the check on it is not.
+  assert.ok(seen.slice(checking).every((text) => !text.includes("0 个错误")));
+});
+
+test("A promise that fails where nobody waits for it is told", async () => {
+  await open(mistakes);
+  await page.evaluate(() => void Promise.reject(new Error("nobody waits for this")));
+  await page.waitForSelector(".notice");
+  assert.match(await page.innerText(".notice"), /nobody waits for this/);
 });
 
 test("Plates that are dropped later come to the open folder", async () => {
@@ -272,7 +366,9 @@ test("The language switch changes the page and what the program says, and is rem
   );
   assert.equal(await page.getAttribute("html", "lang"), "en");
   await page.reload();
-  assert.match(await page.innerText("body"), /Drop a configuration folder here|Reading|errors/);
+  await page.waitForSelector(".footer");
+  assert.match(await page.innerText(".footer"), /^Nothing leaves this machine/);
+  assert.equal(await page.getAttribute("html", "lang"), "en");
 });
 
 /** Prints to PDF, and tells what the page held when the printer asked for it. */
@@ -420,8 +516,74 @@ test("A folder that was chosen in a dialog can not be read again after a save, a
   assert.match(await page.innerText(".notice"), /请把文件夹重新拖进来/);
 });
 
-test("The last folder is offered again, or opens by itself where the browser still allows it", async () => {
+test("Who is sent to a cell goes on from there by keys", async () => {
   await open(mistakes);
-  await page.reload();
-  await page.waitForSelector('.counts, button:has-text("再次打开“带错误”")');
+  await page.click('.side-item:has-text("列宽.csv")');
+  await page.click(".finding >> nth=1");
+  await page.focus(".finding-list");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(".panel-tables .cell.is-selected");
+  assert.equal(await page.innerText(".cell-name"), "B2");
+  await page.keyboard.press("ArrowLeft");
+  await page.waitForFunction(() => document.querySelector(".cell-name")?.textContent === "A2");
+});
+
+test("A view that somebody is sent to has the focus, and a tab keeps it", async () => {
+  await open(mistakes);
+  await page.click("#view-tab-map");
+  assert.equal(await page.evaluate(() => document.activeElement?.id), "view-tab-map");
+  await page.click(".map-step-buttons button >> nth=1");
+  await page.click("text=试这块板");
+  await page.waitForSelector(".panel-plate");
+  await page.waitForFunction(() => document.activeElement?.id === "view");
+});
+
+test("A folder that the browser may not read is told; a dialog that is closed is not", async () => {
+  const pick = async (problem: string) => {
+    await page.evaluate((name) => {
+      Object.assign(window, { showDirectoryPicker: () => Promise.reject(new DOMException("no", name)) });
+    }, problem);
+    await page.click("text=打开文件夹");
+  };
+  await pick("AbortError");
+  await page.waitForTimeout(200);
+  assert.equal(await page.locator(".notice").count(), 0);
+  await pick("NotAllowedError");
+  await page.waitForSelector(".notice");
+  assert.match(await page.innerText(".notice"), /浏览器没有允许读取这个文件夹/);
+});
+
+test("A page whose file is damaged says so", async () => {
+  if (isServed) return;
+  const text = await readPage();
+  const place = '<script type="text/plain" id="plateconfig-page">';
+  const damaged = join(folder, "damaged.html");
+  writeFileSync(damaged, text.replace(place, `${place}AAAA`));
+  await page.goto(pathToFileURL(damaged).href);
+  await page.waitForSelector("p");
+  assert.match(await page.innerText("body"), /已损坏[\s\S]*is damaged/);
+});
+
+test("A file whose name is no Unicode does not keep the folder from being opened", async () => {
+  const copy = copied("标准");
+  // 板 as a Chinese Windows wrote it.
+  writeFileSync(
+    Buffer.concat([Buffer.from(`${copy}/`), Buffer.from([0xb0, 0xe5]), Buffer.from(".csv")]),
+    "1\r\n",
+  );
+  await open(copy);
+  assert.match(await counts(), /0 个错误/);
+});
+
+test("The last folder is offered again, and opens by itself where the browser still allows it", async () => {
+  await open(mistakes);
+  const second = await opened.context.newPage();
+  await second.goto(page.url());
+  await settled(second);
+  assert.equal(await second.innerText(".folder-name"), "带错误");
+  await second.close();
+  await page.close(); // Without a page that may read the folder the browser asks again.
+  page = await opened.context.newPage();
+  await page.goto(second.url());
+  await page.waitForSelector('button:has-text("再次打开“带错误”")');
 });

@@ -1,6 +1,8 @@
 /** What a process engineer does with a plate, the rule map, the sheet and the holes. */
 import assert from "node:assert/strict";
-import { readFileSync } from "node:fs";
+import { execFileSync } from "node:child_process";
+import { mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import type { Browser, Page } from "playwright-core";
@@ -128,9 +130,136 @@ test("A row that another one hides is hatched, and its blocker is named", async 
   const open = await opened("map", "带错误");
   const { page } = open;
   await page.click(".map-step-buttons button >> nth=1");
-  await page.waitForSelector(".map-picture rect[stroke-width='2.5'], .map-picture [stroke-width='2.5'] rect");
+  await page.waitForSelector(".map-picture path[stroke-width='2.5']");
   assert.match(await text(page, ".map-rows li:has-text('第 8 行')"), /全被第 6 行挡住/);
   assert.match(await text(page, ".map-readout"), /用第 6 行.*也符合但排在后面：第 8 行/);
+  await closePage(open);
+});
+
+/** The values at the left and at the lower end of what is in sight, as far as the marks tell. */
+async function firstMarks(page: Page): Promise<readonly [number, number]> {
+  const marks = async (anchor: string) => {
+    const texts = await page
+      .locator(`.map-picture g[aria-hidden] g text[text-anchor=${anchor}]`)
+      .allTextContents();
+    return Math.min(...texts.filter((each) => each !== "").map(Number));
+  };
+  return [await marks("middle"), await marks("end")];
+}
+
+test("A zoomed map goes to all four sides: by the mouse, by buttons and by keys", async () => {
+  const open = await opened("map");
+  const { page } = open;
+  await page.waitForSelector(".map-picture");
+  for (let i = 0; i < 4; ++i) await page.click("[aria-label=放大]");
+  const [left, low] = await firstMarks(page);
+  const box = (await page.locator(".map-picture").boundingBox())!;
+  const [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
+  const drag = async (dx: number, dy: number) => {
+    await page.mouse.move(x, y);
+    await page.mouse.down();
+    await page.mouse.move(x + dx, y + dy, { steps: 4 });
+    await page.mouse.up();
+    return firstMarks(page);
+  };
+  assert.ok((await drag(-350, 0))[0] > left, "to the right");
+  await drag(350, 0);
+  assert.ok((await drag(350, 0))[0] < left, "to the left");
+  await drag(-350, 0);
+  assert.ok((await drag(0, 200))[1] > low, "upwards");
+  await drag(0, -200);
+  assert.ok((await drag(0, -200))[1] < low, "downwards");
+  await drag(0, 200);
+  const [before, below] = await firstMarks(page);
+  await page.click("[aria-label=看右边]");
+  assert.ok((await firstMarks(page))[0] > before);
+  await page.click("[aria-label=看上边]");
+  assert.ok((await firstMarks(page))[1] > below);
+  await page.focus(".map-picture");
+  await page.keyboard.press("Control+ArrowLeft");
+  await page.keyboard.press("Control+ArrowDown");
+  assert.deepEqual(await firstMarks(page), [before, below]);
+  await page.click("text=全图");
+  assert.equal(await page.isEnabled("[aria-label=看右边]"), false);
+  await closePage(open);
+});
+
+test("A slider at its left end asks for plates that there may be", async () => {
+  const open = await opened("map");
+  const { page } = open;
+  await page.focus(".map-fixed >> nth=0 >> input[type=range]");
+  await page.keyboard.press("Home");
+  await page.waitForFunction(() => document.querySelector(".map-picture")?.textContent?.includes("厚度 1 "));
+  assert.equal(await page.inputValue(".map-fixed >> nth=0 >> input[type=number]"), "1");
+  assert.doesNotMatch(await page.innerText("main"), /没有给出结果/);
+  await closePage(open);
+});
+
+/** A folder with a rule table of its own. */
+function folderOf(rows: readonly string[]): string {
+  const folder = mkdtempSync(join(tmpdir(), "plateconfig-page-"));
+  const gbk = (text: string) => execFileSync("iconv", ["-f", "UTF-8", "-t", "GBK"], { input: text });
+  writeFileSync(join(folder, "tables.json"), '{"process-rules": "rules.csv"}');
+  const header = "模板所在图层,长度范围,宽度范围,下料";
+  writeFileSync(join(folder, "rules.csv"), gbk(`${[header, ...rows].join("\n")}\n`));
+  return folder;
+}
+
+test("A row of one size that another one hides is told to be hidden", async () => {
+  const folder = folderOf(["12,300_400,100_200,铣", "12,300_300,100_200,铣", "12,400_500,100_200,铣"]);
+  const open = await openPage(browser);
+  const { page } = open;
+  await drop(page, [folder]);
+  await settled(page);
+  await showView(page, "map");
+  await page.waitForSelector(".map-rows li");
+  const rows = await page.locator(".map-rows li").allInnerTexts();
+  assert.deepEqual(
+    rows.map((row) => /全被第 2 行挡住|部分被挡/.exec(row)?.[0]),
+    [undefined, "全被第 2 行挡住", undefined],
+  );
+  await closePage(open);
+  rmSync(folder, { recursive: true });
+});
+
+test("However many rows there are, the page has few elements, and paper has all rows", async () => {
+  const rows = Array.from({ length: 1500 }, (_, i) => `12,${i}_${i + 3},${(i * 7) % 400}_450,铣`);
+  const folder = folderOf(rows);
+  const open = await openPage(browser);
+  const { page } = open;
+  await drop(page, [folder]);
+  await settled(page);
+  await showView(page, "map");
+  await page.waitForSelector(".map-rows li");
+  assert.ok((await page.locator(".map-rows li").count()) < 100);
+  assert.ok((await page.locator(".map-picture *").count()) < 1500);
+  await page.emulateMedia({ media: "print" });
+  await page.waitForFunction(() => document.querySelectorAll(".map-rows li").length === 1500);
+  await closePage(open);
+  rmSync(folder, { recursive: true });
+});
+
+test("The map of changes spans any two sizes, and is saved", async () => {
+  const open = await opened("comparison");
+  const { page } = open;
+  await drop(page, [join(samples, "config", "精密模")], { x: 1100, y: 400 });
+  await settled(page);
+  await page.click("text=板的区域");
+  await page.waitForSelector(".region-map svg");
+  assert.match(await text(page, ".region-map figcaption"), /厚度 \d+、重量 \d+、体颜色 42 处的截面/);
+  await page.selectOption(".region-axes select >> nth=0", "thickness");
+  await page.waitForFunction(() =>
+    document.querySelector(".region-map figcaption")?.textContent?.includes("长度"),
+  );
+  await page.waitForFunction(() =>
+    document.querySelector(".region-map svg")?.textContent?.includes("厚度（mm）"),
+  );
+  await page.check(".region-axes input >> nth=0");
+  const [download] = await Promise.all([
+    page.waitForEvent("download"),
+    page.click(".region-map >> text=保存 SVG"),
+  ]);
+  assert.equal(download.suggestedFilename(), "变动图-thickness-width.svg");
   await closePage(open);
 });
 
@@ -222,5 +351,28 @@ test("A second folder's sheet stands beside, and what differs is marked", async 
   await page.waitForSelector("figure:nth-child(2) .sheet-picture");
   assert.deepEqual(await page.locator(".sheet-pictures figcaption").allInnerTexts(), ["标准", "精密模"]);
   await page.waitForSelector(".sheet-differs");
+  const titles = await page.locator(".picture-side h2").allInnerTexts();
+  assert.deepEqual(
+    titles.map((title) => title.replace(/\s*\d+$/, "")),
+    ["标准：图上的内容", "画图时的假定", "精密模：图上的内容", "画图时的假定"],
+  );
+  assert.equal(await page.locator(".sheet-unknown").count(), 2);
+  await closePage(open);
+});
+
+test("What has a size but no place is drawn at its size, and its settings are there to open", async () => {
+  const open = await opened("sheet");
+  const { page } = open;
+  // 基准圆的标准直径 is 10 in the layout defaults: ten millimetres and a rim of half a millimetre around them.
+  const circle = page.locator(".sheet-unknown > li", { hasText: "爆炸图基准圆" });
+  assert.match(await circle.innerText(), /⌀10 · 颜色 1 · 图层 210/);
+  assert.equal(await circle.locator("svg").getAttribute("width"), "11mm");
+  const box = await circle.locator("svg").boundingBox();
+  assert.ok(Math.abs((box?.width ?? 0) - (11 * 96) / 25.4) < 0.5, `${box?.width} pixels`);
+  // 图层间距 is 5000: no room for it.
+  const spacing = page.locator(".sheet-unknown > li", { hasText: "图层间距" }).first();
+  assert.equal(await spacing.locator("svg").getAttribute("width"), "71mm");
+  await circle.locator("button", { hasText: "基准圆的标准直径" }).click();
+  await page.waitForSelector('.panel-tables .cell.is-selected:has-text("10")');
   await closePage(open);
 });

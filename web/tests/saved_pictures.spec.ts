@@ -93,8 +93,8 @@ test("The steps of the map are drawn as they are kept: a hidden row, a gap, loga
     await settled(page);
     await assertIsKept(page, `map-step-${step}`);
   }
-  await page.check(".map-axis input >> nth=0");
-  await page.check(".map-axis input >> nth=1");
+  await page.check(".axis-choice input >> nth=0");
+  await page.check(".axis-choice input >> nth=1");
   await settled(page);
   await assertIsKept(page, "map-logarithmic");
   await closePage(open);

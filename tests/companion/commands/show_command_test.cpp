@@ -267,7 +267,7 @@ TEST_F(ShowCommand, AMissingTableIsReportedWithWhatTheLibraryDoes) {
   EXPECT_THAT(Show({"texts"}).err,
               HasSubstr("does not exist; every setting gets the value of an absent column"));
   EXPECT_THAT(Show({"bom"}).err,
-              HasSubstr("does not exist; the settings stay as the library's classes start"));
+              HasSubstr("does not exist; the settings stay as they were before the table was read"));
   EXPECT_EQ(Setting("texts", "加工说明文字")["source"], "absent column");
   EXPECT_EQ(Setting("bom", "密度(g/cm)")["source"], "class");
 }

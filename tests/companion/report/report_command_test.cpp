@@ -100,6 +100,9 @@ TEST_F(ReportCommand, IsNotWrittenWithoutAFileThatWasAskedFor) {
   const CompanionResult folder = Report({"--plates", Path("more"), "-o", Path("r.html")});
   EXPECT_EQ(folder.exitCode, 2);
   EXPECT_THAT(folder.err, HasSubstr("more: error: a report takes files alone\n"));
+  const CompanionResult stream = Report({"--plates", "-", "-o", Path("r.html")});
+  EXPECT_EQ(stream.exitCode, 2);
+  EXPECT_THAT(stream.err, HasSubstr("-: error: a report takes files alone\n"));
   const CompanionResult configuration = RunPlateconfig(
       {"report", "--page", Path("page.html"), "--config", Path("keine"), "-o", Path("r.html")});
   EXPECT_EQ(configuration.exitCode, 2);
@@ -119,11 +122,20 @@ TEST_F(ReportCommand, HoldsATableThatLiesElsewhereUnderThePathThatLeadsThere) {
   EXPECT_EQ(data["files"][1]["base64"], "aA==");
 }
 
+TEST_F(ReportCommand, HoldsTheFoldersTablesWithoutAManifestToo) {
+  std::filesystem::remove(folder_.Path() / u8"标准/tables.json");
+  folder_.WriteBytes("标准/readme.txt", "text");
+  folder_.WriteTable("标准/b.csv", "b\n");
+  const CompanionResult result = Report({});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(PathsIn(DataIn(result.out)), testing::ElementsAre("标准/b.csv", "标准/图层.csv"));
+}
+
 TEST_F(ReportCommand, HoldsAManifestWithASecondEndingSinceTheCheckNamesIt) {
   std::filesystem::rename(folder_.Path() / u8"标准/tables.json", folder_.Path() / u8"标准/tables.json.txt");
   const CompanionResult result = Report({});
   EXPECT_EQ(result.exitCode, 1);
-  EXPECT_THAT(PathsIn(DataIn(result.out)), testing::ElementsAre("标准/tables.json.txt"));
+  EXPECT_THAT(PathsIn(DataIn(result.out)), testing::ElementsAre("标准/tables.json.txt", "标准/图层.csv"));
 }
 
 TEST_F(ReportCommand, SaysWhenItWasWritten) {
@@ -151,7 +163,7 @@ TEST_F(ReportCommand, IsRefusedForATextThatIsNotThePage) {
   folder_.WriteBytes("page.html", std::string(kBeforeData) + std::string(kBeforeData));
   EXPECT_EQ(Report({}).exitCode, 2);
   std::filesystem::remove(folder_.Path() / "page.html");
-  EXPECT_THAT(Report({}).err, HasSubstr("page.html: error: reading this file failed\n"));
+  EXPECT_THAT(Report({}).err, HasSubstr("page.html: error: there is no such file\n"));
 }
 
 TEST_F(ReportCommand, TakesTheProgramsOwnPageWhenNoOtherIsGiven) {
@@ -161,6 +173,19 @@ TEST_F(ReportCommand, TakesTheProgramsOwnPageWhenNoOtherIsGiven) {
   const std::string page = RunPlateconfig({"report", "--config", Path("标准")}).out;
   EXPECT_THAT(page, StartsWith(standIn.substr(0, standIn.find("plateconfig-data"))));
   EXPECT_THAT(page, HasSubstr(R"("path":"\u6807\u51c6/tables.json")"));
+}
+
+TEST_F(ReportCommand, SaysWhyItsFileCanNotBeWritten) {
+  const CompanionResult result = Report({"-o", Path("nowhere/r.html")});
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_THAT(result.err,
+              HasSubstr("r.html: error: this file can not be written: its folder does not exist\n"));
+}
+
+TEST_F(ReportCommand, SpeaksOfThePageAloneInItsHelp) {
+  const std::string help = RunPlateconfig({"help", "report"}).out;
+  EXPECT_THAT(help, HasSubstr("write the page to this file"));
+  EXPECT_THAT(help, Not(HasSubstr(".csv")));
 }
 
 TEST_F(ReportCommand, OpensNothingWithoutAFile) {

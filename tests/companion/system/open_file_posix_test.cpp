@@ -10,11 +10,12 @@
 namespace plateconfig {
 namespace {
 
-/// A system whose one program writes down what it shall open.
+/// A system whose one program talks, and writes down what it shall open.
 class OpenFile : public testing::Test {
  protected:
   void MakeProgram() const {
-    folder_.WriteBytes("xdg-open", "#!/bin/sh\nprintf %s \"$*\" > \"${0%/*}/opened\"\n");
+    folder_.WriteBytes("xdg-open",
+                       "#!/bin/sh\necho talk\necho talk >&2\nprintf %s \"$*\" > \"${0%/*}/opened\"\n");
     std::filesystem::permissions(folder_.Path() / "xdg-open", std::filesystem::perms::owner_all);
   }
 
@@ -28,6 +29,16 @@ TEST_F(OpenFile, GivesTheWholePathToTheSystemsProgram) {
   wait(nullptr);  // The program goes on by itself.
   EXPECT_EQ(test::ReadBytes(folder_.Path() / "opened"),
             (std::filesystem::current_path() / "-report.html").string());
+}
+
+TEST_F(OpenFile, LeavesTheTerminalToThePrompt) {
+  MakeProgram();
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  OpenWithItsProgram("report.html");
+  wait(nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(OpenFile, TellsWhenThereIsNoSuchProgram) {
@@ -48,12 +59,14 @@ TEST_F(OpenFile, AReportIsWrittenAndOpenedOrSaysThatItWasNot) {
                                               "--force",
                                               "--open"};
   const auto unopened = test::RunPlateconfig(arguments);
-  EXPECT_EQ(unopened.exitCode, 1);
   EXPECT_NE(unopened.err.find("warning: the system found no program to open this file"), std::string::npos);
   EXPECT_TRUE(std::filesystem::exists(report));
   MakeProgram();
-  EXPECT_EQ(test::RunPlateconfig(arguments).err, "");
+  const auto opened = test::RunPlateconfig(arguments);
   wait(nullptr);
+  EXPECT_EQ(opened.err, "");
+  EXPECT_EQ(unopened.exitCode, opened.exitCode);
+  EXPECT_EQ(opened.exitCode, test::RunPlateconfig({"check", "--config", configuration.Path()}).exitCode);
   EXPECT_EQ(test::ReadBytes(folder_.Path() / "opened"), report);
 }
 

@@ -145,6 +145,10 @@ void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles) {
   command.footer(Say("Roles: {}", "用途：{}", Listed(roles)) + "\n\n" + command.get_footer());
 }
 
+std::string OptionOf(Role role) {
+  return "--" + std::string(NameOf(role));
+}
+
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options) {
   command
@@ -157,7 +161,7 @@ void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
     const auto take = [&options, role](const std::string& file) { options.tables[role] = file; };
     command
         .add_option_function<std::string>(
-            "--" + std::string(NameOf(role)), take,
+            OptionOf(role), take,
             Say("this table instead of the configuration's own", "用此表代替配置中的表"))
         ->check(NotEmpty())
         ->type_name(Say("FILE", "文件"));
@@ -184,12 +188,12 @@ void AddFailOn(CLI::App& command, Severity& severity) {
       ->type_name("error|warning|hint");
 }
 
-Run WithOutput(CLI::App& command, Run run) {
+Run WithOutput(CLI::App& command, Run run, const std::string& help) {
   const auto options = std::make_shared<OutputOptions>();
-  command
-      .add_option("-o,--output", options->file,
-                  Say("write the result to this file; its ending .csv or .json says the form (CSV: in GBK)",
-                      "将结果写入此文件；扩展名 .csv、.json 决定格式（CSV 为 GBK 编码）"))
+  const std::string usual =
+      Say("write the result to this file; its ending .csv or .json says the form (CSV: in GBK)",
+          "将结果写入此文件；扩展名 .csv、.json 决定格式（CSV 为 GBK 编码）");
+  command.add_option("-o,--output", options->file, help.empty() ? usual : help)
       ->check(NotEmpty())
       ->type_name(Say("FILE", "文件"));
   command.add_flag("--force", options->force, Say("replace a file that exists", "覆盖已有文件"));

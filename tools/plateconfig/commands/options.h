@@ -30,6 +30,9 @@ std::vector<Role> AllRoles();
 /// Lists the roles that a verb takes below its options.
 void AddRolesToHelp(CLI::App& command, const std::vector<std::string>& roles);
 
+/// The option that names the table of a role: --process-rules.
+std::string OptionOf(Role role);
+
 /// --config DIR, and --ROLE FILE for each of the roles that the verb reads.
 void AddConfigurationOptions(CLI::App& command, const std::vector<Role>& roles,
                              ConfigurationOptions& options);
@@ -42,8 +45,8 @@ void AddFailOn(CLI::App& command, Severity& severity);
 
 /// Adds -o and --force: what `run` writes goes into the file, as CSV in GBK. Nothing is written when a text
 /// of it has no form in GBK, when there is an error and no result, or when the file is one that the command
-/// reads.
-Run WithOutput(CLI::App& command, Run run);
+/// reads. `help` tells of -o, where the file's ending says nothing about the form.
+Run WithOutput(CLI::App& command, Run run, const std::string& help = {});
 
 /// The options of a verb that evaluates plates.
 void AddPlateOptions(CLI::App& command, PlateJob& job);

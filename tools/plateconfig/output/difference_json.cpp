@@ -2,6 +2,7 @@
 
 #include "analysis/checks/rule_values.h"
 #include "plateconfig/output/findings_json.h"
+#include "plateconfig/output/json_output.h"
 #include "plateconfig/output/setting_value.h"
 #include "text/gbk.h"
 
@@ -9,10 +10,6 @@ namespace plateconfig {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json OrNull(const std::optional<int>& row) {
-  return row ? Json(*row) : Json(nullptr);
-}
 
 Json ToJson(const SettingDifference& difference) {
   return {{"role", NameOf(difference.role)},

@@ -2,6 +2,7 @@
 
 #include "analysis/findings/sentence.h"
 #include "analysis/schema/role.h"
+#include "plateconfig/output/json_output.h"
 
 namespace plateconfig {
 namespace {
@@ -10,10 +11,6 @@ using Json = nlohmann::ordered_json;
 
 Json OrNull(const std::string& text) {
   return text.empty() ? Json(nullptr) : Json(text);
-}
-
-Json OrNull(const std::optional<std::string>& text) {
-  return text ? Json(*text) : Json(nullptr);
 }
 
 Json OrNull(std::size_t number) {

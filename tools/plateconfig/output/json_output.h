@@ -1,11 +1,18 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
 
 namespace plateconfig {
+
+/// What is not there is null.
+template <typename Value>
+nlohmann::ordered_json OrNull(const std::optional<Value>& value) {
+  return value ? nlohmann::ordered_json(*value) : nlohmann::ordered_json(nullptr);
+}
 
 /// Writes a JSON array element by element, one a line, so that a long one needs no memory.
 class JsonArray {

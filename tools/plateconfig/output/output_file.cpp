@@ -57,7 +57,12 @@ bool MayBeWritten(const std::string& path, IfPresent ifPresent, Reporter& report
 }
 
 bool CanNotBeWritten(const std::string& path, Reporter& reporter) {
-  reporter.Error({path}, Say("this file can not be written", "无法写入此文件"));
+  const fs::path folder = PathFromUtf8(path).parent_path();
+  std::error_code error;
+  reporter.Error({path}, folder.empty() || fs::is_directory(folder, error)
+                             ? Say("this file can not be written", "无法写入此文件")
+                             : Say("this file can not be written: its folder does not exist",
+                                   "无法写入此文件：它所在的文件夹不存在"));
   return false;
 }
 

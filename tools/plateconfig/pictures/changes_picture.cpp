@@ -15,10 +15,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json OrNull(const std::optional<int>& row) {
-  return row ? Json(*row) : Json(nullptr);
-}
-
 Json ToJson(const ChangedGroup& group, bool answersAgree) {
   Json json = ToJson(GroupValue(group.group, answersAgree));
   json["example"] = ToJson(WitnessValue(group.example));

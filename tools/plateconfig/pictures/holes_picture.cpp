@@ -14,10 +14,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json OrNull(const std::optional<double>& value) {
-  return value ? Json(*value) : Json(nullptr);
-}
-
 Json ToJson(const SectionPiece& piece) {
   return {{"group", kHoleGroupNames[piece.group].json},
           {"shape", "cylinder"},

@@ -14,7 +14,7 @@
 namespace plateconfig {
 
 struct PictureJob {
-  std::string kind;                ///< One of `kPictureKinds`.
+  std::string kind;                ///< One of `picture_kinds`.
   std::vector<std::string> files;  ///< Of cells the table, of changes the folders, of holes the holes.
   ConfigurationOptions configuration;
   std::string x;  ///< Names of sizes.
@@ -38,6 +38,13 @@ inline constexpr const char* kHoles = "holes";
 inline constexpr const char* kSheet = "sheet";
 
 }  // namespace picture_kinds
+
+namespace sheet_sizes {
+
+inline constexpr const char* kSmall = "small";
+inline constexpr const char* kLarge = "large";
+
+}  // namespace sheet_sizes
 
 /// Values such as 50_800: an interval of finite numbers from 0 on that is more than one number.
 std::optional<Interval> RangeOf(std::string_view text);

@@ -1,6 +1,5 @@
 // The drawing sheets: see analysis/pictures/drawing_sheets.h for what is told of them.
 
-#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "analysis/pictures/drawing_sheets.h"
@@ -15,10 +14,6 @@ namespace plateconfig {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json OrNull(const std::optional<int>& value) {
-  return value ? Json(*value) : Json(nullptr);
-}
 
 /// A text that is empty says nothing.
 Json TextOrNull(const std::string& utf8) {
@@ -131,7 +126,7 @@ Json ToJson(const DrawingSheets& drawn, const SheetQuestion& question, bool isPa
   for (const Sheet& sheet : drawn.sheets) sheets.push_back(ToJson(sheet, question.paper));
   return {{"paper",
            {{"width", question.paper.width}, {"height", question.paper.height}, {"given", isPaperGiven}}},
-          {"size", question.size == SheetSize::kLarge ? "large" : "small"},
+          {"size", question.size == SheetSize::kLarge ? sheet_sizes::kLarge : sheet_sizes::kSmall},
           {"assumed", assumed},
           {"sheets", sheets}};
 }
@@ -162,7 +157,7 @@ void WriteSheet(const PictureJob& job, const Streams& streams, Reporter& reporte
   SheetQuestion question;
   const auto paper = PaperSizeOf(job.paper);
   question.paper = paper.value_or(question.paper);
-  if (job.sheetSize == "small") question.size = SheetSize::kSmall;
+  if (job.sheetSize == sheet_sizes::kSmall) question.size = SheetSize::kSmall;
   const DrawingSheets drawn = DrawSheets(TablesOf(configuration, reporter), question);
   streams.out << JsonArray::ToText(ToJson(drawn, question, paper.has_value())) << "\n";
 }

@@ -63,20 +63,36 @@ class Reading {
     if (folder.empty()) return;
     data_.name = Utf8(fs::absolute(PathFromUtf8(folder)).lexically_normal().parent_path().filename());
     if (data_.name.empty()) data_.name = "config";
-    AddManifest(folder);
+    if (!AddManifest(folder)) AddTablesOf(folder);
     for (const RoleRow& role : ManifestRoles()) {
       if (const auto table = configuration.FindOptional(role.role)) AddTable(*table, folder);
     }
   }
 
-  /// Under the name that it has: with a second ending it is no manifest, which is a finding.
-  void AddManifest(const std::string& folder) {
+  /// False when there is none. One with a second ending is put in too, under the name that it has, since the
+  /// check names it.
+  bool AddManifest(const std::string& folder) {
     const std::string manifest = ManifestIn(folder);
-    for (const std::string& file : {manifest, manifest + ".txt"}) {
-      auto bytes = ReadAllBytes(PathFromUtf8(file));
-      if (!bytes) continue;
-      return Add({data_.name + "/" + file.substr(folder.size()), std::move(*bytes), {}});
+    return AddFile(manifest, folder) || (AddFile(manifest + ".txt", folder), false);
+  }
+
+  /// Without a manifest nobody knows the tables' roles; the page helps to find them.
+  void AddTablesOf(const std::string& folder) {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(PathFromUtf8(folder), error)) {
+      if (entry.path().extension() == ".csv") names.push_back(Utf8(entry.path().filename()));
     }
+    std::sort(names.begin(), names.end());
+    for (const std::string& name : names) AddFile(folder + name, folder);
+  }
+
+  /// False when it can not be read.
+  bool AddFile(const std::string& file, const std::string& folder) {
+    auto bytes = ReadAllBytes(PathFromUtf8(file));
+    if (!bytes) return false;
+    Add({data_.name + "/" + file.substr(folder.size()), std::move(*bytes), {}});
+    return true;
   }
 
   /// One that lies elsewhere has a path like 标准/../shared/x.csv, which leads there in the page too.
@@ -96,8 +112,9 @@ class Reading {
     const fs::path path = PathFromUtf8(file);
     std::error_code error;
     if (!fs::is_regular_file(path, error)) {
-      reporter_.Error({file}, fs::exists(path, error) ? Say("a report takes files alone", "报告只接受文件")
-                                                      : Say("there is no such file", "此文件不存在"));
+      const bool isOther = file == "-" || fs::exists(path, error);
+      reporter_.Error({file}, isOther ? Say("a report takes files alone", "报告只接受文件")
+                                      : Say("there is no such file", "此文件不存在"));
       return false;
     }
     auto bytes = ReadAllBytes(path);

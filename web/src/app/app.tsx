@@ -12,7 +12,7 @@ import { RuleMap } from "../views/map/map";
 import { Sheet } from "../views/sheet/sheet";
 import { TryPlate } from "../views/plate/plate";
 import { kPageWords } from "../words/page";
-import { browserLanguage, type Language, sayIn } from "../words/say";
+import { browserLanguage, type Language } from "../words/say";
 import { type Answer, useAnswer } from "./answer";
 import { checkArguments } from "./check_arguments";
 import { DropZone } from "./drop_zone";
@@ -28,6 +28,7 @@ import {
   type App,
   type CellPlace,
   filesOf,
+  useApp,
   useSay,
   type ViewName,
   type Workspace,
@@ -76,10 +77,14 @@ function useCheck(engine: Engine, workspace: Workspace | undefined, language: La
     [workspace, language],
   );
   const answer = useAnswer<CheckReport>(engine, args, files);
-  const checked = useRef<string | undefined>(undefined);
-  if (answer.state === "done") checked.current = workspace?.name;
-  if (answer.state !== "running" || checked.current === workspace?.name) return answer;
-  return { state: "running", ...(answer.stop && { stop: answer.stop }) };
+  // A folder that was just opened is drawn once before its check begins: the answer is still that of the one before.
+  const checked = useRef<{ readonly value: CheckReport; readonly opened: string | undefined } | undefined>(
+    undefined,
+  );
+  if (answer.state === "done" && answer.value !== checked.current?.value)
+    checked.current = { value: answer.value, opened: workspace?.opened };
+  if (answer.value === undefined || checked.current?.opened === workspace?.opened) return answer;
+  return { state: "running", ...("stop" in answer && answer.stop && { stop: answer.stop }) };
 }
 
 /** Where the reader is: the view, and what other views sent it there for. */
@@ -112,12 +117,25 @@ function useAgainKey(opening: Opening): void {
   }, [isOpen, opening.again]);
 }
 
-/** A report has its files inside. */
-function useReport(open: Opening["open"]): void {
+/** A report has its files inside. True in one: nothing else opens by itself there. */
+function useReport(open: Opening["open"]): boolean {
+  const source = useMemo(reportSource, []);
   useEffect(() => {
-    const source = reportSource();
     if (source !== undefined) open([source], "config");
-  }, [open]);
+  }, [open, source]);
+  return source !== undefined;
+}
+
+function Footer() {
+  const { workspace, language } = useApp();
+  const say = useSay();
+  const written = workspace?.written?.toLocaleString(language, { dateStyle: "long", timeStyle: "short" });
+  return (
+    <footer class="footer">
+      {written !== undefined && <strong>{say(kPageWords.written, written)} </strong>}
+      {say(kPageWords.local)}
+    </footer>
+  );
 }
 
 function Notice({ opening }: { opening: Opening }) {
@@ -146,12 +164,19 @@ function useTabs(app: App): readonly Tab<ViewName>[] {
 function Views({ app }: { app: App }) {
   const say = useSay();
   const tabs = useTabs(app);
+  const panel = useRef<HTMLDivElement>(null);
+  // What sent the reader to another view is gone with the view that it stood in, and the focus with it.
+  useEffect(() => {
+    if (document.activeElement === document.body) panel.current?.focus({ preventScroll: true });
+  }, [app.view]);
   const View = kViews.find(({ name }) => name === app.view)?.view ?? Findings;
   return (
     <main class="view">
       <Tabs label={say(kPageWords.views)} tabs={tabs} chosen={app.view} panel="view" choose={app.show} />
       <div
         id="view"
+        ref={panel}
+        tabIndex={-1}
         class={`panel panel-${app.view}`}
         role="tabpanel"
         aria-labelledby={tabId("view", app.view)}
@@ -169,12 +194,22 @@ export function Page({ engine }: { engine: Engine }) {
   const check = useCheck(engine, workspace, language);
   const place = usePlace();
   useAgainKey(opening);
-  useReport(opening.open);
+  const isReport = useReport(opening.open);
   useUnfoldedOnPaper();
-  const { addFile, addedFile } = opening;
+  const { addFile, addedFile, tell } = opening;
   const openSecond = <OpenSecond opening={opening} />;
-  const app: App = { engine, language, workspace, other, check, addFile, addedFile, openSecond, ...place };
-  const say = sayIn(language);
+  const app: App = {
+    engine,
+    language,
+    workspace,
+    other,
+    check,
+    addFile,
+    addedFile,
+    openSecond,
+    tell,
+    ...place,
+  };
   useEffect(() => {
     document.title = workspace === undefined ? "plateconfig" : `${workspace.name} - plateconfig`;
   }, [workspace]);
@@ -183,13 +218,11 @@ export function Page({ engine }: { engine: Engine }) {
       <Header opening={opening} language={language} speak={speak} />
       <Notice opening={opening} />
       {workspace === undefined ? (
-        <main class="view">
-          <Start opening={opening} />
-        </main>
+        <main class="view">{!isReport && <Start opening={opening} />}</main>
       ) : (
         <Views app={app} />
       )}
-      <footer class="footer">{say(kPageWords.local)}</footer>
+      <Footer />
       <DropZone opening={opening} isOpen={workspace !== undefined} />
     </AppContext.Provider>
   );

@@ -8,7 +8,7 @@ export function checkArguments(
   language: Language,
   format: "json" | "csv",
 ): readonly string[] {
-  const plates = workspace.plates === undefined ? [] : ["--plates", workspace.plates.path];
-  const types = workspace.holeTypes === undefined ? [] : ["--types", workspace.holeTypes.path];
+  const plates = workspace.plates.flatMap(({ path }) => ["--plates", path]);
+  const types = workspace.holeTypes.flatMap(({ path }) => ["--types", path]);
   return ["check", "--config", workspace.folder, ...plates, ...types, "--format", format, "--lang", language];
 }

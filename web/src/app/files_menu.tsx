@@ -2,7 +2,7 @@
 
 import { kOpenWords } from "../words/open";
 import type { Entry } from "./open/source";
-import { chosenOf, kUses, type Use } from "./open/uses";
+import { kUses, type Use } from "./open/uses";
 import type { Opening } from "./open/use_opening";
 import { filesBeside, filesIn, nameOf } from "./open/workspaces";
 import { Menu } from "./parts/menu";
@@ -41,11 +41,7 @@ export function FilesMenu({ opening }: { opening: Opening }) {
   const opened = opening.sides.config;
   if (opened === undefined) return null;
   const tables = new Set(filesIn(opened.entries, opened.folder).map(({ path }) => path));
-  const shownAs = (path: string): Shown => {
-    const use = opened.uses.get(path);
-    if (use !== undefined && chosenOf(opened.uses, use) === path) return use;
-    return tables.has(path) && use === undefined ? "table" : "unused";
-  };
+  const shownAs = (path: string): Shown => opened.uses.get(path) ?? (tables.has(path) ? "table" : "unused");
   const files = filesBeside(opened.entries, opened.folder).filter(
     ({ path }) => !/^tables\.json/i.test(nameOf(path)),
   );

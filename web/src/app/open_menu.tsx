@@ -8,13 +8,14 @@ import { configurationFolders, nameOf } from "./open/workspaces";
 import { Menu } from "./parts/menu";
 import { useSay } from "./state";
 
-/** Undefined when the user thinks better of it, or when the browser has no such dialog. */
-async function pickedFolder(): Promise<Source | undefined> {
+/** None when the user thinks better of it, or when the browser has no such dialog. */
+async function pickedFolders(): Promise<readonly Source[]> {
   try {
     const handle = await window.showDirectoryPicker?.({ id: "plateconfig", mode: "read" });
-    return handle && folderSource(handle);
-  } catch {
-    return undefined;
+    return handle === undefined ? [] : [folderSource(handle)];
+  } catch (error) {
+    if (error instanceof DOMException && error.name === "AbortError") return [];
+    throw error;
   }
 }
 
@@ -31,7 +32,10 @@ export function PickButton({ opening, side, label, isFolder, isMain = false }: P
   const input = useRef<HTMLInputElement>(null);
   const pick = () => {
     if (!isFolder || window.showDirectoryPicker === undefined) return input.current?.click();
-    return void pickedFolder().then((source) => source && opening.open([source], side));
+    return void pickedFolders().then(
+      (sources) => sources.length > 0 && opening.open(sources, side),
+      opening.tell,
+    );
   };
   return (
     <>

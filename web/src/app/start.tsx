@@ -15,18 +15,25 @@ function LastFolder({ opening }: { opening: Opening }) {
   const [last, setLast] = useState<FileSystemDirectoryHandle | undefined>();
   const { open } = opening;
   useEffect(() => {
+    let isWanted = true;
     void rememberedFolder().then(async (handle) => {
       if (handle === undefined) return;
-      if (await mayRead(handle, false)) open([folderSource(handle)], "config");
+      const isAllowed = await mayRead(handle, false);
+      if (!isWanted) return; // Something else was opened meanwhile.
+      if (isAllowed) open([folderSource(handle)], "config");
       else setLast(handle);
     });
+    return () => {
+      isWanted = false;
+    };
   }, [open]);
   if (last === undefined) return null;
   const openLast = async () => {
     if (await mayRead(last, true)) open([folderSource(last)], "config");
+    else opening.tell(new DOMException("", "NotAllowedError"));
   };
   return (
-    <button type="button" onClick={() => void openLast()}>
+    <button type="button" onClick={() => void openLast().catch(opening.tell)}>
       {say(kOpenWords.last, last.name)}
     </button>
   );

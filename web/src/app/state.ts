@@ -16,10 +16,14 @@ export interface Workspace {
   readonly folder: "config" | "other";
   /** What lies in the folder: paths begin with `folder` and a slash. */
   readonly files: readonly InputFile[];
-  /** In the engine's working folder, under its own name: take `plates.path` for the command line. */
-  readonly plates?: InputFile;
-  readonly holes?: InputFile;
-  readonly holeTypes?: InputFile;
+  /** Beside the folder: paths begin with `plates/`, `holes/` or `hole-types/`; all of them go on the command line. */
+  readonly plates: readonly InputFile[];
+  readonly holes: readonly InputFile[];
+  readonly holeTypes: readonly InputFile[];
+  /** The same as long as it is the same folder, however often it is read again. */
+  readonly opened: string;
+  /** Of a report: when it was written. */
+  readonly written?: Date;
   /** Grows whenever anything of it is read again. */
   readonly revision: number;
 }
@@ -58,6 +62,8 @@ export interface App {
   readonly openSecond: ComponentChildren;
   /** Puts a file that the program wrote into the workspace; the disk stays as it is. */
   addFile(name: string, bytes: Uint8Array): void;
+  /** Says above the page what went wrong with something that no view waits for. */
+  tell(error: unknown): void;
   /** The file that was added so, until the folder is read again. */
   readonly addedFile: string | undefined;
 }
@@ -76,11 +82,15 @@ export function useSay(): Say {
   return useMemo(() => sayIn(language), [language]);
 }
 
+/** What is looked at beside the folder. */
+export function filesBeside({ plates, holes, holeTypes }: Workspace): readonly InputFile[] {
+  return [...plates, ...holes, ...holeTypes];
+}
+
 /** All files that a run on this workspace may read. */
 export function filesOf(workspace: Workspace | undefined): readonly InputFile[] {
   if (workspace === undefined) return [];
-  const beside = [workspace.plates, workspace.holes, workspace.holeTypes];
-  return [...workspace.files, ...beside.filter((file) => file !== undefined)];
+  return [...workspace.files, ...filesBeside(workspace)];
 }
 
 /** A file's path as people know it: without the engine's folder. */

@@ -1,4 +1,4 @@
-import { useSay } from "../app/state";
+import { useApp, useSay } from "../app/state";
 import { kDrawingWords } from "../words/drawing";
 import "../app/parts/common.css";
 import { savePng, saveSvg } from "./save";
@@ -12,9 +12,10 @@ interface SaveButtonsProps {
 /** Saves a picture. */
 export function SaveButtons({ name, picture }: SaveButtonsProps) {
   const say = useSay();
+  const { tell } = useApp();
   const save = (into: typeof saveSvg | typeof savePng) => {
     const svg = picture();
-    if (svg !== null) void into(svg, name);
+    if (svg !== null) Promise.resolve(into(svg, name)).catch(tell);
   };
   return (
     <span class="save-buttons">

@@ -39,9 +39,17 @@ export function within(box: ViewBox, whole: ViewBox): ViewBox {
   };
 }
 
+/** Moved by shares of itself; never out of the whole. */
+export function movedBox(box: ViewBox, whole: ViewBox, right: number, down: number): ViewBox {
+  return within({ ...box, x: box.x + right * box.width, y: box.y + down * box.height }, whole);
+}
+
 export interface Zoomable {
   readonly box: ViewBox;
+  readonly isZoomed: boolean;
   zoomBy(factor: number): void;
+  /** By shares of what is in sight. */
+  moveBy(right: number, down: number): void;
   reset(): void;
   readonly latest: Latest;
   setBox(box: ViewBox): void;
@@ -77,7 +85,13 @@ export function useViewBox(whole: ViewBox): Zoomable {
     setBox(zoomedBox(now, all, factor, now.x + now.width / 2, now.y + now.height / 2));
   }, []);
 
-  return { box, zoomBy, reset: () => setBox(whole), latest, setBox };
+  const moveBy = useCallback((right: number, down: number) => {
+    const { box: now, whole: all } = latest.current;
+    setBox(movedBox(now, all, right, down));
+  }, []);
+
+  const isZoomed = box.width < whole.width || box.height < whole.height;
+  return { box, isZoomed, zoomBy, moveBy, reset: () => setBox(whole), latest, setBox };
 }
 
 /** Makes a picture follow the wheel and dragging. */

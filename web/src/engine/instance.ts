@@ -91,11 +91,22 @@ export class Instance {
     FS.mkdirTree(folder);
     FS.chdir(folder);
     for (const file of files) {
-      const path = `${folder}/${file.path}`;
-      FS.mkdirTree(path.slice(0, path.lastIndexOf("/")));
+      const path = this.placeOf(folder, file.path);
       FS.writeFile(path, file.bytes, { canOwn: true });
       FS.utime(path, 0, 0);
     }
+  }
+
+  /** Makes the folders of a path; one like config/../shared/x.csv leads out of a folder that is there then. */
+  private placeOf(folder: string, path: string): string {
+    const parts = path.split("/");
+    const name = parts.pop();
+    let at = folder;
+    for (const part of parts) {
+      at = part === ".." ? at.slice(0, Math.max(0, at.lastIndexOf("/"))) : `${at}/${part}`;
+      if (part !== "..") this.started.FS.mkdirTree(at);
+    }
+    return `${at}/${name}`;
   }
 
   /** The files below a folder that have another time than those that were given; paths from the working folder on. */

@@ -6,10 +6,10 @@
 import { fromBase64 } from "./base64";
 import type { Engine, InputFile, Run } from "./engine";
 import { EngineError } from "./engine_error";
+import { kMostBytes } from "./limits";
 import { Places } from "./places";
 import type { Answer, Order, Prepare } from "./worker";
 
-const mostBytes = 2 ** 30;
 const mostWorkers = 4;
 
 const textOf = (id: string) => document.getElementById(id)?.textContent ?? "";
@@ -42,14 +42,33 @@ function asText(answer: Answer): Run {
   return { code, out: decoder.decode(out), err: decoder.decode(err), written };
 }
 
+/** A worker, and what is heard of it should it fail: that may be long before it has an order. */
+interface Hand {
+  readonly worker: Worker;
+  readonly failure: Promise<never>;
+}
+
+function newHand(script: string, module: WebAssembly.Module): Hand {
+  const worker = new Worker(script);
+  const failure = new Promise<never>((_, failed) => {
+    worker.onerror = (event) => {
+      event.preventDefault();
+      failed(new EngineError("broken", event.message));
+    };
+  });
+  failure.catch(() => undefined); // Each run tells it.
+  worker.postMessage({ module } satisfies Prepare);
+  return { worker, failure };
+}
+
 /** What a worker answers to its order; it is ended then, or when the run is cancelled. */
-function answerOf(worker: Worker, order: Order, signal?: AbortSignal): Promise<Answer> {
-  return new Promise<Answer>((done, failed) => {
+function answerOf({ worker, failure }: Hand, order: Order, signal?: AbortSignal): Promise<Answer> {
+  const answer = new Promise<Answer>((done, failed) => {
     worker.onmessage = (event: MessageEvent<Answer>) => done(event.data);
-    worker.onerror = (event) => failed(new EngineError("broken", event.message));
     signal?.addEventListener("abort", () => failed(signal.reason), { once: true });
     worker.postMessage(order);
-  }).finally(() => worker.terminate());
+  });
+  return Promise.race([answer, failure]).finally(() => worker.terminate());
 }
 
 export class WasmEngine implements Engine {
@@ -60,11 +79,11 @@ export class WasmEngine implements Engine {
   private readonly places = new Places(
     Math.min(mostWorkers, Math.max(1, (navigator.hardwareConcurrency ?? 2) - 1)),
   );
-  private spare: Worker | undefined;
+  private spare: Hand | undefined;
 
   constructor() {
     this.module.then(
-      (module) => (this.spare ??= this.newWorker(module)),
+      (module) => this.prepare(module),
       () => undefined, // Each run tells it.
     );
   }
@@ -72,23 +91,27 @@ export class WasmEngine implements Engine {
   async run(args: readonly string[], files: readonly InputFile[], signal?: AbortSignal): Promise<Run> {
     signal?.throwIfAborted();
     const size = files.reduce((sum, file) => sum + file.bytes.length, 0);
-    if (size > mostBytes) throw new EngineError("tooLarge", `${size} bytes`);
+    if (size > kMostBytes) throw new EngineError("tooLarge", `${size} bytes`);
     const module = await this.module;
     return this.places.within(async () => {
       signal?.throwIfAborted();
-      const worker = this.spare ?? this.newWorker(module);
+      const hand = this.spare ?? newHand(this.script, module);
       this.spare = undefined;
       try {
-        return asText(await answerOf(worker, { args, files }, signal));
+        return asText(await answerOf(hand, { args, files }, signal));
       } finally {
-        this.spare ??= this.newWorker(module); // Not sooner: it would take time from this run.
+        this.prepare(module); // Not sooner: it would take time from this run.
       }
     });
   }
 
-  private newWorker(module: WebAssembly.Module): Worker {
-    const worker = new Worker(this.script);
-    worker.postMessage({ module } satisfies Prepare);
-    return worker;
+  /** A worker that fails before anybody needs it is as good as none. */
+  private prepare(module: WebAssembly.Module): void {
+    if (this.spare !== undefined) return;
+    const hand = newHand(this.script, module);
+    this.spare = hand;
+    hand.failure.catch(() => {
+      if (this.spare === hand) this.spare = undefined;
+    });
   }
 }

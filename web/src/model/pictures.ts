@@ -28,6 +28,10 @@ export interface Region {
   readonly matches: readonly Area[];
   readonly wins: readonly Area[];
   readonly hidden: readonly HiddenArea[];
+  /** The rows of `hidden` that take something worth telling. */
+  readonly hiddenBy: readonly number[];
+  /** Rows above that are seen to win beside it. */
+  readonly neighbours: readonly number[];
 }
 
 /** Whether the plate's faces have a profile colour and a wire-cutting colour. */
@@ -46,6 +50,7 @@ export interface SizeStory {
   readonly hull: Bounds | null;
   readonly shown: readonly [number, number];
   readonly bounds: readonly number[];
+  readonly slider: { readonly from: number; readonly to: number; readonly step: number };
 }
 
 export interface RuleMapPicture {
@@ -163,14 +168,13 @@ export type Specimen = Look &
     | {
         readonly kind: "text";
         readonly text: string | null;
+        readonly attribute: string | null;
         readonly textHeight: number | null;
         readonly font: string | null;
       }
     | { readonly kind: "length"; readonly length: number }
     | { readonly kind: "rectangle"; readonly width: number; readonly height: number }
-    | { readonly kind: "angle"; readonly degrees: number }
     | { readonly kind: "line" }
-    | { readonly kind: "triangle" }
   );
 
 export interface UnknownPlace {

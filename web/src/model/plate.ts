@@ -13,7 +13,9 @@ export interface Plate {
   readonly customProcesses?: readonly string[];
 }
 
-export type SizeName = "length" | "width" | "thickness" | "weight";
+export const kSizes = ["length", "width", "thickness", "weight"] as const;
+
+export type SizeName = (typeof kSizes)[number];
 
 /** Least and greatest value, both included; null is without end. */
 export type Bounds = readonly [number, number | null];

@@ -1,7 +1,6 @@
 // Two folders, compared.
 
 import type { ChangedRow } from "../model/diff";
-import type { SizeName } from "../model/plate";
 import type { Text, TextOf } from "./say";
 
 export type ComparisonPart = "plates" | "rows" | "settings" | "regions" | "tables";
@@ -10,10 +9,6 @@ export const kComparisonWords = {
   openSecond: {
     zh: "要看改动前后的差别，请再打开一个配置文件夹：拖到窗口的右半边，或用下面的按钮。",
     en: "To see what an edit changes, open a second configuration folder: drop it on the right half of the window, or use the button.",
-  },
-  chooseOther: {
-    zh: "或者与同一文件夹里的另一个配置对比：",
-    en: "Or compare with another configuration of the same folder:",
   },
   comparing: { zh: "正在对比…", en: "Comparing…" },
   parts: {
@@ -39,7 +34,6 @@ export const kComparisonWords = {
   } satisfies TextOf<[number]>,
   row: { zh: (n: number) => `第 ${n} 行`, en: (n: number) => `row ${n}` },
   noRow: { zh: "没有符合的规则行", en: "no rule row fits" },
-  noText: { zh: "（没有文本）", en: "(no text)" },
   search: { zh: "搜索", en: "Search" },
   change: {
     added: { zh: "新增", en: "added" },
@@ -67,22 +61,15 @@ export const kComparisonWords = {
     no: { zh: "无线割", en: "no wire cutting" },
   },
   before: { zh: (text: string) => `原为${text}`, en: (text: string) => `was ${text}` },
-  sizes: {
-    length: { zh: "长度", en: "Length" },
-    width: { zh: "宽度", en: "Width" },
-    thickness: { zh: "厚度", en: "Thickness" },
-    weight: { zh: "重量", en: "Weight" },
-  } satisfies Record<SizeName, Text>,
   yes: { zh: "是", en: "yes" },
   no: { zh: "否", en: "no" },
   anySize: { zh: "不限", en: "any" },
   witness: { zh: "例如", en: "such as" },
   regionsMap: {
-    zh: (thickness: string, weight: string, color: number) =>
-      `受影响的板：厚度 ${thickness} mm、重量 ${weight}、体颜色 ${color} 处的截面`,
-    en: (thickness: string, weight: string, color: number) =>
-      `Affected plates, cut at thickness ${thickness} mm, weight ${weight}, body colour ${color}`,
-  } satisfies TextOf<[string, string, number]>,
+    zh: (sizes: string, color: number) => `受影响的板：${sizes}、体颜色 ${color} 处的截面`,
+    en: (sizes: string, color: number) => `Affected plates, cut at ${sizes}, body colour ${color}`,
+  } satisfies TextOf<[string, number]>,
+  mapName: { zh: "变动图", en: "Changes" },
   mapLegend: {
     zh: "方框内是旧行号→新行号，∅ 表示没有符合的规则行；十字是所选区域的例子。",
     en: "In the boxes: old row → new row, ∅ for no row that fits; the cross is the example of the chosen region.",

@@ -1,3 +1,5 @@
+import { kMostMegabytes } from "../engine/limits";
+
 /** What is said when the engine can not run. */
 export const engineWords = {
   webAssemblyOff: {
@@ -9,8 +11,12 @@ export const engineWords = {
     en: "This browser is too old for the page. Open it with an Edge or Chrome of the last three years.",
   },
   tooLarge: {
-    zh: "文件加起来超过 1 GB，本页放不下。请只打开需要的文件，或用命令行程序 plateconfig。",
-    en: "The files are more than 1 GB together, which the page has no room for. Open only those that are needed, or use the command plateconfig.",
+    zh: `文件加起来超过 ${kMostMegabytes} MB，本页放不下。请只打开需要的文件，或用命令行程序 plateconfig。`,
+    en: `The files are more than ${kMostMegabytes} MB together, which the page has no room for. Open only those that are needed, or use the command plateconfig.`,
+  },
+  pageDamaged: {
+    zh: "本页的文件不完整或已损坏，请重新获取。",
+    en: "This page's file is damaged or not complete. Get it once more.",
   },
   broken: {
     zh: "运算意外中断，可能是内存不足。请重新打开本页再试，或减少文件。",

@@ -4,13 +4,6 @@ import type { TextOf } from "./say";
 
 export const kMapWords = {
   map: { zh: "规则图", en: "Rule map" },
-  across: { zh: "横轴", en: "Across" },
-  upwards: { zh: "纵轴", en: "Upwards" },
-  log: { zh: "对数", en: "log" },
-  logX: { zh: "横轴用对数刻度", en: "Logarithmic, across" },
-  logY: { zh: "纵轴用对数刻度", en: "Logarithmic, upwards" },
-  swap: { zh: "对调两轴", en: "Swap the axes" },
-  plate: { zh: "板", en: "Plates" },
   body: { zh: "体颜色", en: "Body colour" },
   otherColors: {
     zh: (example: number) => `其他颜色（如 ${example}）`,
@@ -30,17 +23,17 @@ export const kMapWords = {
   allHidden: { zh: "显示所有被挡住的部分", en: "Show all hidden parts" },
   describe: {
     zh: (x: string, y: string, rows: number, gaps: number) =>
-      `${x}和${y}张成的图：${rows} 行，${gaps} 块空缺。用方向键移动十字，回车打开所在的行。`,
+      `${x}和${y}张成的图：${rows} 行，${gaps} 块空缺。用方向键移动十字，回车打开所在的行；放大后用 Ctrl+方向键移动图。`,
     en: (x: string, y: string, rows: number, gaps: number) =>
-      `The plane of ${x} and ${y}: ${rows} rows, ${gaps} gaps. The arrow keys move the cross, Enter opens the row.`,
+      `The plane of ${x} and ${y}: ${rows} rows, ${gaps} gaps. The arrow keys move the cross, Enter opens the row; Ctrl and arrow keys move a zoomed picture.`,
   } satisfies TextOf<[string, string, number, number]>,
   unit: { zh: (size: string) => `${size}（mm）`, en: (size: string) => `${size} (mm)` } satisfies TextOf<
     [string]
   >,
   point: { zh: "指向图中，看某块板用哪一行", en: "Point at the picture to see which row a plate gets" },
   keys: {
-    zh: "方向键移动，Shift 加速，回车打开行",
-    en: "arrow keys move, Shift is faster, Enter opens the row",
+    zh: "方向键移动，Shift 加速，回车打开行，放大后 Ctrl+方向键移动图",
+    en: "arrow keys move, Shift is faster, Enter opens the row, Ctrl moves a zoomed picture",
   },
   gets: {
     zh: (row: number, layer: string) => `用第 ${row} 行（图层 ${layer}）`,
@@ -88,5 +81,4 @@ export const kMapWords = {
   } satisfies TextOf<[string]>,
   newRow: { zh: "补上这一行就够：", en: "This row would take it:" },
   tryIt: { zh: "试这块板", en: "Try this plate" },
-  reset: { zh: "复原", en: "Reset" },
 } as const;

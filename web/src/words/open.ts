@@ -49,7 +49,6 @@ export const kOpenWords = {
   configuration: { zh: "配置", en: "Configuration" },
   comparedWith: { zh: "对比", en: "Compared with" },
   none: { zh: "（无）", en: "(none)" },
-  otherFolder: { zh: "其他文件夹…", en: "another folder…" },
   uses: {
     plates: { zh: "板表", en: "plates" },
     holes: { zh: "组合孔", en: "combined holes" },

@@ -21,8 +21,8 @@ export const kPageWords = {
   },
   again: { zh: "重新读取", en: "Look again" },
   againTitle: {
-    zh: "在 Excel 中保存之后重新读取（快捷键 R）",
-    en: "Read the files once more, after a save in Excel (key R)",
+    zh: "在 Excel 中保存之后重新读取（快捷键 F5）",
+    en: "Read the files once more, after a save in Excel (key F5)",
   },
   print: { zh: "打印", en: "Print" },
   language: { zh: "English", en: "中文" },

@@ -26,12 +26,20 @@ export const kSheetWords = {
     en: (title: string, width: string, height: string) => `${title}, ${width} x ${height} mm`,
   } satisfies TextOf<[string, string, string]>,
   parts: { zh: "图上的内容", en: "What is on the sheet" },
+  partsOf: {
+    zh: (name: string) => `${name}：图上的内容`,
+    en: (name: string) => `${name}: what is on the sheet`,
+  } satisfies TextOf<[string]>,
   partsHint: {
     zh: "指向一项，图上会标出；点击打开它的单元格",
     en: "Point at one to mark it in the picture; a click opens its cell",
   },
   openCell: { zh: "打开这个单元格", en: "Open this cell" },
   isDefault: { zh: "默认值", en: "default" },
+  atSize: {
+    zh: "按实际大小画出（1:1）；放不下的，长度中间断开，其他注明比例",
+    en: "Drawn at their size (1:1). What has no room is a broken length, or has its scale beside it.",
+  },
   unknown: { zh: "设置没有说明位置的内容", en: "What the settings do not place" },
   assumed: { zh: "画图时的假定", en: "Taken for granted" },
   assumes: {
@@ -56,8 +64,4 @@ export const kSheetWords = {
     zh: (height: string) => `字高 ${height}`,
     en: (height: string) => `text height ${height}`,
   } satisfies TextOf<[string]>,
-  moreKeys: {
-    zh: (count: number) => `另有 ${count} 项设置`,
-    en: (count: number) => `${count} more ${count === 1 ? "setting" : "settings"}`,
-  } satisfies TextOf<[number]>,
 } as const;

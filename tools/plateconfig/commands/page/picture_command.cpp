@@ -1,11 +1,12 @@
-// `picture`: what a page or another program needs to draw a configuration. One verb with four kinds of
-// pictures; each takes some of the options.
+// `picture`: what a page or another program needs to draw a configuration. One verb with several kinds
+// of pictures; each takes some of the options.
 
 #include <algorithm>
 #include <iterator>
 #include <memory>
 
 #include "analysis/checks/rule_values.h"
+#include "analysis/pictures/sheet_settings.h"
 #include "analysis/text/strict_values.h"
 #include "plateconfig/commands/options.h"
 #include "plateconfig/commands/verbs.h"
@@ -30,31 +31,39 @@ constexpr PictureKind kKinds[] = {
 
 /// The pictures that take an option; the others would ignore it, which is refused.
 struct OptionUse {
-  const char* option;
+  std::string option;
   std::string_view kind;
   std::string_view otherKind = {};
 };
 
-constexpr OptionUse kUses[] = {
-    {"--config", kMap, kSheet},    {"--process-rules", kMap},
-    {"--x", kMap, kChanges},       {"--y", kMap, kChanges},
-    {"--fixed", kMap, kChanges},   {"--body-color", kMap, kChanges},
-    {"--profile", kMap, kChanges}, {"--wire-cutting", kMap, kChanges},
-    {"--x-range", kMap, kChanges}, {"--y-range", kMap, kChanges},
-    {"--types", kHoles},           {"--size", kSheet},
-    {"--paper", kSheet},           {"--layout-defaults", kSheet},
-    {"--custom-settings", kSheet}, {"--frame-info", kSheet},
-    {"--system-settings", kSheet}, {"--texts", kSheet},
-};
-
-/// The tables that a picture is made of, each an option of its own.
-const std::vector<Role>& DrawnRoles() {
-  static const std::vector<Role> kRoles = {Role::kProcessRules, Role::kLayoutDefaults, Role::kCustomSettings,
-                                           Role::kFrameInfo,    Role::kSystemSettings, Role::kTexts};
-  return kRoles;
+/// The tables that pictures are made of, each an option of its own: that of the map, and those of a sheet.
+std::vector<Role> DrawnRoles() {
+  std::vector<Role> roles = {Role::kProcessRules};
+  roles.insert(roles.end(), std::begin(kSheetRoles), std::end(kSheetRoles));
+  return roles;
 }
 
-bool IsGiven(const CLI::App& command, const char* option) {
+std::vector<OptionUse> Uses() {
+  std::vector<OptionUse> uses = {
+      {"--config", kMap, kSheet},
+      {"--x", kMap, kChanges},
+      {"--y", kMap, kChanges},
+      {"--fixed", kMap, kChanges},
+      {"--body-color", kMap, kChanges},
+      {"--profile", kMap, kChanges},
+      {"--wire-cutting", kMap, kChanges},
+      {"--x-range", kMap, kChanges},
+      {"--y-range", kMap, kChanges},
+      {"--types", kHoles},
+      {"--size", kSheet},
+      {"--paper", kSheet},
+  };
+  for (const Role role : DrawnRoles())
+    uses.push_back({OptionOf(role), role == Role::kProcessRules ? kMap : kSheet});
+  return uses;
+}
+
+bool IsGiven(const CLI::App& command, const std::string& option) {
   const auto all = command.get_options();
   return std::any_of(all.begin(), all.end(),
                      [&](const CLI::Option* each) { return each->check_name(option) && each->count() > 0; });
@@ -66,7 +75,7 @@ void Refuse(const std::string& kind, const std::string& what, Reporter& reporter
 
 /// False, with an error, for an option or a file that this picture does not take.
 bool TakesAll(const CLI::App& command, const PictureKind& kind, const PictureJob& job, Reporter& reporter) {
-  for (const OptionUse& use : kUses) {
+  for (const OptionUse& use : Uses()) {
     if (kind.name == use.kind || kind.name == use.otherKind || !IsGiven(command, use.option)) continue;
     Refuse(job.kind, use.option, reporter);
     return false;
@@ -165,8 +174,8 @@ void AddSheetOptions(CLI::App& command, PictureJob& job) {
   command
       .add_option("--size", job.sheetSize,
                   Say("sheet: places of small or large sheets", "图纸：小图或大图的位置"))
-      ->type_name("small|large")
-      ->check(OneOf({"small", "large"}));
+      ->type_name(fmt::format("{}|{}", sheet_sizes::kSmall, sheet_sizes::kLarge))
+      ->check(OneOf({sheet_sizes::kSmall, sheet_sizes::kLarge}));
   command
       .add_option(
           "--paper", job.paper,
@@ -183,7 +192,7 @@ Run PictureOptions(CLI::App& command) {
       .add_option("picture", job->kind,
                   Say("cells of a table, map of the rules, changes between two, holes in section, sheet",
                       "cells：表的单元格；map：规则图；changes：规则的变化；holes：孔的剖面；sheet：图纸"))
-      ->type_name("cells|map|changes|holes|sheet")
+      ->type_name(fmt::format("{}", fmt::join(KindNames(), "|")))
       ->check(OneOf(KindNames()))
       ->required();
   command
@@ -194,10 +203,7 @@ Run PictureOptions(CLI::App& command) {
       ->check(NotEmpty());
   AddConfigurationOptions(command, DrawnRoles(), job->configuration);
   AddMapOptions(command, *job);
-  command.add_option("--types", job->typeFiles, Say("holes: files of hole types", "孔：孔类型文件"))
-      ->type_name(Say("FILE", "文件"))
-      ->check(NotEmpty())
-      ->allow_extra_args(false);
+  AddFile(command, "--types", job->typeFiles, Say("holes: files of hole types", "孔：孔类型文件"));
   AddSheetOptions(command, *job);
   return WithOutput(command, [job, &command](Context& context) { RunPicture(*job, command, context); });
 }

@@ -1,8 +1,10 @@
 // `report`: the page with a configuration, its plates and holes inside, as one file to keep or to mail. What
 // is wrong with them decides the exit code, as with `check`.
 
+#include <filesystem>
 #include <memory>
 #include <optional>
+#include <system_error>
 
 #include "plateconfig/checking/check_run.h"
 #include "plateconfig/commands/options.h"
@@ -28,8 +30,14 @@ struct ReportJob {
 /// Nothing, with an error, when there is none.
 std::optional<std::string> PageOf(const ReportJob& job, Reporter& reporter) {
   if (!job.page.empty()) {
-    auto page = ReadAllBytes(PathFromUtf8(job.page));
-    if (!page) reporter.Error({job.page}, Say("reading this file failed", "读取此文件失败"));
+    const std::filesystem::path file = PathFromUtf8(job.page);
+    auto page = ReadAllBytes(file);
+    std::error_code error;
+    if (!page) {
+      reporter.Error({job.page}, std::filesystem::exists(file, error)
+                                     ? Say("reading this file failed", "读取此文件失败")
+                                     : Say("there is no such file", "此文件不存在"));
+    }
     return page;
   }
   std::string page = EmbeddedPage();
@@ -64,9 +72,10 @@ void ReportNothingToOpen(Reporter& reporter) {
                                       "--open 打开 -o 所写的文件，请同时给出"));
 }
 
-/// A file that was not written is not opened.
+/// A file that was not written is not opened. One that can't be opened is as good as before.
 void Open(const std::string& file, Reporter& reporter) {
   if (reporter.Result() == kUnusable || OpenWithItsProgram(PathFromUtf8(file))) return;
+  reporter.ShowWarningsOnly();
   reporter.Warning({file},
                    Say("the system found no program to open this file", "系统没有找到可打开此文件的程序"));
 }
@@ -85,7 +94,9 @@ Run ReportOptions(CLI::App& command) {
                   Say("this page instead of the program's own", "用此页面代替程序自带的页面"))
       ->type_name(Say("FILE", "文件"))
       ->check(NotEmpty());
-  const Run run = WithOutput(command, [job](Context& context) { RunReport(*job, context); });
+  const Run run = WithOutput(
+      command, [job](Context& context) { RunReport(*job, context); },
+      Say("write the page to this file", "将页面写入此文件"));
   command.add_flag("--open", job->opens, Say("open the file that was written", "写出后打开此文件"));
   return [job, run, &command](Context& context) {
     if (!job->opens) return run(context);

@@ -7,6 +7,8 @@ import { kUses } from "./uses";
 /** The configuration's files lie in a folder of its name, the others beside it. */
 interface ReportData {
   readonly name: string;
+  /** When the report was written, in the form of ISO 8601. */
+  readonly written?: string;
   readonly files: readonly {
     readonly path: string;
     readonly base64: string;
@@ -19,10 +21,10 @@ interface ReportData {
 export function reportSource(): Source | undefined {
   const text = document.getElementById("plateconfig-data")?.textContent?.trim() ?? "";
   if (text === "") return undefined;
-  const { name, files } = JSON.parse(text) as ReportData;
+  const { name, written, files } = JSON.parse(text) as ReportData;
   const entries = files.map(({ path, base64, use }) => {
     const known = kUses.find((each) => each === use);
     return { path, bytes: fromBase64(base64), ...(known && { use: known }) };
   });
-  return dataSource(name, entries);
+  return dataSource(name, entries, written === undefined ? undefined : new Date(written));
 }

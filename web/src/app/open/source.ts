@@ -1,5 +1,6 @@
 // Where files come from, and how they are read once more: a folder's handle reads what is on disk now, a file of an <input> does not.
 
+import { kMostBytes } from "../../engine/limits";
 import type { Use } from "./uses";
 
 export interface Entry {
@@ -15,6 +16,8 @@ export interface Source {
   /** Whether it is a whole folder, not single files. */
   readonly isFolder: boolean;
   readonly handle?: FileSystemDirectoryHandle;
+  /** Of a report: when it was written. */
+  readonly written?: Date;
   read(): Promise<readonly Entry[]>;
 }
 
@@ -23,7 +26,6 @@ export class StaleFiles extends Error {}
 /** More than a page can hold. */
 export class TooLarge extends Error {}
 
-const kMostBytes = 256 * 1024 * 1024;
 const kMostDepth = 4;
 const kMostFiles = 2000;
 
@@ -39,24 +41,25 @@ interface Found {
   file(): Promise<File>;
 }
 
-async function bytesOf(found: Found): Promise<Entry> {
+/** Files that can not be read any more are those of an <input> that were saved since. */
+async function unlessStale<Value>(path: string, reading: Promise<Value>): Promise<Value> {
   try {
-    const file = await found.file();
-    return { path: found.path, bytes: new Uint8Array(await file.arrayBuffer()) };
+    return await reading;
   } catch (error) {
-    if (error instanceof DOMException && error.name === "NotReadableError") throw new StaleFiles(found.path);
+    if (error instanceof DOMException && error.name === "NotReadableError") throw new StaleFiles(path);
     throw error;
   }
 }
 
+/** Sizes come before the bytes: reading a file that is too large fails as if it had been changed. */
 async function readAll(files: readonly Found[]): Promise<readonly Entry[]> {
   const entries: Entry[] = [];
   let size = 0;
-  for (const file of files) {
-    const entry = await bytesOf(file);
-    size += entry.bytes.length;
-    if (size > kMostBytes) throw new TooLarge(entry.path);
-    entries.push(entry);
+  for (const { path, file: open } of files) {
+    const file = await unlessStale(path, open());
+    size += file.size;
+    if (size > kMostBytes) throw new TooLarge(path);
+    entries.push({ path, bytes: new Uint8Array(await unlessStale(path, file.arrayBuffer())) });
   }
   return entries;
 }
@@ -109,6 +112,6 @@ export function listSource(files: readonly File[]): Source {
 }
 
 /** Files that the page itself has: the data of a report, a manifest that was just written. */
-export function dataSource(name: string, entries: readonly Entry[]): Source {
-  return { name, isFolder: true, read: async () => entries };
+export function dataSource(name: string, entries: readonly Entry[], written?: Date): Source {
+  return { name, isFolder: true, ...(written && { written }), read: async () => entries };
 }

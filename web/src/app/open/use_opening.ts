@@ -1,6 +1,6 @@
 // The two opened folders, and everything that opens, reads again or uses files another way.
 
-import { useCallback, useMemo, useRef, useState } from "preact/hooks";
+import { useCallback, useEffect, useMemo, useRef, useState } from "preact/hooks";
 import type { Engine } from "../../engine/engine";
 import { EngineError } from "../../engine/engine_error";
 import { kOpenWords } from "../../words/open";
@@ -8,13 +8,16 @@ import type { Text } from "../../words/say";
 import type { Workspace } from "../state";
 import { rememberFolder } from "./remembered";
 import { type Entry, type Source, StaleFiles, TooLarge } from "./source";
-import { type Use, type Uses, usesOf } from "./uses";
-import { configurationFolders, filesBeside, type OpenedFolder, workspaceOf } from "./workspaces";
+import { type Choices, guessedUses, type Use, type Uses, withChoices } from "./uses";
+import { configurationFolders, type OpenedFolder, workspaceOf } from "./workspaces";
 
 export type Side = "config" | "other";
 
 interface Opened extends OpenedFolder {
   readonly sources: readonly Source[];
+  /** What the files look like, and what the user said of them. */
+  readonly guesses: Uses;
+  readonly choices: Choices;
   /** A file that only the page has. */
   readonly addedFile?: string;
 }
@@ -28,6 +31,8 @@ export interface Opening {
   readonly isBusy: boolean;
   readonly notice: Text | undefined;
   dismissNotice(): void;
+  /** Says what went wrong with something that nobody waits for. */
+  tell(error: unknown): void;
   open(sources: readonly Source[] | Promise<readonly Source[]>, side: Side): void;
   /** Reads everything from the disk once more. */
   again(): void;
@@ -47,15 +52,30 @@ function noticeOf(error: unknown): Text {
   if (error instanceof StaleFiles) return kOpenWords.stale;
   if (error instanceof TooLarge)
     return { zh: kOpenWords.tooLarge.zh(error.message), en: kOpenWords.tooLarge.en(error.message) };
+  if (error instanceof DOMException && error.name === "NotAllowedError") return kOpenWords.notAllowed;
   const reason = error instanceof Error ? error.message : String(error);
   return { zh: kOpenWords.unreadable.zh(reason), en: kOpenWords.unreadable.en(reason) };
 }
 
-/** Later sources win over files of the same path. */
+/** The name with a number in front of its ending: of "1.csv" the second one is "1-2.csv". */
+function numbered(name: string, number: number): string {
+  const dot = name.lastIndexOf(".");
+  return dot < 0 ? `${name}-${number}` : `${name.slice(0, dot)}-${number}${name.slice(dot)}`;
+}
+
+/** Later sources win over files of the same path, single files over a folder's; but single files of one name are different ones. */
 async function entriesOf(sources: readonly Source[]): Promise<readonly Entry[]> {
   const byPath = new Map<string, Entry>();
-  for (const source of sources) {
-    for (const entry of await source.read()) byPath.set(entry.path, entry);
+  const single = new Set<string>();
+  const foldersFirst = [...sources].sort((one, two) => Number(two.isFolder) - Number(one.isFolder));
+  for (const source of foldersFirst) {
+    for (const entry of await source.read()) {
+      let path = entry.path;
+      for (let number = 2; !source.isFolder && single.has(path); number++)
+        path = numbered(entry.path, number);
+      if (!source.isFolder) single.add(path);
+      byPath.set(path, { ...entry, path });
+    }
   }
   return [...byPath.values()];
 }
@@ -68,21 +88,22 @@ async function readSide(
   const entries = await entriesOf(sources);
   const folders = configurationFolders(entries);
   const folder = before !== undefined && folders.includes(before.folder) ? before.folder : (folders[0] ?? "");
-  const uses = await usesOf(engine, filesBeside(entries, folder));
+  const guesses = await guessedUses(engine, entries);
+  const choices: Choices = before?.choices ?? new Map();
+  const main = sources.find((source) => source.isFolder) ?? sources[0];
   revision += 1;
   return {
-    name: sources[0]?.name ?? "",
+    name: main?.name ?? "",
     sources,
     entries,
     folder,
-    uses: new Map([...uses, ...keptUses(before, uses)]),
+    guesses,
+    choices,
+    uses: withChoices(guesses, choices),
+    opening: before?.opening ?? revision,
+    ...(main?.written && { written: main.written }),
     revision,
   };
-}
-
-/** What the user chose stays, as long as the file is there. */
-function keptUses(before: Opened | undefined, uses: Uses): Uses {
-  return before === undefined ? new Map() : new Map([...before.uses].filter(([path]) => uses.has(path)));
 }
 
 /** Single files come to what is open; a folder takes its place. */
@@ -91,12 +112,12 @@ function joined(before: Opened | undefined, given: readonly Source[]): readonly 
   return [...before.sources.filter(({ name }) => !given.some((source) => source.name === name)), ...given];
 }
 
-/** Two folders at once are the old one and the new one. */
+/** Two folders at once are the old one and the new one; single files come to the old one. */
 function bySide(given: readonly Source[], side: Side): [Side, readonly Source[]][] {
   const [first, second] = given.filter((source) => source.isFolder);
   if (first === undefined || second === undefined || side === "other") return [[side, given]];
   return [
-    ["config", [first]],
+    ["config", given.filter((source) => source !== second)],
     ["other", [second]],
   ];
 }
@@ -115,6 +136,15 @@ export function useOpening(engine: Engine): Opening {
   const [sides, setSides] = useState<Sides>({});
   const [isBusy, setBusy] = useState(false);
   const [notice, setNotice] = useState<Text | undefined>();
+  useEffect(() => {
+    // Whatever nobody waited for: saving a list whose run failed, say.
+    const tell = (event: PromiseRejectionEvent) => {
+      event.preventDefault();
+      setNotice(noticeOf(event.reason));
+    };
+    window.addEventListener("unhandledrejection", tell);
+    return () => window.removeEventListener("unhandledrejection", tell);
+  }, []);
   const current = useRef(sides);
   current.current = sides;
 
@@ -183,11 +213,10 @@ export function useOpening(engine: Engine): Opening {
 
   const use = useCallback(
     (path: string, chosen: Use | undefined) => {
-      const uses = new Map(
-        [...(current.current.config?.uses ?? [])].filter(([its, as]) => its !== path && as !== chosen),
-      );
-      if (chosen !== undefined) uses.set(path, chosen);
-      change("config", { uses });
+      const opened = current.current.config;
+      if (opened === undefined) return;
+      const choices: Choices = new Map([...opened.choices, [path, chosen]]);
+      change("config", { choices, uses: withChoices(opened.guesses, choices) });
     },
     [change],
   );
@@ -212,6 +241,7 @@ export function useOpening(engine: Engine): Opening {
     isBusy,
     notice,
     dismissNotice: useCallback(() => setNotice(undefined), []),
+    tell: useCallback((error: unknown) => setNotice(noticeOf(error)), []),
     open,
     again,
     chooseFolder: useCallback((side, folder) => change(side, { folder }), [change]),

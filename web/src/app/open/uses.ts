@@ -14,49 +14,53 @@ const kNames: Readonly<Record<Use, RegExp>> = {
   plates: /(plates?|板)/i,
 };
 
-/** The names by which `init` passes over files that are no tables. */
-const kSaid: Readonly<Record<string, Use>> = {
-  "a file of plates": "plates",
-  "a file of combined holes": "holes",
-  "a file of hole types": "hole-types",
-};
-
 function useByName(path: string): Use | undefined {
   const name = path.slice(path.lastIndexOf("/") + 1);
   if (!/\.(json|jsonl|ndjson)$/i.test(name) || /^tables\.json/i.test(name)) return undefined;
   return (Object.keys(kNames) as Use[]).find((use) => kNames[use].test(name));
 }
 
-/** Lines like "  3.csv: a file of plates, …". */
-function usesSaid(out: string, tables: readonly Entry[]): Map<string, Use> {
-  const uses = new Map<string, Use>();
-  for (const [, number, what] of out.matchAll(/^ {2}(\d+)\.csv: (a file of [a-z ]+)/gm)) {
-    const path = tables[Number(number)]?.path;
-    const use = kSaid[what ?? ""];
-    if (path !== undefined && use !== undefined) uses.set(path, use);
-  }
-  return uses;
+/** `init --format json`, as far as it is asked here. */
+interface FoundRoles {
+  readonly leftOut: readonly { readonly file: string; readonly kind: string | null }[];
 }
 
+/** The tables get names of their own: two of one name may lie in different folders. */
 async function usesByColumns(engine: Engine, entries: readonly Entry[]): Promise<Map<string, Use>> {
-  const tables = entries.filter((entry) => /\.csv$/i.test(entry.path));
-  if (tables.length === 0) return new Map();
-  const files = tables.map((entry, index) => ({ path: `look/${index}.csv`, bytes: entry.bytes }));
-  return usesSaid((await engine.run(["init", "look", "--lang", "en"], files)).out, tables);
+  const tables = new Map(
+    entries.filter(({ path }) => /\.csv$/i.test(path)).map((entry, index) => [`${index}.csv`, entry]),
+  );
+  if (tables.size === 0) return new Map();
+  const files = [...tables].map(([name, { bytes }]) => ({ path: `look/${name}`, bytes }));
+  const { out } = await engine.run(["init", "look", "--format", "json"], files);
+  const uses = (JSON.parse(out) as FoundRoles).leftOut.flatMap(({ file, kind }): [string, Use][] => {
+    const path = tables.get(file)?.path;
+    const use = kUses.find((each) => each === kind);
+    return path === undefined || use === undefined ? [] : [[path, use]];
+  });
+  return new Map(uses);
 }
 
-/** What each of these files looks like. */
-export async function usesOf(engine: Engine, entries: readonly Entry[]): Promise<Uses> {
-  const uses = await usesByColumns(engine, entries);
-  for (const { path, use: known } of entries) {
-    const use = known ?? useByName(path);
-    if (use !== undefined) uses.set(path, use);
+/** What each of these files looks like. A name alone is little: a JSON file is taken where no table has its use. */
+export async function guessedUses(engine: Engine, entries: readonly Entry[]): Promise<Uses> {
+  const known = entries.flatMap(({ path, use }): [string, Use][] => (use === undefined ? [] : [[path, use]]));
+  const certain = new Map([...(await usesByColumns(engine, entries)), ...known]);
+  const taken = new Set(certain.values());
+  const byName = entries.flatMap(({ path }): [string, Use][] => {
+    const use = useByName(path);
+    return use === undefined || certain.has(path) || taken.has(use) ? [] : [[path, use]];
+  });
+  return new Map([...certain, ...byName]);
+}
+
+/** What the user said of files, whatever they look like. */
+export type Choices = ReadonlyMap<string, Use | undefined>;
+
+export function withChoices(guesses: Uses, choices: Choices): Uses {
+  const uses = new Map(guesses);
+  for (const [path, use] of choices) {
+    if (use === undefined) uses.delete(path);
+    else uses.set(path, use);
   }
   return uses;
-}
-
-/** Of several files of one use the first table is taken, else the first file. */
-export function chosenOf(uses: Uses, use: Use): string | undefined {
-  const paths = [...uses].filter(([, its]) => its === use).map(([path]) => path);
-  return paths.find((path) => /\.csv$/i.test(path)) ?? paths[0];
 }

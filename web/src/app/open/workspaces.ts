@@ -3,7 +3,7 @@
 import type { InputFile } from "../../engine/engine";
 import type { Workspace } from "../state";
 import type { Entry } from "./source";
-import { chosenOf, type Use, type Uses } from "./uses";
+import type { Use, Uses } from "./uses";
 
 function folderOf(path: string): string {
   return path.slice(0, Math.max(0, path.lastIndexOf("/")));
@@ -62,10 +62,11 @@ function tablesOf(entries: readonly Entry[], folder: string, below: string): Inp
   }));
 }
 
-function usedAs(use: Use, uses: Uses, entries: readonly Entry[]): InputFile | undefined {
-  const path = chosenOf(uses, use);
-  const entry = entries.find((each) => each.path === path);
-  return entry && { path: nameOf(entry.path), bytes: entry.bytes };
+/** Below a folder of their own, so that files of one name stay apart, and no name is taken for an option. */
+function usedAs(use: Use, uses: Uses, entries: readonly Entry[]): InputFile[] {
+  return entries
+    .filter(({ path }) => uses.get(path) === use)
+    .map(({ path, bytes }) => ({ path: `${use}/${path}`, bytes }));
 }
 
 export interface OpenedFolder {
@@ -74,22 +75,27 @@ export interface OpenedFolder {
   readonly entries: readonly Entry[];
   /** The configuration folder that was chosen. */
   readonly folder: string;
+  /** Of all files that lie there. */
   readonly uses: Uses;
+  /** The same as long as nothing else is opened in its place. */
+  readonly opening: number;
+  /** Of a report: when it was written. */
+  readonly written?: Date;
   readonly revision: number;
 }
 
 export function workspaceOf(opened: OpenedFolder, below: "config" | "other"): Workspace {
-  const { entries, folder, uses, revision } = opened;
-  const [plates, holes, holeTypes] = (["plates", "holes", "hole-types"] as const).map((use) =>
-    usedAs(use, uses, entries),
-  );
+  const { entries, folder, uses, opening, written, revision } = opened;
+  const beside = filesBeside(entries, folder);
   return {
     name: nameOf(folder) || opened.name,
     folder: below,
     files: tablesOf(entries, folder, below),
-    ...(plates && { plates }),
-    ...(holes && { holes }),
-    ...(holeTypes && { holeTypes }),
+    plates: usedAs("plates", uses, beside),
+    holes: usedAs("holes", uses, beside),
+    holeTypes: usedAs("hole-types", uses, beside),
+    opened: `${opening}/${folder}`,
+    ...(written && { written }),
     revision,
   };
 }

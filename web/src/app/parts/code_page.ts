@@ -1,31 +1,26 @@
-// The page of a code, as `check --explain CODE` prints it: the sentences of the finding, then what it means.
+// The page of a code: what `check --explain CODE` says of it.
 
 import { useEffect, useState } from "preact/hooks";
 import type { Engine } from "../../engine/engine";
 import { useApp } from "../state";
 
 export interface CodePage {
-  /** What to do about it; it may have places that only the finding fills. */
-  readonly advice: string | undefined;
+  /** What to do about it. */
+  readonly advice: string | null;
+  /** Whether it has places that only a finding fills. */
+  readonly adviceHasPlaces: boolean;
   readonly meaning: string;
 }
 
 const kPages = new Map<string, Promise<CodePage>>();
-
-/** A title, the indented sentences (message, advice), a paragraph. */
-function pageFrom(out: string): CodePage {
-  const [, sentences, ...meaning] = out.trim().split(/\n\n+/);
-  const advice = sentences?.split("\n")[1]?.trim();
-  return { advice, meaning: meaning.join("\n") };
-}
 
 function pageOf(engine: Engine, code: string, language: string): Promise<CodePage> {
   const key = `${language} ${code}`;
   const known = kPages.get(key);
   if (known !== undefined) return known;
   const asked = engine
-    .run(["check", "--explain", code, "--lang", language], [])
-    .then((run) => pageFrom(run.out));
+    .run(["check", "--explain", code, "--format", "json", "--lang", language], [])
+    .then((run) => JSON.parse(run.out) as CodePage);
   kPages.set(key, asked);
   asked.catch(() => kPages.delete(key));
   return asked;

@@ -34,8 +34,8 @@ export function CellText({ text }: { text: string }) {
 
 /** Advice with a place that only this finding fills says less than its message. */
 function adviceFor(finding: Finding, page: CodePage | undefined): string | undefined {
-  if (finding.fix !== null || page?.advice === undefined || page.advice.includes("…")) return undefined;
-  return page.advice;
+  if (finding.fix !== null || page === undefined || page.adviceHasPlaces) return undefined;
+  return page.advice ?? undefined;
 }
 
 function Facts({ finding, advice }: { finding: Finding; advice: string | undefined }) {

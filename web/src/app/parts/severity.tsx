@@ -1,10 +1,16 @@
 // Severity as a shape and a word, never by colour alone.
 
-import type { Severity } from "../../model/check";
+import type { Finding, Severity } from "../../model/check";
 import { kPageWords } from "../../words/page";
 import { useSay } from "../state";
 
+/** The graver ones first. */
 export const kSeverities: readonly Severity[] = ["error", "warning", "hint"];
+
+/** Below 0 when the first one is the graver one. */
+export function byGravity(one: Finding, two: Finding): number {
+  return kSeverities.indexOf(one.severity) - kSeverities.indexOf(two.severity);
+}
 
 const kShapes: Readonly<Record<Severity, string>> = {
   error: "M5 1h6l4 4v6l-4 4H5l-4-4V5z",

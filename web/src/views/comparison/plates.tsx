@@ -26,7 +26,7 @@ export function ChangedPlates({ plates }: { plates: readonly ChangedPlate[] }) {
   const { workspace, other } = useApp();
   const say = useSay();
   const [text, setText] = useState("");
-  if (workspace?.plates === undefined && other?.plates === undefined)
+  if ((workspace?.plates ?? []).length + (other?.plates ?? []).length === 0)
     return <Empty>{say(kComparisonWords.noPlates)}</Empty>;
   if (plates.length === 0) return <Empty>{say(kComparisonWords.noneOf)}</Empty>;
   const found = plates.filter(({ name, old, new: now }) =>

@@ -1,148 +1,206 @@
-// Where plates change in the plane of length and width: a cut through the example of the chosen region.
+// Where plates change in the plane of two sizes: a cut through the example of the chosen region.
 
-import { scaleLinear } from "d3-scale";
-import { useMemo } from "preact/hooks";
+import { useMemo, useRef, useState } from "preact/hooks";
+import type { ComponentChildren, RefObject } from "preact";
 import { useAnswer } from "../../app/answer";
 import { Failure } from "../../app/parts/failure";
 import { useApp, useSay } from "../../app/state";
-import type { ChangedBox, PictureOfChanges } from "../../model/changes";
+import { LeftAxis, LowerAxis } from "../../drawing/axes";
+import { AxisChoice } from "../../drawing/axis_choice";
+import { kInk, kFont, kPaper } from "../../drawing/looks";
+import { shown } from "../../drawing/numbers";
+import { type Logs, middle, type Plane, planeOver, rectangleOf } from "../../drawing/plane";
+import { SaveButtons } from "../../drawing/save_buttons";
+import type { ChangedArea, PictureOfChanges } from "../../model/changes";
 import type { ChangedRegion } from "../../model/diff";
+import { kSizes, type Plate, type SizeName } from "../../model/plate";
 import { kComparisonWords } from "../../words/comparison";
+import { kMapWords } from "../../words/map";
+import { kSizeWords } from "../../words/plate";
+import type { Say } from "../../words/say";
+import { type Axes, cutArguments, ofGroup, withAxis } from "./cut";
 import type { Pair } from "./use_difference";
 
-const kWidth = 640;
-const kHeight = 480;
-const kLeft = 56;
-const kBottom = 44;
-const kTop = 12;
-const kRight = 16;
+const kFrame = { width: 640, height: 500, left: 68, right: 16, top: 12, bottom: 50 } as const;
 
-/** The cut lies where the region's example lies: its thickness, weight, colour and faces. */
-function cutArguments({ old, now }: Pair, { witness, group }: ChangedRegion): readonly string[] {
-  const isProfile = group.profile ?? group.newProfile ?? false;
-  const isWireCutting = group.wireCutting ?? group.newWireCutting ?? false;
-  return [
-    ...["picture", "changes", old.folder, now.folder, "--x", "length", "--y", "width"],
-    ...["--fixed", `thickness=${witness.thickness},weight=${witness.weight}`],
-    ...["--body-color", String(witness.color)],
-    ...(isProfile ? ["--profile"] : []),
-    ...(isWireCutting ? ["--wire-cutting"] : []),
-  ];
-}
+/** Too quick for one answer each: the reader goes through the list. */
+const kPause = 80;
 
-function usePicture(pair: Pair, region: ChangedRegion) {
-  const { engine } = useApp();
+function usePicture(pair: Pair, region: ChangedRegion, axes: Axes) {
+  const { engine, language } = useApp();
   const { old, now } = pair;
   const files = useMemo(() => [...old.files, ...now.files], [old, now]);
-  const args = useMemo(() => cutArguments({ old, now }, region), [old, now, region]);
-  return useAnswer<PictureOfChanges>(engine, args, files, 80);
+  const args = [...cutArguments({ old, now }, region, axes), "--lang", language];
+  return useAnswer<PictureOfChanges>(engine, args, files, kPause);
 }
 
-interface Scales {
-  readonly x: ReturnType<typeof scaleLinear<number>>;
-  readonly y: ReturnType<typeof scaleLinear<number>>;
+function planeOf(picture: PictureOfChanges, logs: Logs): Plane {
+  const low = (side: "x" | "y") => picture.sizes[picture[side].size].bounds[0] ?? 0;
+  return planeOver(picture, {}, logs, { x: low("x"), y: low("y") }, kFrame);
 }
 
-function scalesOf(picture: PictureOfChanges): Scales {
-  return {
-    x: scaleLinear([picture.x.from, picture.x.to], [kLeft, kWidth - kRight]).clamp(true),
-    y: scaleLinear([picture.y.from, picture.y.to], [kHeight - kBottom, kTop]).clamp(true),
-  };
+function sizeLabel(size: SizeName, say: Say): string {
+  return size === "weight" ? say(kSizeWords.weight) : say(kMapWords.unit, say(kSizeWords[size]));
 }
 
-function Axes({ x, y }: Scales) {
+function Frame({ picture, plane }: { picture: PictureOfChanges; plane: Plane }) {
   const say = useSay();
+  const { width, height, left, right, top, bottom } = kFrame;
+  const [low, end] = [height - bottom, width - right];
   return (
-    <g class="axes" aria-hidden="true">
-      {x.ticks(8).map((value) => (
-        <g key={value} transform={`translate(${x(value)},0)`}>
-          <line y1={kTop} y2={kHeight - kBottom} />
-          <text y={kHeight - kBottom + 16} text-anchor="middle">
-            {value}
-          </text>
-        </g>
-      ))}
-      {y.ticks(7).map((value) => (
-        <g key={value} transform={`translate(0,${y(value)})`}>
-          <line x1={kLeft} x2={kWidth - kRight} />
-          <text x={kLeft - 6} dy="4" text-anchor="end">
-            {value}
-          </text>
-        </g>
-      ))}
-      <text x={(kLeft + kWidth) / 2} y={kHeight - 8} text-anchor="middle" class="axis-name">
-        {say(kComparisonWords.sizes.length)} mm
-      </text>
-      <text
-        text-anchor="middle"
-        class="axis-name"
-        transform={`translate(13 ${(kTop + kHeight - kBottom) / 2}) rotate(-90)`}
-      >
-        {say(kComparisonWords.sizes.width)} mm
-      </text>
-    </g>
+    <>
+      <LowerAxis
+        scale={plane.x}
+        label={sizeLabel(picture.x.size, say)}
+        at={low}
+        from={left}
+        to={end}
+        across={top}
+      />
+      <LeftAxis
+        scale={plane.y}
+        label={sizeLabel(picture.y.size, say)}
+        at={left}
+        from={low}
+        to={top}
+        across={end}
+      />
+    </>
   );
 }
 
-function holds({ x, y }: ChangedBox, { witness }: ChangedRegion): boolean {
-  return x[0] <= witness.length && witness.length <= x[1] && y[0] <= witness.width && witness.width <= y[1];
+function holds({ x, y }: ChangedArea, { x: across, y: upwards }: Axes, witness: Plate): boolean {
+  const isIn = (side: readonly [number, number], value: number) => side[0] <= value && value <= side[1];
+  return isIn(x, witness[across]) && isIn(y, witness[upwards]);
 }
 
-/** Narrower boxes have no room for their rows; the title tells them all the same. */
-const kRoom = 44;
+/** Narrower areas have no room for their rows; the title tells them all the same. */
+const kRoom = { width: 44, height: 16 } as const;
+/** What is narrower is drawn so wide, to be seen at all. */
+const kLeast = 1.5;
 
-function Box({ box, scales, isChosen }: { box: ChangedBox; scales: Scales; isChosen: boolean }) {
+function Change({ area, plane, isChosen }: { area: ChangedArea; plane: Plane; isChosen: boolean }) {
   const say = useSay();
-  const { x, y } = scales;
-  const [left, top] = [x(box.x[0]), y(box.y[1])];
-  const [width, height] = [Math.max(1.5, x(box.x[1]) - left), Math.max(1.5, y(box.y[0]) - top)];
+  const box = rectangleOf(area, plane);
   const row = (line: number | null) =>
     line === null ? say(kComparisonWords.noRow) : say(kComparisonWords.row, line);
   return (
-    <g class={isChosen ? "map-region is-chosen" : "map-region"}>
-      <title>{`${row(box.oldRow)} → ${row(box.newRow)}`}</title>
-      <rect x={left} y={top} width={width} height={height} />
-      {width > kRoom && height > 16 && (
-        <text x={left + width / 2} y={top + height / 2 + 4} text-anchor="middle">
-          {box.oldRow ?? "∅"}→{box.newRow ?? "∅"}
+    <g fill={isChosen ? "#0969da" : "#9a6700"} font-family={kFont} font-size="11">
+      <title>{`${row(area.oldRow)} → ${row(area.newRow)}`}</title>
+      <rect
+        {...box}
+        width={Math.max(kLeast, box.width)}
+        height={Math.max(kLeast, box.height)}
+        fill-opacity={isChosen ? 0.35 : 0.16}
+        stroke={isChosen ? "#0969da" : "#9a6700"}
+        stroke-width={isChosen ? 2.5 : 1}
+      />
+      {box.width > kRoom.width && box.height > kRoom.height && (
+        <text {...middle(box)} dy="0.36em" text-anchor="middle" fill={kInk}>
+          {area.oldRow ?? "∅"}→{area.newRow ?? "∅"}
         </text>
       )}
     </g>
   );
 }
 
-/** Where the example itself lies. */
-function Example({ region, scales }: { region: ChangedRegion; scales: Scales }) {
-  const { x, y } = scales;
+interface DrawingProps {
+  readonly svg: RefObject<SVGSVGElement | null>;
+  readonly picture: PictureOfChanges;
+  readonly plane: Plane;
+  readonly axes: Axes;
+  readonly region: ChangedRegion;
+  readonly title: string;
+}
+
+function Drawing({ svg, picture, plane, axes, region, title }: DrawingProps) {
+  const { width, height } = kFrame;
+  const { witness } = region;
   return (
-    <path
-      class="map-example"
-      d="M-6 0H6M0 -6V6"
-      transform={`translate(${x(region.witness.length)} ${y(region.witness.width)})`}
-    />
+    <svg ref={svg} viewBox={`0 0 ${width} ${height}`} role="img" aria-label={title}>
+      <rect width={width} height={height} fill={kPaper} />
+      <Frame picture={picture} plane={plane} />
+      {ofGroup(picture, region.group).map((area, index) => (
+        <Change key={index} area={area} plane={plane} isChosen={holds(area, axes, witness)} />
+      ))}
+      <path
+        d="M-6 0H6M0 -6V6"
+        stroke={kInk}
+        stroke-width="2"
+        transform={`translate(${plane.x(witness[axes.x])} ${plane.y(witness[axes.y])})`}
+      />
+    </svg>
+  );
+}
+
+/** Where the cut lies: the sizes that it does not span, and the colour. */
+function titleOf({ witness }: ChangedRegion, axes: Axes, say: Say): string {
+  const sizes = kSizes
+    .filter((size) => size !== axes.x && size !== axes.y)
+    .map((size) => `${say(kSizeWords[size])} ${shown(witness[size])}`);
+  return say(kComparisonWords.regionsMap, sizes.join(say(kMapWords.joint)), witness.color);
+}
+
+interface ChoicesProps {
+  readonly axes: Axes;
+  readonly logs: Logs;
+  setAxes(axes: Axes): void;
+  setLogs(logs: Logs): void;
+  readonly children: ComponentChildren;
+}
+
+function Choices({ axes, logs, setAxes, setLogs, children }: ChoicesProps) {
+  return (
+    <form class="region-axes no-print" onSubmit={(event) => event.preventDefault()}>
+      {(["x", "y"] as const).map((axis) => (
+        <AxisChoice
+          key={axis}
+          axis={axis}
+          size={axes[axis]}
+          isLog={logs[axis]}
+          choose={(size) => setAxes(withAxis(axes, axis, size))}
+          setLog={(isLog) => setLogs({ ...logs, [axis]: isLog })}
+        />
+      ))}
+      {children}
+    </form>
   );
 }
 
 export function RegionMap({ pair, region }: { pair: Pair; region: ChangedRegion }) {
   const say = useSay();
-  const answer = usePicture(pair, region);
+  const svg = useRef<SVGSVGElement>(null);
+  const [axes, setAxes] = useState<Axes>({ x: "length", y: "width" });
+  const [logs, setLogs] = useState<Logs>({ x: false, y: false });
+  const answer = usePicture(pair, region, axes);
   if (answer.state === "failed") return <Failure error={answer.error} />;
   const picture = answer.value;
   if (picture === undefined) return <figure class="region-map" />;
-  const scales = scalesOf(picture);
-  const { thickness, weight, color } = region.witness;
-  const title = say(kComparisonWords.regionsMap, String(thickness), String(weight), color);
-  const chosen = picture.regions.filter((box) => holds(box, region));
+  const title = titleOf(region, axes, say);
+  // An answer to the question before has the axes of before.
+  const drawn = { x: picture.x.size, y: picture.y.size };
   return (
-    <figure class="region-map">
+    <figure class="region-map" aria-busy={answer.state === "running"}>
       <figcaption>{title}</figcaption>
-      <svg viewBox={`0 0 ${kWidth} ${kHeight}`} role="img" aria-label={title}>
-        <Axes {...scales} />
-        {picture.regions.map((box, index) => (
-          <Box key={index} box={box} scales={scales} isChosen={chosen.includes(box)} />
-        ))}
-        <Example region={region} scales={scales} />
-      </svg>
+      <Choices axes={axes} logs={logs} setAxes={setAxes} setLogs={setLogs}>
+        <SaveButtons
+          picture={() => svg.current}
+          name={`${say(kComparisonWords.mapName)}-${drawn.x}-${drawn.y}`}
+        />
+      </Choices>
+      {!picture.complete && (
+        <p class="map-note" role="status">
+          {say(kMapWords.incomplete)}
+        </p>
+      )}
+      <Drawing
+        svg={svg}
+        picture={picture}
+        plane={planeOf(picture, logs)}
+        axes={drawn}
+        region={region}
+        title={title}
+      />
       <p class="quiet">{say(kComparisonWords.mapLegend)}</p>
     </figure>
   );

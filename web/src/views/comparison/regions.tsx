@@ -4,14 +4,13 @@ import { useMemo, useState } from "preact/hooks";
 import { Empty } from "../../app/parts/failure";
 import { useSay } from "../../app/state";
 import type { ChangedRegion } from "../../model/diff";
-import type { Bounds, Box, Group, SizeName } from "../../model/plate";
+import { type Bounds, type Box, type Group, kSizes, type SizeName } from "../../model/plate";
 import { kComparisonWords } from "../../words/comparison";
+import { kSizeWords } from "../../words/plate";
 import type { Say } from "../../words/say";
 import { PlateLine } from "../findings/finding_detail";
 import { RegionMap } from "./region_map";
 import type { Pair } from "./use_difference";
-
-const kSizes: readonly SizeName[] = ["length", "width", "thickness", "weight"];
 
 /** The drawing tool's number for "no bound". */
 const kUnbounded = 999_999;
@@ -66,7 +65,7 @@ function RangeBar({ size, bounds, most }: { size: SizeName; bounds: Bounds; most
   const start = Math.min((low / most) * 92, 99);
   return (
     <div class="range">
-      <span class="range-name">{say(kComparisonWords.sizes[size])}</span>
+      <span class="range-name">{say(kSizeWords[size])}</span>
       <svg class="range-bar" viewBox="0 0 100 8" preserveAspectRatio="none" aria-hidden="true">
         <rect x="0" y="3" width="100" height="2" class="range-ground" />
         <rect x={start} y="1" width={Math.max(1, end - start)} height="6" class="range-part" />

@@ -12,22 +12,21 @@ export interface Pair {
   readonly now: Workspace;
 }
 
-/** The files of plates of both folders would have one name; the first one that has any tells the plates. */
-function platesOf({ old, now }: Pair): InputFile | undefined {
-  return old.folder === "config" ? (old.plates ?? now.plates) : (now.plates ?? old.plates);
+/** Files of plates of both folders may have one name; the first folder that has any tells the plates. */
+function platesOf({ old, now }: Pair): readonly InputFile[] {
+  const [first, second] = old.folder === "config" ? [old, now] : [now, old];
+  return first.plates.length > 0 ? first.plates : second.plates;
 }
 
 export function useDifference(pair: Pair, listsAll: boolean): Answer<Difference> {
   const { engine, language } = useApp();
   const { old, now } = pair;
   const files = useMemo(() => {
-    const plates = platesOf({ old, now });
-    return [...old.files, ...now.files, ...(plates === undefined ? [] : [plates])];
+    return [...old.files, ...now.files, ...platesOf({ old, now })];
   }, [old, now]);
   const args = useMemo(() => {
-    const plates = platesOf({ old, now });
     const options = [
-      ...(plates === undefined ? [] : ["--plates", plates.path]),
+      ...platesOf({ old, now }).flatMap(({ path }) => ["--plates", path]),
       ...(listsAll ? ["--limit", "0"] : []),
     ];
     return ["diff", old.folder, now.folder, ...options, "--format", "json", "--lang", language];

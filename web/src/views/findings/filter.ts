@@ -1,5 +1,6 @@
 // Which findings are listed.
 
+import { byGravity } from "../../app/parts/severity";
 import type { Finding, Severity } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Say } from "../../words/say";
@@ -28,13 +29,9 @@ function passes(finding: Finding, { severities, file, code, text }: Filter): boo
   return text === "" || holds(finding, text.toLowerCase());
 }
 
-const kRanks: Readonly<Record<Severity, number>> = { error: 0, warning: 1, hint: 2 };
-
 /** The graver ones first, otherwise in the order of the report. */
 export function listedFindings(findings: readonly Finding[], filter: Filter): readonly Finding[] {
-  return findings
-    .filter((finding) => passes(finding, filter))
-    .sort((one, two) => kRanks[one.severity] - kRanks[two.severity]);
+  return findings.filter((finding) => passes(finding, filter)).sort(byGravity);
 }
 
 /** How often each value occurs, the most frequent first. */

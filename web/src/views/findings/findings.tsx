@@ -41,13 +41,14 @@ function useSaveCsv(): () => Promise<void> {
 
 function ListBar({ listed, report }: { listed: readonly Finding[]; report: CheckReport }) {
   const say = useSay();
+  const { tell } = useApp();
   const saveCsv = useSaveCsv();
   return (
     <div class="bar">
       <span role="status">{say(kFindingsWords.shown, listed.length, report.findings.length)}</span>
       <span class="spring" />
       <CopyButton text={asText(listed, say)} label={say(kFindingsWords.copy)} />
-      <button type="button" class="small" onClick={() => void saveCsv()}>
+      <button type="button" class="small" onClick={() => void saveCsv().catch(tell)}>
         {say(kFindingsWords.csv)}
       </button>
     </div>

@@ -10,7 +10,7 @@ import { kFindingsWords } from "../../words/findings";
 const kWords = kFindingsWords.manifest;
 
 export function MissingManifest() {
-  const { engine, workspace, language, addFile } = useApp();
+  const { engine, workspace, language, addFile, tell } = useApp();
   const say = useSay();
   const [run, setRun] = useState<Run | undefined>();
   if (workspace === undefined) return null;
@@ -25,7 +25,7 @@ export function MissingManifest() {
       <h2>{say(kWords.title)}</h2>
       <p>{say(kWords.text)}</p>
       {run !== undefined && <Failure error={(run.err + run.out).trim()} />}
-      <button type="button" class="main-button" onClick={() => void find()}>
+      <button type="button" class="main-button" onClick={() => void find().catch(tell)}>
         {say(kWords.find)}
       </button>
     </section>

@@ -152,6 +152,12 @@ export function Grid(props: GridProps) {
     if (selected.column > 0) columns.scrollToIndex(selected.column - 1, { align: "auto" });
   }, [selected?.row, selected?.column, cells, rows, columns]);
 
+  // Who was sent here goes on by keys; whoever is elsewhere on the page stays there.
+  useEffect(() => {
+    const at = document.activeElement;
+    if (at === document.body || at?.matches(".panel")) scroller.current?.focus({ preventScroll: true });
+  }, []);
+
   const onKeyDown = (event: TargetedKeyboardEvent<HTMLDivElement>) => {
     const spot = selected ?? { row: 1, column: 1 };
     if ((event.ctrlKey || event.metaKey) && event.key === "c" && String(getSelection()) === "") {

@@ -1,5 +1,6 @@
 // Names of cells, as spreadsheets and findings write them.
 
+import { byGravity } from "../../app/parts/severity";
 import type { Finding, Severity } from "../../model/check";
 import type { TableCells } from "../../model/cells";
 
@@ -49,15 +50,13 @@ export function spotOfFinding(finding: Finding, cells: TableCells): Spot | undef
   return row === undefined ? undefined : { row, column: 0 };
 }
 
-const kRanks: Readonly<Record<Severity, number>> = { error: 0, warning: 1, hint: 2 };
-
 /** Row by row, each from the left. */
 export function inOrder(one: Spot, two: Spot): number {
   return one.row - two.row || one.column - two.column;
 }
 
 export function worst(findings: readonly Finding[]): Severity | undefined {
-  return [...findings].sort((one, two) => kRanks[one.severity] - kRanks[two.severity])[0]?.severity;
+  return [...findings].sort(byGravity)[0]?.severity;
 }
 
 /** What the library takes a wrong cell for, where that is another text than the cell's. */

@@ -3,7 +3,7 @@
 import { useMemo } from "preact/hooks";
 import { OpenFirst } from "../../app/parts/failure";
 import { roleName } from "../../app/parts/role_name";
-import { shownFile, useApp, useSay, type Workspace } from "../../app/state";
+import { filesBeside, shownFile, useApp, useSay, type Workspace } from "../../app/state";
 import { type CheckReport, type Finding, kRuleTable, type Role } from "../../model/check";
 import { kGridWords } from "../../words/grid";
 import type { Text } from "../../words/say";
@@ -27,7 +27,6 @@ function listed(path: string, role?: Role): ListedFile {
 /** Tables in the order of their roles, then what no role names. */
 function groupsOf(workspace: Workspace, report: CheckReport | undefined): readonly ListedGroup[] {
   const tables = (report?.checked.tables ?? []).map((table) => listed(table.file, table));
-  const beside = [workspace.plates, workspace.holes, workspace.holeTypes].flatMap((file) => file ?? []);
   const others = workspace.files.filter(
     ({ path }) => /\.csv$/i.test(path) && !tables.some((table) => table.path === path),
   );
@@ -35,7 +34,9 @@ function groupsOf(workspace: Workspace, report: CheckReport | undefined): readon
     { title: kGridWords.tables, files: tables },
     {
       title: kGridWords.besideTables,
-      files: beside.filter(({ path }) => /\.csv$/i.test(path)).map(({ path }) => listed(path)),
+      files: filesBeside(workspace)
+        .filter(({ path }) => /\.csv$/i.test(path))
+        .map(({ path }) => listed(path)),
     },
     { title: kGridWords.otherFiles, files: others.map(({ path }) => listed(path)) },
   ].filter(({ files }) => files.length > 0);

@@ -2,14 +2,13 @@
 
 import { useMemo } from "preact/hooks";
 import { type Answer, useAnswer } from "../../app/answer";
-import { useApp, type Workspace } from "../../app/state";
+import { filesOf, useApp, type Workspace } from "../../app/state";
 import type { InputFile } from "../../engine/engine";
 import type { TableCells } from "../../model/cells";
 
 export function fileNamed(workspace: Workspace | undefined, path: string | undefined): InputFile | undefined {
   if (workspace === undefined || path === undefined) return undefined;
-  const beside = [workspace.plates, workspace.holes, workspace.holeTypes];
-  return [...workspace.files, ...beside].find((file) => file?.path === path);
+  return filesOf(workspace).find((file) => file.path === path);
 }
 
 /** Undefined `path` asks nothing; a file that is not there is told by the program. */

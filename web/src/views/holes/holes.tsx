@@ -20,10 +20,17 @@ const kItemHeight = 38;
 function useHoles() {
   const { engine, language, workspace } = useApp();
   const files = useFiles();
-  const types = workspace?.holeTypes?.path;
-  const holes = workspace?.holes?.path;
-  const isAsked = types !== undefined && holes !== undefined;
-  const inputs = isAsked ? ["--types", types, "--lang", language, holes] : undefined;
+  const types = workspace?.holeTypes ?? [];
+  const holes = workspace?.holes ?? [];
+  const isAsked = types.length > 0 && holes.length > 0;
+  const inputs = isAsked
+    ? [
+        ...types.flatMap(({ path }) => ["--types", path]),
+        "--lang",
+        language,
+        ...holes.map(({ path }) => path),
+      ]
+    : undefined;
   return {
     picture: useAnswer<HolesPicture>(engine, inputs && ["picture", "holes", ...inputs], files),
     matches: useAnswer<readonly MatchedHole[]>(
@@ -120,11 +127,11 @@ export function Holes() {
   const { picture, matches } = useHoles();
   if (workspace === undefined) return <OpenFirst />;
   const { holes, holeTypes } = workspace;
-  if (holes === undefined || holeTypes === undefined) {
+  if (holes.length === 0 || holeTypes.length === 0) {
     const words =
-      holes !== undefined
+      holes.length > 0
         ? kHoleWords.openTypes
-        : holeTypes !== undefined
+        : holeTypes.length > 0
           ? kHoleWords.openOnlyTypes
           : kHoleWords.openHoles;
     return <Empty>{say(words)}</Empty>;

@@ -2,19 +2,16 @@
 
 import { useId, useState } from "preact/hooks";
 import { useSay } from "../../app/state";
+import { AxisChoice } from "../../drawing/axis_choice";
 import { typed } from "../../drawing/numbers";
+import type { Logs } from "../../drawing/plane";
 import type { ColorClass, RuleMapPicture } from "../../model/pictures";
-import type { SizeName } from "../../model/plate";
+import { kSizes, type SizeName } from "../../model/plate";
 import { kMapWords } from "../../words/map";
 import { kSizeWords } from "../../words/plate";
 import type { MapQuestion } from "./question";
-import { kSizes, otherSizes, withAxis, withFixed } from "./question";
+import { otherSizes, withAxis, withFixed } from "./question";
 import { sizeLabel } from "./plane";
-
-export interface Logs {
-  readonly x: boolean;
-  readonly y: boolean;
-}
 
 interface ControlsProps {
   readonly question: MapQuestion;
@@ -25,31 +22,14 @@ interface ControlsProps {
 }
 
 function Axis({ axis, question, picture, logs, ask, setLogs }: ControlsProps & { axis: "x" | "y" }) {
-  const say = useSay();
-  const id = useId();
   return (
-    <div class="map-axis">
-      <label for={id}>{say(axis === "x" ? kMapWords.across : kMapWords.upwards)}</label>
-      <select
-        id={id}
-        value={question[axis]}
-        onChange={(event) => ask(withAxis(question, axis, event.currentTarget.value as SizeName, picture))}
-      >
-        {kSizes.map((size) => (
-          <option key={size} value={size}>
-            {say(kSizeWords[size])}
-          </option>
-        ))}
-      </select>
-      <label class="tick" title={say(axis === "x" ? kMapWords.logX : kMapWords.logY)}>
-        <input
-          type="checkbox"
-          checked={logs[axis]}
-          onChange={(event) => setLogs({ ...logs, [axis]: event.currentTarget.checked })}
-        />
-        {say(kMapWords.log)}
-      </label>
-    </div>
+    <AxisChoice
+      axis={axis}
+      size={question[axis]}
+      isLog={logs[axis]}
+      choose={(size) => ask(withAxis(question, axis, size, picture))}
+      setLog={(isLog) => setLogs({ ...logs, [axis]: isLog })}
+    />
   );
 }
 
@@ -79,10 +59,11 @@ function Fixed({ size, question, picture, ask }: ControlsProps & { size: SizeNam
   const story = picture?.sizes[size];
   const value = question.fixed[size] ?? picture?.fixed[size];
   if (story === undefined || value === undefined) return null;
-  const [from, to] = story.shown;
+  const { from, to, step } = story.slider;
   const set = (text: string) => {
     const number = Number(text);
-    if (text !== "" && Number.isFinite(number) && number >= 0) ask(withFixed(question, size, number));
+    const isPossible = from > 0 ? number > 0 : number >= 0;
+    if (text !== "" && Number.isFinite(number) && isPossible) ask(withFixed(question, size, number));
   };
   return (
     <div class="map-fixed">
@@ -93,7 +74,7 @@ function Fixed({ size, question, picture, ask }: ControlsProps & { size: SizeNam
         aria-label={say(kSizeWords[size])}
         min={from}
         max={to}
-        step={to - from > 100 ? 1 : 0.1}
+        step={step}
         list={`${id}-bounds`}
         value={value}
         onInput={(event) => set(event.currentTarget.value)}

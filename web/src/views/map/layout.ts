@@ -1,47 +1,21 @@
 // Where everything of the map lies in its picture, in the picture's own units.
 
-import type { SizeRange, SizeScale } from "../../drawing/scales";
-import { sizeScale } from "../../drawing/scales";
+import type { Logs, Plane, Rectangle, Zoom } from "../../drawing/plane";
+import { planeOver, rectangleOf } from "../../drawing/plane";
 import type { Area, RuleMapPicture } from "../../model/pictures";
 
 export const kFrame = { width: 960, height: 640, left: 72, right: 16, top: 34, bottom: 50 } as const;
 
-export interface Plane {
-  readonly x: SizeScale;
-  readonly y: SizeScale;
+export function planeOf(picture: RuleMapPicture, zoom: Zoom, logs: Logs): Plane {
+  const low = (side: "x" | "y") => picture.hull?.[picture[side].size][0] ?? 0;
+  return planeOver(picture, zoom, logs, { x: low("x"), y: low("y") }, kFrame);
 }
 
-export interface Rectangle {
-  readonly x: number;
-  readonly y: number;
-  readonly width: number;
-  readonly height: number;
-}
-
-export interface Zoom {
-  readonly x?: SizeRange | undefined;
-  readonly y?: SizeRange | undefined;
-}
-
-/** A logarithmic axis that has no end at 0 begins a little below where the rows do. */
-function wholeRange(picture: RuleMapPicture, side: "x" | "y", isLog: boolean): SizeRange {
-  const { size, from, to } = picture[side];
-  const low = picture.hull?.[size][0] ?? 0;
-  return { from: isLog && from === 0 && low > 0 ? low * 0.7 : from, to };
-}
-
-export function planeOf(picture: RuleMapPicture, zoom: Zoom, isLogX: boolean, isLogY: boolean): Plane {
-  const { width, height, left, right, top, bottom } = kFrame;
-  return {
-    x: sizeScale(zoom.x ?? wholeRange(picture, "x", isLogX), [left, width - right], isLogX),
-    y: sizeScale(zoom.y ?? wholeRange(picture, "y", isLogY), [height - bottom, top], isLogY),
-  };
-}
-
-export function rectangleOf({ x, y }: Area, plane: Plane): Rectangle {
-  const [left, right] = [plane.x(x[0]), plane.x(x[1])];
-  const [low, high] = [plane.y(y[0]), plane.y(y[1])];
-  return { x: left, y: high, width: right - left, height: low - high };
+/** Whether there is something out of sight. */
+export function isPart(plane: Plane, whole: Plane): boolean {
+  const isPartOf = (axis: "x" | "y") =>
+    plane[axis].from > whole[axis].from || plane[axis].to < whole[axis].to;
+  return isPartOf("x") || isPartOf("y");
 }
 
 const kLabelWidth = 24;
@@ -57,6 +31,13 @@ export function labelled(areas: readonly Area[], plane: Plane): readonly Rectang
     .slice(0, kLabelsPerRow);
 }
 
-export function middle({ x, y, width, height }: Rectangle): { x: number; y: number } {
-  return { x: x + width / 2, y: y + height / 2 };
+function sizeOf({ x, y }: Area): number {
+  return (x[1] - x[0]) * (y[1] - y[0]);
+}
+
+/** Hatching tells something while it is the exception: when more is hidden than won it would cover everything. */
+export function isReadable({ regions }: RuleMapPicture): boolean {
+  const all = (areas: (region: RuleMapPicture["regions"][number]) => readonly Area[]) =>
+    regions.reduce((sum, region) => areas(region).reduce((some, area) => some + sizeOf(area), sum), 0);
+  return all(({ hidden }) => hidden) <= all(({ wins }) => wins);
 }

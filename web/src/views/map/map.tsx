@@ -7,22 +7,21 @@ import { useKept } from "../../app/parts/kept";
 import { useOpenRow } from "../../app/parts/row_link";
 import { useApp, useSay } from "../../app/state";
 import { shown } from "../../drawing/numbers";
+import type { Logs, Zoom } from "../../drawing/plane";
 import { SaveButtons } from "../../drawing/save_buttons";
+import { ZoomButtons } from "../../drawing/zoom_buttons";
 import type { RuleMapPicture } from "../../model/pictures";
-import { kDrawingWords } from "../../words/drawing";
 import { kMapWords } from "../../words/map";
 import { kSizeWords } from "../../words/plate";
 import type { Say } from "../../words/say";
-import { useColors, useFiles } from "../plate/asking";
+import { useFiles } from "../plate/asking";
 import { rowColors } from "./colors";
-import type { Logs } from "./controls";
 import { Controls } from "./controls";
 import type { Place } from "./hits";
 import { hitAt } from "./hits";
-import type { Zoom } from "./layout";
-import { planeOf } from "./layout";
+import { isPart, isReadable, planeOf } from "./layout";
 import { MapPicture } from "./plane";
-import { middleOf, usePointing, zoomAround } from "./pointing";
+import { middleOf, movedByShare, usePointing, zoomAround } from "./pointing";
 import type { MapQuestion } from "./question";
 import { kFirstQuestion, mapArguments } from "./question";
 import { Rows } from "./rows";
@@ -30,7 +29,6 @@ import { questionFor, Steps, useSteps } from "./steps";
 import "./map.css";
 
 const kSlidePause = 60;
-const kZoomStep = 0.7;
 
 function useMap(question: MapQuestion) {
   const { engine, language, workspace } = useApp();
@@ -76,7 +74,6 @@ function Notes({ picture }: { picture: RuleMapPicture }) {
 function MapPane() {
   const say = useSay();
   const openRow = useOpenRow();
-  const colors = useColors();
   const steps = useSteps();
   const svg = useRef<SVGSVGElement>(null);
   const [question, ask] = useKept<MapQuestion>("map-question", kFirstQuestion);
@@ -85,11 +82,14 @@ function MapPane() {
   const [cross, point] = useState<Place | undefined>();
   const [outlined, outline] = useState<number | undefined>();
   const [at, setAt] = useKept<number | undefined>("map-step", undefined);
-  const [showsHidden, setShowsHidden] = useState(false);
+  const [wantsHidden, setWantsHidden] = useState<boolean | undefined>();
 
   const answer = useMap(question);
   const picture = answer.value;
-  const plane = useMemo(() => picture && planeOf(picture, zoom, logs.x, logs.y), [picture, zoom, logs]);
+  const plane = useMemo(() => picture && planeOf(picture, zoom, logs), [picture, zoom, logs]);
+  const whole = useMemo(() => picture && planeOf(picture, {}, logs), [picture, logs]);
+  const isClear = useMemo(() => picture !== undefined && isReadable(picture), [picture]);
+  const showsHidden = wantsHidden ?? isClear;
   const rows = useMemo(() => rowColors(picture?.regions ?? []), [picture]);
   useEffect(() => setZoom({}), [question.x, question.y]);
 
@@ -97,7 +97,7 @@ function MapPane() {
     const winner = picture && hitAt(picture, place).winner;
     if (winner !== undefined) openRow(winner.row);
   };
-  const handlers = usePointing({ svg, picture, plane, cross, zoom, point, setZoom, openAt });
+  const handlers = usePointing({ svg, plane, whole, cross, zoom, point, setZoom, openAt });
 
   const finding = at === undefined ? undefined : steps[at];
   const go = (next: number) => {
@@ -105,12 +105,15 @@ function MapPane() {
     const step = steps[next];
     if (step?.witness === undefined) return;
     setZoom({});
-    ask(questionFor(step, question, colors));
+    ask(questionFor(step, question));
   };
   const { witness } = finding ?? {};
   const shownPlace = cross ?? (witness && { x: witness[question.x], y: witness[question.y] });
   const zoomBy = (factor: number) => {
-    if (picture && plane) setZoom(zoomAround(picture, plane, shownPlace ?? middleOf(plane), factor));
+    if (plane && whole) setZoom(zoomAround(plane, whole, shownPlace ?? middleOf(plane), factor));
+  };
+  const moveBy = (right: number, down: number) => {
+    if (plane && whole) setZoom(movedByShare(plane, whole, right, down));
   };
 
   return (
@@ -140,27 +143,16 @@ function MapPane() {
                   <input
                     type="checkbox"
                     checked={showsHidden}
-                    onChange={(event) => setShowsHidden(event.currentTarget.checked)}
+                    onChange={(event) => setWantsHidden(event.currentTarget.checked)}
                   />
                   {say(kMapWords.allHidden)}
                 </label>
-                <button
-                  type="button"
-                  onClick={() => zoomBy(kZoomStep)}
-                  aria-label={say(kDrawingWords.zoomIn)}
-                >
-                  ＋
-                </button>
-                <button
-                  type="button"
-                  onClick={() => zoomBy(1 / kZoomStep)}
-                  aria-label={say(kDrawingWords.zoomOut)}
-                >
-                  －
-                </button>
-                <button type="button" onClick={() => setZoom({})}>
-                  {say(kDrawingWords.whole)}
-                </button>
+                <ZoomButtons
+                  isZoomed={whole !== undefined && isPart(plane, whole)}
+                  zoomBy={zoomBy}
+                  moveBy={moveBy}
+                  reset={() => setZoom({})}
+                />
                 <SaveButtons
                   picture={() => svg.current}
                   name={`${say(kMapWords.map)}-${question.x}-${question.y}`}

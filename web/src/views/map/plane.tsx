@@ -1,10 +1,13 @@
 // The picture: each row's areas in its colour, what is hidden of a row hatched, gaps crossed out.
 
 import type { RefObject } from "preact";
+import { useMemo } from "preact/hooks";
 import { LeftAxis, LowerAxis } from "../../drawing/axes";
 import { GapHatch, HiddenHatch } from "../../drawing/hatch";
 import { kAlarm, kFont, kInk, kPaper, kQuiet } from "../../drawing/looks";
 import { shown } from "../../drawing/numbers";
+import type { Plane } from "../../drawing/plane";
+import { middle, pathOf } from "../../drawing/plane";
 import { useSay } from "../../app/state";
 import type { Area, Region, RuleMapPicture } from "../../model/pictures";
 import type { SizeName } from "../../model/plate";
@@ -12,35 +15,90 @@ import { kMapWords } from "../../words/map";
 import { kSizeWords } from "../../words/plate";
 import type { Say } from "../../words/say";
 import type { Place } from "./hits";
-import type { Plane } from "./layout";
-import { kFrame, labelled, middle, rectangleOf } from "./layout";
+import { kFrame, labelled } from "./layout";
 
 export function sizeLabel(size: SizeName, say: Say): string {
   return size === "weight" ? say(kSizeWords.weight) : say(kMapWords.unit, say(kSizeWords[size]));
 }
 
+/** One element, however many areas there are. */
 function Areas({
   areas,
   plane,
   ...look
 }: { areas: readonly Area[]; plane: Plane } & Record<string, unknown>) {
+  return <path d={pathOf(areas, plane)} {...look} />;
+}
+
+const kGapLabelWidth = 34;
+
+function Labels({ picture, plane }: { picture: RuleMapPicture; plane: Plane }) {
+  const say = useSay();
   return (
-    <g {...look}>
-      {areas.map((area, index) => {
-        const box = rectangleOf(area, plane);
-        return box.width > 0 && box.height > 0 ? <rect key={index} {...box} /> : null;
-      })}
+    <g
+      font-family={kFont}
+      font-size="13"
+      font-weight="600"
+      text-anchor="middle"
+      fill={kInk}
+      stroke={kPaper}
+      stroke-width="3"
+      paint-order="stroke"
+      stroke-linejoin="round"
+    >
+      {picture.regions.flatMap(({ row, wins }) =>
+        labelled(wins, plane).map((box, index) => (
+          <text key={`${row}-${index}`} {...middle(box)} dy="0.36em">
+            {row}
+          </text>
+        )),
+      )}
+      <g fill={kAlarm}>
+        {labelled(picture.gaps, plane)
+          .filter(({ width }) => width >= kGapLabelWidth)
+          .map((box, index) => (
+            <text key={index} {...middle(box)} dy="0.36em">
+              {say(kMapWords.gap)}
+            </text>
+          ))}
+      </g>
     </g>
   );
 }
 
-function RowLabels({ region, plane }: { region: Region; plane: Plane }) {
+/** The areas of all rows that have the same colour. */
+function byColor(
+  regions: readonly Region[],
+  colors: ReadonlyMap<number, string>,
+): readonly (readonly [string, readonly Area[]])[] {
+  const areas = new Map<string, Area[]>();
+  for (const { row, wins } of regions) {
+    const color = colors.get(row) ?? kQuiet;
+    const some = areas.get(color);
+    if (some === undefined) areas.set(color, [...wins]);
+    else some.push(...wins);
+  }
+  return [...areas];
+}
+
+function Wins({
+  regions,
+  colors,
+  plane,
+  opacity,
+}: Pick<MapPictureProps, "colors" | "plane"> & { regions: readonly Region[]; opacity: number }) {
   return (
     <>
-      {labelled(region.wins, plane).map((box, index) => (
-        <text key={index} {...middle(box)} dy="0.36em">
-          {region.row}
-        </text>
+      {byColor(regions, colors).map(([color, areas]) => (
+        <Areas
+          key={color}
+          areas={areas}
+          plane={plane}
+          fill={color}
+          stroke={color}
+          stroke-width="0.7"
+          opacity={opacity}
+        />
       ))}
     </>
   );
@@ -119,11 +177,35 @@ interface MapPictureProps {
   readonly handlers: Record<string, unknown>;
 }
 
+/** What lies in the plane. The row that is pointed at stands out. */
+function Layers({ picture, plane, colors, outlined, showsHidden }: MapPictureProps) {
+  const region = picture.regions.find(({ row }) => row === outlined);
+  return (
+    <>
+      <Wins regions={picture.regions} colors={colors} plane={plane} opacity={region ? 0.35 : 0.72} />
+      {region && <Wins regions={[region]} colors={colors} plane={plane} opacity={0.6} />}
+      {showsHidden && (
+        <Areas
+          areas={picture.regions.flatMap(({ hidden }) => hidden)}
+          plane={plane}
+          class="map-hidden"
+          fill="url(#hidden-all)"
+          opacity="0.45"
+        />
+      )}
+      <Areas areas={picture.gaps} plane={plane} fill="url(#gap)" stroke={kAlarm} stroke-width="1" />
+      {region && <Outline region={region} plane={plane} />}
+      <Labels picture={picture} plane={plane} />
+    </>
+  );
+}
+
 export function MapPicture(props: MapPictureProps) {
   const { picture, plane, colors, svg, cross, outlined, showsHidden, handlers } = props;
   const say = useSay();
   const { left, right, top, bottom, width, height } = kFrame;
-  const region = picture.regions.find(({ row }) => row === outlined);
+  // A cross that moves leaves everything else as it is.
+  const layers = useMemo(() => <Layers {...props} />, [picture, plane, colors, outlined, showsHidden, say]);
   const description = say(
     kMapWords.describe,
     say(kSizeWords[picture.x.size]),
@@ -150,49 +232,7 @@ export function MapPicture(props: MapPictureProps) {
         </clipPath>
       </defs>
       <rect width={width} height={height} fill={kPaper} />
-      <g clip-path="url(#plane)">
-        {picture.regions.map((each) => (
-          <Areas
-            key={each.row}
-            areas={each.wins}
-            plane={plane}
-            fill={colors.get(each.row)}
-            stroke={colors.get(each.row)}
-            stroke-width="0.7"
-            opacity={outlined === undefined || outlined === each.row ? 0.72 : 0.35}
-          />
-        ))}
-        {showsHidden &&
-          picture.regions.map((each) => (
-            <Areas key={each.row} areas={each.hidden} plane={plane} fill="url(#hidden-all)" opacity="0.45" />
-          ))}
-        <Areas areas={picture.gaps} plane={plane} fill="url(#gap)" stroke={kAlarm} stroke-width="1" />
-        {region && <Outline region={region} plane={plane} />}
-        <g
-          font-family={kFont}
-          font-size="13"
-          font-weight="600"
-          text-anchor="middle"
-          fill={kInk}
-          stroke={kPaper}
-          stroke-width="3"
-          paint-order="stroke"
-          stroke-linejoin="round"
-        >
-          {picture.regions.map((each) => (
-            <RowLabels key={each.row} region={each} plane={plane} />
-          ))}
-          <g fill={kAlarm}>
-            {labelled(picture.gaps, plane).map((box, index) =>
-              box.width < 34 ? null : (
-                <text key={index} {...middle(box)} dy="0.36em">
-                  {say(kMapWords.gap)}
-                </text>
-              ),
-            )}
-          </g>
-        </g>
-      </g>
+      <g clip-path="url(#plane)">{layers}</g>
       <Frame picture={picture} plane={plane} />
       {cross && <Cross place={cross} plane={plane} />}
     </svg>

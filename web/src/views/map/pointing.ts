@@ -2,16 +2,17 @@
 
 import type { RefObject } from "preact";
 import { useEffect, useRef } from "preact/hooks";
-import { zoomed } from "../../drawing/scales";
-import type { RuleMapPicture } from "../../model/pictures";
+import type { Plane, Zoom } from "../../drawing/plane";
+import { moved, zoomed } from "../../drawing/scales";
+import { kMoveStep } from "../../drawing/zoom_buttons";
 import type { Place } from "./hits";
-import type { Plane, Zoom } from "./layout";
 import { kFrame } from "./layout";
 
 interface Pointing {
   readonly svg: RefObject<SVGSVGElement | null>;
-  readonly picture: RuleMapPicture | undefined;
   readonly plane: Plane | undefined;
+  /** What it is when nothing is zoomed. */
+  readonly whole: Plane | undefined;
   readonly cross: Place | undefined;
   readonly zoom: Zoom;
   point(place: Place | undefined): void;
@@ -44,25 +45,28 @@ function isInPlane({ x, y }: { x: number; y: number }): boolean {
   return x >= left && x <= width - right && y >= top && y <= height - bottom;
 }
 
-export function zoomAround(picture: RuleMapPicture, plane: Plane, place: Place, factor: number): Zoom {
+/** `whole` is the plane when nothing is zoomed. */
+export function zoomAround(plane: Plane, whole: Plane, place: Place, factor: number): Zoom {
   return {
-    x: zoomed(plane.x, factor, place.x, picture.x),
-    y: zoomed(plane.y, factor, place.y, picture.y),
+    x: zoomed(plane.x, factor, place.x, whole.x),
+    y: zoomed(plane.y, factor, place.y, whole.y),
   };
 }
 
 export function middleOf(plane: Plane): Place {
-  return { x: (plane.x.from + plane.x.to) / 2, y: (plane.y.from + plane.y.to) / 2 };
+  const along = ({ from, to, free }: Plane["x"]) => free.value((free.place(from) + free.place(to)) / 2);
+  return { x: along(plane.x), y: along(plane.y) };
 }
 
-/** Moves the whole plane by so many units of the picture. */
-function moved(picture: RuleMapPicture, plane: Plane, dx: number, dy: number): Zoom {
-  const along = (scale: Plane["x"], by: number, limits: { from: number; to: number }) => {
-    const wish = scale.invert(scale(scale.from) - by) - scale.from;
-    const step = Math.min(Math.max(wish, limits.from - scale.from), limits.to - scale.to);
-    return { from: scale.from + step, to: scale.to + step };
-  };
-  return { x: along(plane.x, dx, picture.x), y: along(plane.y, dy, picture.y) };
+/** The plane that lies so many units of the picture further to the right and further down. */
+export function movedBy(plane: Plane, whole: Plane, right: number, down: number): Zoom {
+  return { x: moved(plane.x, right, whole.x), y: moved(plane.y, down, whole.y) };
+}
+
+/** Moved by shares of what is in sight. */
+export function movedByShare(plane: Plane, whole: Plane, right: number, down: number): Zoom {
+  const { left, right: rim, top, bottom, width, height } = kFrame;
+  return movedBy(plane, whole, right * (width - left - rim), down * (height - top - bottom));
 }
 
 export function usePointing(pointing: Pointing): Record<string, unknown> {
@@ -75,12 +79,12 @@ export function usePointing(pointing: Pointing): Record<string, unknown> {
     const svg = pointing.svg.current;
     if (svg === null) return undefined;
     const onWheel = (event: WheelEvent) => {
-      const { picture, plane, setZoom } = latest.current;
+      const { plane, whole, setZoom } = latest.current;
       const spot = spotOf(svg, event);
-      if (picture === undefined || plane === undefined || spot === undefined || !isInPlane(spot)) return;
+      if (plane === undefined || whole === undefined || spot === undefined || !isInPlane(spot)) return;
       event.preventDefault();
       const place = { x: plane.x.invert(spot.x), y: plane.y.invert(spot.y) };
-      setZoom(zoomAround(picture, plane, place, kWheelFactor ** event.deltaY));
+      setZoom(zoomAround(plane, whole, place, kWheelFactor ** event.deltaY));
     };
     svg.addEventListener("wheel", onWheel, { passive: false });
     return () => svg.removeEventListener("wheel", onWheel);
@@ -94,20 +98,14 @@ export function usePointing(pointing: Pointing): Record<string, unknown> {
   };
 
   const onPointerMove = (event: PointerEvent) => {
-    const { svg, picture, plane, zoom, point, setZoom } = latest.current;
+    const { svg, plane, whole, zoom, point, setZoom } = latest.current;
     const spot = svg.current === null ? undefined : spotOf(svg.current, event);
     const from = drag.current;
     const isFar =
       from !== undefined && spot !== undefined && Math.hypot(spot.x - from.x, spot.y - from.y) > kClickReach;
-    if (
-      from !== undefined &&
-      spot !== undefined &&
-      (from.isMoved || isFar) &&
-      picture &&
-      plane &&
-      (zoom.x || zoom.y)
-    ) {
-      setZoom(moved(picture, plane, spot.x - from.x, spot.y - from.y));
+    const isMoving = (from?.isMoved ?? false) || isFar;
+    if (isMoving && from && spot && plane && whole && (zoom.x || zoom.y)) {
+      setZoom(movedBy(plane, whole, from.x - spot.x, from.y - spot.y));
       drag.current = { x: spot.x, y: spot.y, isMoved: true };
       return;
     }
@@ -115,14 +113,19 @@ export function usePointing(pointing: Pointing): Record<string, unknown> {
   };
 
   const onKeyDown = (event: KeyboardEvent) => {
-    const { plane, cross, point, openAt } = latest.current;
-    if (plane === undefined) return;
+    const { plane, whole, zoom, cross, point, setZoom, openAt } = latest.current;
+    if (plane === undefined || whole === undefined) return;
     const arrow = kArrows[event.key];
     const at = cross ?? middleOf(plane);
     if (event.key === "Enter" && cross !== undefined) openAt(cross);
     if (event.key === "Escape") point(undefined);
     if (arrow === undefined) return;
     event.preventDefault();
+    if (event.ctrlKey) {
+      const [right, down] = [arrow[0] * kMoveStep, arrow[1] * kMoveStep];
+      if (zoom.x || zoom.y) setZoom(movedByShare(plane, whole, right, down));
+      return;
+    }
     const step = event.shiftKey ? kFastStep : kStep;
     point({
       x: plane.x.invert(plane.x(at.x) + arrow[0] * step),

@@ -1,9 +1,7 @@
 // What the map asks the program: a plane of two sizes, and the plates that are drawn in it.
 
 import type { RuleMapPicture } from "../../model/pictures";
-import type { SizeName } from "../../model/plate";
-
-export const kSizes: readonly SizeName[] = ["length", "width", "thickness", "weight"];
+import { kSizes, type SizeName } from "../../model/plate";
 
 export interface MapQuestion {
   readonly x: SizeName;

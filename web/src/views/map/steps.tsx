@@ -6,13 +6,11 @@ import { SeverityMark } from "../../app/parts/severity";
 import { useApp, useSay } from "../../app/state";
 import { typed } from "../../drawing/numbers";
 import type { Finding } from "../../model/check";
-import type { Plate } from "../../model/plate";
-import type { Setting } from "../../model/show";
+import { kSizes, type Plate } from "../../model/plate";
 import { kMapWords } from "../../words/map";
 import { kSizeWords } from "../../words/plate";
 import { formOf, kTriedForm } from "../plate/form";
 import type { MapQuestion } from "./question";
-import { kSizes } from "./question";
 
 const kCodes = ["row-shadowed", "gap", "row-never-matches"];
 
@@ -23,28 +21,15 @@ export function useSteps(): readonly Finding[] {
   return kCodes.flatMap((code) => findings.filter((finding) => finding.code === code));
 }
 
-/** The names under which the rule table keeps the colours that stand for both answers. */
-const kProfileName = "有型面";
-const kWireCuttingName = "有线割";
-
-function hasFace(plate: Plate, name: string, parameters: readonly Setting[]): boolean {
-  const colors = parameters.find(({ column }) => column === name)?.value;
-  return Array.isArray(colors) && plate.faceColors.some((face) => colors.includes(face));
-}
-
 /** The picture in which the finding's example lies. */
-export function questionFor(
-  { witness, group }: Finding,
-  question: MapQuestion,
-  parameters: readonly Setting[],
-): MapQuestion {
+export function questionFor({ witness, group }: Finding, question: MapQuestion): MapQuestion {
   if (witness === undefined) return question;
   return {
     ...question,
     fixed: Object.fromEntries(kSizes.map((size) => [size, witness[size]])),
     bodyColor: witness.color,
-    profile: group?.profile ?? hasFace(witness, kProfileName, parameters),
-    wireCutting: group?.wireCutting ?? hasFace(witness, kWireCuttingName, parameters),
+    profile: group?.profile ?? false,
+    wireCutting: group?.wireCutting ?? false,
   };
 }
 

@@ -48,21 +48,28 @@ export function useColors(): readonly Setting[] {
   }, [answer.value]);
 }
 
+/** The paths of the files of plates; none is no question. */
+function usePlateFiles(): readonly string[] | undefined {
+  const { workspace } = useApp();
+  const paths = workspace?.plates.map(({ path }) => path) ?? [];
+  return paths.length === 0 ? undefined : paths;
+}
+
 export function usePlates() {
-  const { engine, workspace } = useApp();
-  const file = workspace?.plates?.path;
+  const { engine } = useApp();
+  const paths = usePlateFiles();
   const common = useCommon();
-  const args = file === undefined ? undefined : ["process", ...common, file];
+  const args = paths && ["process", ...common, ...paths];
   return useAnswer<readonly ProcessedPlate[]>(engine, args, useFiles());
 }
 
 /** The plates of this name as they were read. */
 export function useChosen(name: string | undefined) {
-  const { engine, workspace } = useApp();
-  const file = workspace?.plates?.path;
+  const { engine } = useApp();
+  const paths = usePlateFiles();
   const common = useCommon();
-  const isAsked = name !== undefined && file !== undefined;
-  const args = isAsked ? ["explain", ...common, "--rows", "1", "--plate", name, file] : undefined;
+  const isAsked = name !== undefined && paths !== undefined;
+  const args = isAsked ? ["explain", ...common, "--rows", "1", "--plate", name, ...paths] : undefined;
   return useAnswer<readonly ExplainedPlate[]>(engine, args, useFiles());
 }
 

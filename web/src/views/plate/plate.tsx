@@ -30,7 +30,9 @@ function useChoice(plates: readonly ProcessedPlate[] | undefined, fill: (form: P
     take(triedPlate);
   }, [plates, triedPlate]);
   const entry =
-    read.state === "done" ? read.value.find(({ fileLine }) => fileLine === chosen?.fileLine) : undefined;
+    read.state === "done"
+      ? read.value.find(({ file, fileLine }) => file === chosen?.file && fileLine === chosen.fileLine)
+      : undefined;
   useEffect(() => {
     if (entry !== undefined) fill(formOf(entry.plate));
   }, [entry]);

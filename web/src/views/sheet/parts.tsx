@@ -2,9 +2,10 @@
 
 import { useApp, useSay } from "../../app/state";
 import { shown } from "../../drawing/numbers";
-import type { SheetKey, SheetPart, SheetPicture, Specimen, UnknownPlace } from "../../model/pictures";
+import type { DrawnSheet, SheetKey, SheetPart, SheetPicture, UnknownPlace } from "../../model/pictures";
 import { kSheetWords } from "../../words/sheet";
 import type { Say } from "../../words/say";
+import { SpecimenDrawing, specimenText } from "./specimen";
 
 export function isOpenable(key: SheetKey): key is SheetKey & { file: string; cell: string } {
   return key.file !== null && key.cell !== null;
@@ -86,7 +87,7 @@ interface PartsProps {
   mark(part: SheetPart | undefined): void;
 }
 
-export function Parts({ parts, notes, marked, differing, side, mark }: PartsProps) {
+function Parts({ parts, notes, marked, differing, side, mark }: PartsProps) {
   const say = useSay();
   const { language } = useApp();
   const open = useOpenPart(side);
@@ -113,63 +114,52 @@ export function Parts({ parts, notes, marked, differing, side, mark }: PartsProp
   );
 }
 
-/** What is known of something without a place, drawn at its size. */
-function SpecimenMark({ specimen }: { specimen: Specimen }) {
-  switch (specimen.kind) {
-    case "circle":
-      return <>⌀{shown(specimen.diameter)}</>;
-    case "text":
-      return (
-        <>
-          {specimen.text !== null && `“${specimen.text}” `}
-          {specimen.textHeight !== null && `${shown(specimen.textHeight)} mm`}
-        </>
-      );
-    case "length":
-      return <>{shown(specimen.length)} mm</>;
-    case "rectangle":
-      return (
-        <>
-          {shown(specimen.width)} x {shown(specimen.height)} mm
-        </>
-      );
-    case "angle":
-      return <>{shown(specimen.degrees)}°</>;
-    case "line":
-    case "triangle":
-      return null;
-  }
+interface UnknownProps {
+  readonly place: UnknownPlace;
+  readonly differs: boolean;
+  readonly colors: ReadonlyMap<number | null, string>;
+  readonly side: "config" | "other";
 }
 
-function Unknown({ place, side }: { place: UnknownPlace; side: "config" | "other" }) {
+function Unknown({ place, differs, colors, side }: UnknownProps) {
+  const say = useSay();
   const { language } = useApp();
+  const label = place.what[language];
   return (
     <li>
-      <strong>{place.what[language]}</strong> {place.specimen && <SpecimenMark specimen={place.specimen} />}
+      <strong>{label}</strong> {specimenText(place, say)}
+      {differs && <span class="sheet-differs"> ≠ {say(kSheetWords.differs)}</span>}
+      {place.specimen && <SpecimenDrawing specimen={place.specimen} label={label} colors={colors} />}
       <span class="sheet-why">{place.why[language]}</span>
       <Keys keys={place.keys} side={side} />
     </li>
   );
 }
 
-export function Unknowns({ places, side }: { places: readonly UnknownPlace[]; side: "config" | "other" }) {
+interface UnknownsProps extends Omit<UnknownProps, "place" | "differs"> {
+  readonly places: readonly UnknownPlace[];
+  readonly differing: ReadonlySet<UnknownPlace>;
+}
+
+function Unknowns({ places, differing, ...props }: UnknownsProps) {
   const say = useSay();
   if (places.length === 0) return null;
   return (
-    <details>
+    <details open>
       <summary>
         {say(kSheetWords.unknown)} <span class="quiet">{places.length}</span>
       </summary>
+      <p class="quiet">{say(kSheetWords.atSize)}</p>
       <ul class="sheet-unknown">
         {places.map((place, index) => (
-          <Unknown key={index} place={place} side={side} />
+          <Unknown key={index} place={place} differs={differing.has(place)} {...props} />
         ))}
       </ul>
     </details>
   );
 }
 
-export function Assumed({ picture }: { picture: SheetPicture }) {
+function Assumed({ picture }: { picture: SheetPicture }) {
   const say = useSay();
   const { language } = useApp();
   if (picture.assumed.length === 0) return null;
@@ -182,5 +172,33 @@ export function Assumed({ picture }: { picture: SheetPicture }) {
         ))}
       </ol>
     </section>
+  );
+}
+
+interface ListsProps
+  extends Omit<PartsProps, "parts" | "notes">, Omit<UnknownsProps, "places" | "differing"> {
+  readonly picture: SheetPicture;
+  readonly sheet: DrawnSheet;
+  /** The folder's, where there are two. */
+  readonly name: string | undefined;
+  readonly differingPlaces: ReadonlySet<UnknownPlace>;
+}
+
+/** All that is said of one folder's sheet. */
+export function Lists({ picture, sheet, name, differingPlaces, colors, ...props }: ListsProps) {
+  const say = useSay();
+  const title = name === undefined ? say(kSheetWords.parts) : say(kSheetWords.partsOf, name);
+  return (
+    <>
+      <section aria-label={title}>
+        <h2>
+          {title} <span class="quiet">{sheet.parts.length}</span>
+        </h2>
+        <p class="quiet no-print">{say(kSheetWords.partsHint)}</p>
+        <Parts parts={sheet.parts} notes={picture.assumed.map(({ id }) => id)} {...props} />
+      </section>
+      <Unknowns places={sheet.unknown} differing={differingPlaces} colors={colors} side={props.side} />
+      <Assumed picture={picture} />
+    </>
   );
 }

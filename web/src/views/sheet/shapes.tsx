@@ -6,6 +6,11 @@ import type { SheetPart } from "../../model/pictures";
 /** A character of so many millimetres stands in a line a little higher. */
 export const kLinePerHeight = 1.15;
 
+/** About how long a text is. */
+export function lengthOfText(text: string, size: number): number {
+  return [...text].reduce((sum, letter) => sum + (letter > "\u02ff" ? 1 : 0.55), 0) * size;
+}
+
 interface ShapeProps {
   readonly part: SheetPart;
   /** What stands for a text that no setting has. */
@@ -113,7 +118,7 @@ export function boxOf(
     case "text": {
       const size = (part.textHeight ?? 3) * kLinePerHeight;
       const letters = part.text ?? `<${part.attribute ?? part.label.zh}>`;
-      const width = [...letters].reduce((sum, letter) => sum + (letter > "\u02ff" ? 1 : 0.55), 0) * size;
+      const width = lengthOfText(letters, size);
       return { x: part.x, y: part.anchor === "top-left" ? y : y - size, width, height: size };
     }
   }

@@ -11,17 +11,15 @@ import { lineColorAt } from "../../drawing/palette";
 import { drawnApart } from "../../drawing/save";
 import { SaveButtons } from "../../drawing/save_buttons";
 import { useViewBox } from "../../drawing/view_box";
+import { ZoomButtons } from "../../drawing/zoom_buttons";
 import type { DrawnSheet, SheetPart, SheetPicture } from "../../model/pictures";
-import { kDrawingWords } from "../../words/drawing";
 import { kSheetWords } from "../../words/sheet";
 import { kPapers, landscape, portrait } from "./paper";
-import { Assumed, Parts, Unknowns, useOpenPart } from "./parts";
-import { differing } from "./sameness";
+import { Lists, useOpenPart } from "./parts";
+import { differing, differingPlaces } from "./sameness";
 import { SavedSheet, SheetDrawing, wholeOf } from "./sheet_drawing";
 import "../../app/parts/common.css";
 import "./sheet.css";
-
-const kZoomStep = 0.7;
 
 interface SheetQuestion {
   readonly size: "large" | "small";
@@ -44,11 +42,17 @@ function useSheets(workspace: Workspace | undefined, { size, paper }: SheetQuest
   return useAnswer<SheetPicture>(engine, args, files);
 }
 
-/** A colour of the page for each colour index; none stated is ink. */
+function ascending(colors: readonly (number | null)[]): readonly number[] {
+  return [...new Set(colors)].filter((color) => color !== null).sort((a, b) => a - b);
+}
+
+/** A colour of the page for each colour index, those on the sheets first; none stated is ink. */
 function colorsOf(sheets: readonly DrawnSheet[]): ReadonlyMap<number | null, string> {
-  const indices = [...new Set(sheets.flatMap(({ parts }) => parts.map(({ color }) => color)))]
-    .filter((color) => color !== null)
-    .sort((a, b) => a - b);
+  const placed = ascending(sheets.flatMap(({ parts }) => parts.map(({ color }) => color)));
+  const others = ascending(
+    sheets.flatMap(({ unknown }) => unknown.map(({ specimen }) => specimen?.color ?? null)),
+  );
+  const indices = [...new Set([...placed, ...others])];
   return new Map<number | null, string>([
     ...indices.map((index, at) => [index, lineColorAt(at)] as const),
     [null, kInk],
@@ -167,7 +171,8 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
     [sheet, otherSheet],
   );
   if (sheet === undefined) return null;
-  const common = { zoom, colors, marked, mark };
+  const listed = { colors, marked, mark };
+  const common = { zoom, ...listed };
   const saved = () =>
     drawnApart(
       <AppContext.Provider value={app}>
@@ -199,44 +204,32 @@ function Pane({ picture, otherPicture, question, ask }: PaneProps) {
         <div class="picture-bar">
           <ColorLegend colors={colors} />
           <span class="no-print">
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(kZoomStep)}
-              aria-label={say(kDrawingWords.zoomIn)}
-            >
-              ＋
-            </button>
-            <button
-              type="button"
-              onClick={() => zoom.zoomBy(1 / kZoomStep)}
-              aria-label={say(kDrawingWords.zoomOut)}
-            >
-              －
-            </button>
-            <button type="button" onClick={zoom.reset}>
-              {say(kDrawingWords.whole)}
-            </button>
+            <ZoomButtons {...zoom} />
             <SaveButtons picture={saved} name={`${say(kSheetWords.sheet)}-${sheet.name}`} />
           </span>
         </div>
       </div>
       <div class="picture-side">
-        <section aria-label={say(kSheetWords.parts)}>
-          <h2>
-            {say(kSheetWords.parts)} <span class="quiet">{sheet.parts.length}</span>
-          </h2>
-          <p class="quiet no-print">{say(kSheetWords.partsHint)}</p>
-          <Parts
-            parts={sheet.parts}
-            notes={picture.assumed.map(({ id }) => id)}
-            marked={marked}
-            differing={changed}
-            side="config"
-            mark={mark}
+        <Lists
+          picture={picture}
+          sheet={sheet}
+          name={otherSheet && workspace?.name}
+          differing={changed}
+          differingPlaces={differingPlaces(sheet.unknown, otherSheet?.unknown)}
+          side="config"
+          {...listed}
+        />
+        {otherSheet && otherPicture && (
+          <Lists
+            picture={otherPicture}
+            sheet={otherSheet}
+            name={other?.name}
+            differing={otherChanged}
+            differingPlaces={differingPlaces(otherSheet.unknown, sheet.unknown)}
+            side="other"
+            {...listed}
           />
-        </section>
-        <Unknowns places={sheet.unknown} side="config" />
-        <Assumed picture={picture} />
+        )}
       </div>
     </div>
   );
