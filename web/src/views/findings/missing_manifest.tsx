@@ -2,8 +2,9 @@
 
 import { useState } from "preact/hooks";
 import { Failure } from "../../app/parts/failure";
+import { roleName } from "../../app/parts/role_name";
 import { saveFile } from "../../app/parts/save";
-import { filesOf, useApp, useSay } from "../../app/state";
+import { filesOf, shownFile, useApp, useSay } from "../../app/state";
 import type { Run } from "../../engine/engine";
 import { kFindingsWords } from "../../words/findings";
 
@@ -34,14 +35,23 @@ export function MissingManifest() {
 
 /** After the roles were found: what they are, and the file to keep. */
 export function FoundManifest() {
-  const { workspace, addedFile } = useApp();
+  const { workspace, addedFile, check } = useApp();
   const say = useSay();
   const manifest = workspace?.files.find(({ path }) => path === `${workspace.folder}/tables.json`);
   if (addedFile !== "tables.json" || manifest === undefined) return null;
   return (
     <section class="manifest">
       <p>{say(kWords.found)}</p>
-      <pre>{new TextDecoder().decode(manifest.bytes)}</pre>
+      <table class="roles">
+        <tbody>
+          {(check.value?.checked.tables ?? []).map((table) => (
+            <tr key={table.role}>
+              <th scope="row">{shownFile(table.file)}</th>
+              <td>{roleName(table, say)}</td>
+            </tr>
+          ))}
+        </tbody>
+      </table>
       <button
         type="button"
         class="main-button"
