@@ -95,8 +95,8 @@ test("The first finding is shown until one is chosen, also when the chosen one i
 });
 
 test("On a small screen at double size the list of findings keeps room for three", async () => {
-  await page.setViewportSize({ width: 683, height: 384 });
   await open("标准");
+  await page.setViewportSize({ width: 683, height: 384 });
   await page.waitForSelector(".findings-detail .grid");
   const room = await page.evaluate(() => document.querySelector(".finding-list")!.clientHeight);
   const height = await page.evaluate(() => document.querySelector<HTMLElement>(".finding")!.offsetHeight);
