@@ -94,6 +94,15 @@ test("The first finding is shown until one is chosen, also when the chosen one i
   assert.deepEqual(await message(), ["“abc”不是整数", "“abc”不是整数"]);
 });
 
+test("On a small screen at double size the list of findings keeps room for three", async () => {
+  await open("标准");
+  await page.setViewportSize({ width: 683, height: 384 });
+  await page.waitForSelector(".findings-detail .grid");
+  const room = await page.evaluate(() => document.querySelector(".finding-list")!.clientHeight);
+  const height = await page.evaluate(() => document.querySelector<HTMLElement>(".finding")!.offsetHeight);
+  assert.ok(room >= 3 * height, `${room} of ${height} each`);
+});
+
 test("Before a cell is selected the bar above a table says what it is for", async () => {
   await open("标准");
   await showView(page, "tables");

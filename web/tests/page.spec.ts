@@ -126,7 +126,7 @@ async function assertAllAreUsed(): Promise<void> {
   assert.deepEqual(used.filter((use) => use !== "table").sort(), ["hole-types", "holes", "plates"]);
   await page.keyboard.press("Escape");
   await showView(page, "holes");
-  await page.waitForSelector(".hole-item");
+  await page.waitForSelector(".item");
   await showView(page, "plate");
   await page.waitForSelector('.item-name:has-text("加长托板")');
 }
@@ -293,6 +293,9 @@ test("A folder without tables.json gets one from init, which can be saved", asyn
   await page.waitForSelector("text=保存 tables.json");
   await settled(page);
   assert.match(await counts(), /0 个错误/);
+  const found = await page.locator(".roles tr").allInnerTexts();
+  assert.equal(found.length, 15);
+  assert.ok(found.includes("工艺规则.csv\t工艺规则（process-rules）"));
   const [download] = await Promise.all([page.waitForEvent("download"), page.click("text=保存 tables.json")]);
   assert.equal(download.suggestedFilename(), "tables.json");
   const roles = JSON.parse(readFileSync(await download.path(), "utf8")) as Record<string, string>;

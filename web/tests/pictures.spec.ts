@@ -299,7 +299,7 @@ test("A hole shows its types with their scores", async () => {
   const open = await opened("holes");
   const { page } = open;
   await page.fill(".side-list input[type=search]", "A板-M12-1");
-  await page.click(".hole-item");
+  await page.click(".item");
   await page.waitForFunction(() => document.querySelector(".hole-detail h2")?.textContent === "A板-M12-1");
   assert.match((await page.textContent(".hole-section")) ?? "", /⌀20 · 顶 · 颜色 36/);
   const types = await page.locator(".hole-table tr:has(.hole-score)").allInnerTexts();

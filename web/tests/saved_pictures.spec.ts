@@ -56,7 +56,7 @@ async function opened(view: string, folder: string, files = besides) {
 
 async function chooseHole(page: Page, name: string): Promise<void> {
   await page.fill(".side-list input[type=search]", name);
-  await page.click(".hole-item >> nth=0");
+  await page.click(".item >> nth=0");
   await page.waitForFunction((hole) => document.querySelector(".hole-detail h2")?.textContent === hole, name);
 }
 

@@ -5,8 +5,9 @@ import { useState } from "preact/hooks";
 import type { Run } from "../../engine/engine";
 import type { CheckReport } from "../../model/check";
 import { kFindingsWords } from "../../words/findings";
-import { filesOf, useApp, useSay } from "../state";
+import { filesOf, shownFile, useApp, useSay } from "../state";
 import { Failure } from "./failure";
+import { roleName } from "./role_name";
 import { saveFile } from "./save";
 
 const kWords = kFindingsWords.manifest;
@@ -55,14 +56,23 @@ export function MissingManifest() {
 
 /** After the roles were found: what they are, and the file to keep. */
 export function FoundManifest() {
-  const { workspace, addedFile } = useApp();
+  const { workspace, addedFile, check } = useApp();
   const say = useSay();
   const manifest = workspace?.files.find(({ path }) => path === `${workspace.folder}/${kManifest}`);
   if (addedFile !== kManifest || manifest === undefined) return null;
   return (
     <section class="manifest">
       <p>{say(kWords.found)}</p>
-      <pre>{new TextDecoder().decode(manifest.bytes)}</pre>
+      <table class="roles">
+        <tbody>
+          {(check.value?.checked.tables ?? []).map((table) => (
+            <tr key={table.role}>
+              <th scope="row">{shownFile(table.file)}</th>
+              <td>{roleName(table, say)}</td>
+            </tr>
+          ))}
+        </tbody>
+      </table>
       <button
         type="button"
         class="main-button"
