@@ -185,7 +185,7 @@ TEST_F(ReportCommand, SaysWhyItsFileCanNotBeWritten) {
 TEST_F(ReportCommand, SpeaksOfThePageAloneInItsHelp) {
   const std::string help = RunPlateconfig({"help", "report"}).out;
   EXPECT_THAT(help, HasSubstr("write the page to this file"));
-  EXPECT_THAT(help, Not(HasSubstr(".csv")));
+  EXPECT_THAT(help, Not(HasSubstr(".csv or .json")));
 }
 
 TEST_F(ReportCommand, OpensNothingWithoutAFile) {
