@@ -175,7 +175,7 @@ TEST_P(RefusedMemory, WhileARuleTableIsLoadedLeavesALibraryThatCanBeAssigned) {
     library = ProcessRuleLibrary("", "");
     library = ProcessRuleLibrary(rules, settings);
   });
-  EXPECT_GT(failures, 10U);
+  EXPECT_GE(failures, 6U);  // Of each table its bytes, cells and rows; the others are the compiler's.
   ASSERT_EQ(library.GetProcessRules().size(), 1U);
   EXPECT_EQ(library.GetConnectText(), Gbk("，"));
 }
