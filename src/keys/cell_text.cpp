@@ -66,7 +66,8 @@ CellForm FormOf(FlagLetters letters) {
 }
 
 void AppendTaken(std::vector<int>& list, CellsView cells, TakenCells taken) {
-  list.reserve(list.size() + cells.size());
+  // Only the first time: asked for exactly, a list that grows with each reading would be copied each time.
+  if (list.empty()) list.reserve(cells.size());
   for (const std::string_view cell : cells) {
     const int number = ParseInt(cell);
     if (IsTaken(taken, cell, number)) list.push_back(number);

@@ -212,15 +212,20 @@ test("A worker that fails before anybody needs it costs nobody a run", () =>
     },
   ));
 
+/** What a run says that fails; undefined when it does not. */
+function wordsOfFailure(opened: Page): Promise<unknown> {
+  return opened.evaluate(() =>
+    engine.run(["--version"], []).then(
+      () => undefined,
+      (error: { words: unknown }) => error.words,
+    ),
+  );
+}
+
 test("A run whose worker fails ends with words in both languages", () =>
   onPage(
     async (opened) => {
-      const words = await opened.evaluate(() =>
-        engine.run(["--version"], []).then(
-          () => undefined,
-          (error: { words: unknown }) => error.words,
-        ),
-      );
+      const words = await wordsOfFailure(opened);
       assert.deepEqual(words, engineWords.broken);
     },
     () => {
@@ -253,12 +258,7 @@ test("A page whose file was damaged on its way says so", async () => {
 test("Where WebAssembly is switched off, each run says so in both languages", () =>
   onPage(
     async (opened) => {
-      const words = await opened.evaluate(() =>
-        engine.run(["--version"], []).then(
-          () => undefined,
-          (error: { words: unknown }) => error.words,
-        ),
-      );
+      const words = await wordsOfFailure(opened);
       assert.deepEqual(words, engineWords.webAssemblyOff);
     },
     () => void Reflect.deleteProperty(globalThis, "WebAssembly"),

@@ -95,7 +95,7 @@ class Reading {
     return true;
   }
 
-  /// One that lies elsewhere has a path like 标准/../shared/x.csv, which leads there in the page too.
+  /// One that lies elsewhere has a path like 标准/../公用/x.csv, which leads there in the page too.
   void AddTable(const TableFile& table, const std::string& folder) {
     std::string name = table.shownAs.substr(folder.size());
     std::replace(name.begin(), name.end(), '\\', '/');

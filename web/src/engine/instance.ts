@@ -91,7 +91,7 @@ export class Instance {
     FS.mkdirTree(folder);
     FS.chdir(folder);
     for (const file of files) {
-      // One like config/../shared/x.csv leads to where the tables of config look for it.
+      // One like config/../common/x.csv leads to where the tables of config look for it.
       const path = `${folder}/${file.path}`;
       FS.mkdirTree(path.slice(0, path.lastIndexOf("/")));
       FS.writeFile(path, file.bytes, { canOwn: true });
