@@ -148,14 +148,24 @@ void CheckChosenNames(const TableText& table, const Raise& raise) {
   }
 }
 
+/// Of the names (GBK) those that the table does not have, in UTF-8.
+std::vector<std::string> AbsentOf(const std::set<std::string>& names, const Table& table) {
+  std::vector<std::string> absent;
+  for (const std::string& name : names) {
+    if (!table.FindColumn(name)) absent.push_back(GbkToUtf8(name));
+  }
+  return absent;
+}
+
 class ColumnCheck {
  public:
   ColumnCheck(const TableText& table, const TableSchema& schema, const Raise& raise)
-      : table_(table), schema_(schema), raise_(raise), read_(ReadColumns(schema, table.Cells())) {
-    for (const std::string& name : read_) {
-      if (!table.Cells().FindColumn(name)) absent_.push_back(GbkToUtf8(name));
-    }
-  }
+      : table_(table),
+        schema_(schema),
+        raise_(raise),
+        read_(ReadColumns(schema, table.Cells())),
+        absent_(AbsentOf(read_, table.Cells())),
+        absentNames_(absent_) {}
 
   ToldHeaders Run() {
     bool isForeign = true;
@@ -187,7 +197,7 @@ class ColumnCheck {
 
   bool CheckUnknown(std::size_t column) {
     const std::string name = table_.ColumnName(column);
-    const std::string meant = ProbablyMeantName(name, absent_);
+    const std::string meant = absentNames_.Find(name);
     if (!meant.empty()) {
       meant_.insert(meant);
       told_[column];
@@ -268,7 +278,8 @@ class ColumnCheck {
   const Raise& raise_;
   std::set<std::string> read_;       ///< GBK
   std::vector<std::string> absent_;  ///< UTF-8; of `read_` those that the table does not have.
-  std::set<std::string> meant_;      ///< UTF-8; absent names that misspelled ones stand for.
+  MeantNames absentNames_;
+  std::set<std::string> meant_;  ///< UTF-8; absent names that misspelled ones stand for.
   ToldHeaders told_;
 };
 

@@ -76,11 +76,18 @@ bool IsDash(char32_t c) {
   return kDashes.find(c) != std::u32string_view::npos;
 }
 
+constexpr bool IsHan(char32_t c) {
+  return c >= 0x4E00 && c <= 0x9FFF;
+}
+
+static_assert(std::all_of(kTraditional.begin(), kTraditional.end(), IsHan));
+
 char32_t Folded(char32_t c) {
+  if (IsHan(c)) return Simplified(c);
   const char32_t half = HalfWidth(c);
   if (IsDash(half)) return U'_';
   if (half >= U'A' && half <= U'Z') return half - U'A' + U'a';
-  return Simplified(half);
+  return half;
 }
 
 /// Of a character below U+10000; every other one stays out of a folded name as what it is not known to be.

@@ -53,16 +53,6 @@ bool IsShortened(const std::u32string& name, const std::u32string& whole) {
   return kept == name.end();
 }
 
-/// The only one of the names that `folded` shortens; empty when there is none, or several.
-std::string OnlyShortened(std::string_view folded, const std::vector<std::string>& known) {
-  const std::u32string name = Characters(folded);
-  std::vector<std::string> whole;
-  std::copy_if(known.begin(), known.end(), std::back_inserter(whole), [&](const std::string& candidate) {
-    return IsShortened(name, Characters(FoldedName(candidate)));
-  });
-  return whole.size() == 1 ? whole.front() : std::string();
-}
-
 }  // namespace
 
 std::string MostSimilarName(std::string_view name, const std::vector<std::string_view>& known) {
@@ -110,20 +100,36 @@ std::vector<std::string> NearNames::Best() const {
   return names;
 }
 
-std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known) {
+MeantNames::MeantNames(const std::vector<std::string>& known) {
+  for (const std::string& name : known)
+    known_.push_back({name, FoldedName(name), FoldedNameWithoutUnit(name)});
+}
+
+std::string MeantNames::Find(const std::string& name) const {
   constexpr std::size_t kTwoCharacters = 6;
   const std::string folded = FoldedNameWithoutUnit(name);
   if (folded.empty()) return {};
-  std::vector<std::string> nested;
-  for (const std::string& candidate : known) {
-    if (FoldedNameWithoutUnit(candidate) == folded) return candidate;
-    const std::string other = FoldedName(candidate);
-    if (other.find(folded) != std::string::npos || folded.find(other) != std::string::npos)
-      nested.push_back(candidate);
+  std::vector<std::string_view> nested;
+  std::vector<std::string_view> names;
+  for (const Known& known : known_) {
+    if (known.withoutUnit == folded) return known.name;
+    names.emplace_back(known.name);
+    if (known.folded.find(folded) != std::string::npos || folded.find(known.folded) != std::string::npos)
+      nested.emplace_back(known.name);
   }
-  if (nested.size() == 1 && folded.size() >= kTwoCharacters) return nested.front();
-  const std::string similar = MostSimilarName(name, {known.begin(), known.end()});
-  return similar.empty() ? OnlyShortened(folded, known) : similar;
+  if (nested.size() == 1 && folded.size() >= kTwoCharacters) return std::string(nested.front());
+  std::string similar = MostSimilarName(name, names);
+  return similar.empty() ? OnlyShortened(folded) : similar;
+}
+
+/// The only one that `folded` shortens; empty when there is none, or several.
+std::string MeantNames::OnlyShortened(std::string_view folded) const {
+  const std::u32string name = Characters(folded);
+  std::vector<std::string_view> whole;
+  for (const Known& known : known_) {
+    if (IsShortened(name, Characters(known.folded))) whole.emplace_back(known.name);
+  }
+  return whole.size() == 1 ? std::string(whole.front()) : std::string();
 }
 
 std::string SlippedName(std::string_view name, const std::vector<std::string_view>& missing) {

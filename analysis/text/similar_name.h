@@ -29,11 +29,27 @@ class NearNames {
   std::vector<std::pair<std::size_t, std::string>> best_;
 };
 
-/// The name among `known` that a header was probably meant to be: the same but for width, case, script,
-/// blanks or a unit; or the only one that it shortens or lengthens; or one that differs in few characters; or
-/// the only one of which it leaves out some characters inside (模板图层 of 模板所在图层).
-/// Empty when there is none.
-std::string ProbablyMeantName(const std::string& name, const std::vector<std::string>& known);
+/// The names that headers may have been meant to be: folded once, then asked for each header.
+class MeantNames {
+ public:
+  explicit MeantNames(const std::vector<std::string>& known);
+
+  /// The one that `name` was probably meant to be: the same but for width, case, script, blanks or a unit; or
+  /// the only one that it shortens or lengthens; or one that differs in few characters; or the only one of
+  /// which it leaves out some characters inside (模板图层 of 模板所在图层). Empty when there is none.
+  std::string Find(const std::string& name) const;
+
+ private:
+  struct Known {
+    std::string name;
+    std::string folded;
+    std::string withoutUnit;  ///< Folded.
+  };
+
+  std::string OnlyShortened(std::string_view folded) const;
+
+  std::vector<Known> known_;
+};
 
 /// The one of a few names of which one must have been meant: it lacks a character, has one more or another
 /// one, has them in another order, or one holds the other. Empty when none or several are so.

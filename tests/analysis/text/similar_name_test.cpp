@@ -72,12 +72,12 @@ TEST(MostSimilarName, BytesThatAreNoTextAreOneCharacterEach) {
             "abcdef");
 }
 
-TEST(ProbablyMeantName, MayLeaveOutCharactersInsideOfTheOnlyNameThatHasTheOthers) {
-  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "长度范围"}), "模板所在图层");
-  EXPECT_EQ(ProbablyMeantName("模板图层", {"模板所在图层", "模板二图层号"}), "");
-  EXPECT_EQ(ProbablyMeantName("图模", {"模板所在图层"}), "");        // In another order.
-  EXPECT_EQ(ProbablyMeantName("模层", {"模板所在图层"}), "");        // Two of six are too few.
-  EXPECT_EQ(ProbablyMeantName("模板备图层", {"模板所在图层"}), "");  // One is a stranger.
+TEST(MeantNames, MayLeaveOutCharactersInsideOfTheOnlyNameThatHasTheOthers) {
+  EXPECT_EQ(MeantNames({"模板所在图层", "长度范围"}).Find("模板图层"), "模板所在图层");
+  EXPECT_EQ(MeantNames({"模板所在图层", "模板二图层号"}).Find("模板图层"), "");
+  EXPECT_EQ(MeantNames({"模板所在图层"}).Find("图模"), "");        // In another order.
+  EXPECT_EQ(MeantNames({"模板所在图层"}).Find("模层"), "");        // Two of six are too few.
+  EXPECT_EQ(MeantNames({"模板所在图层"}).Find("模板备图层"), "");  // One is a stranger.
 }
 
 TEST(SlippedName, OfAShortNameIsFoundWhateverTheHandDid) {

@@ -38,7 +38,7 @@ std::string_view WithoutByteOrderMark(std::string_view utf8) {
 /// is or as the name of a file.
 std::string MeantRole(const std::string& name) {
   const std::vector<std::string_view> roles = NamesOf(ManifestRoles());
-  if (std::string role = ProbablyMeantName(name, {roles.begin(), roles.end()}); !role.empty()) return role;
+  if (std::string role = MeantNames({roles.begin(), roles.end()}).Find(name); !role.empty()) return role;
   constexpr std::string_view kEnding = ".csv";
   const std::string folded = FoldedName(name);
   const std::string table =
