@@ -21,7 +21,7 @@ from reach import Reach, load_or_record
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutate"
 DIED, SURVIVED, NO_MUTANT = "died", "survived", "does not compile"
-FIRST_SECONDS = 2  # The fastest suites that take so long together are tried before the others.
+FIRST_SECONDS = 2  # The fastest suites that take so long together are tried first, then those that take twice as long, and so on.
 
 
 def arguments():
@@ -103,13 +103,19 @@ class Trial:
             text = (ROOT / mutant.path).read_text(encoding="utf-8")
             if not workshop.make(mutant.path, mutant.applied_to(text), self._reach.objects_at(mutant)):
                 return NO_MUTANT
-            return SURVIVED if all(self._passes(workshop, some) for some in self._in_two(suites)) else DIED
+            return SURVIVED if all(self._passes(workshop, some) for some in self._portions(suites)) else DIED
         finally:
             self._workshops.put(workshop)
 
-    def _in_two(self, suites):
-        first = [suite for at, suite in enumerate(suites) if self._reach.seconds_of(suites[:at + 1]) <= FIRST_SECONDS]
-        return [some for some in (first, suites[len(first):]) if some]
+    def _portions(self, suites):
+        """The suites, the fastest first, in portions that take longer and longer: most changes are noticed by the first."""
+        portion, seconds = [], FIRST_SECONDS
+        for suite in suites:
+            if portion and self._reach.seconds_of([*portion, suite]) > seconds:
+                yield portion
+                portion, seconds = [], 2 * seconds
+            portion.append(suite)
+        yield portion
 
     def _passes(self, workshop, suites):
         return workshop.passes(suites, 10 + 2 * self._reach.seconds_of(suites))
