@@ -49,7 +49,6 @@ std::string_view WithoutBlankLinesAtTheEnd(std::string_view bytes) {
     bytes.remove_suffix(1);
     const std::string_view line = bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 2));
     if (line == "\r" || line == "\n\r") bytes.remove_suffix(1);
-    if (!bytes.empty() && !bytes.ends_with('\n')) break;
   }
   return bytes;
 }

@@ -35,7 +35,7 @@ class GbkDecoder {
   char16_t CharacterAt(std::string_view gbk, std::size_t at, std::size_t length) const {
     unsigned code = static_cast<unsigned char>(gbk[at]);
     if (length == 2) code = code << 8 | static_cast<unsigned char>(gbk[at + 1]);
-    return code < kFirstCode ? char16_t{0} : characters_[code - kFirstCode];
+    return characters_[code - kFirstCode];
   }
 
  private:
