@@ -136,6 +136,7 @@ TEST(VectorIncludeVector, AnEntryNearerToZeroThanTheToleranceIsAWildcard) {
 TEST(VectorIncludeDouble, ADifferenceBelowTheToleranceIsNone) {
   EXPECT_TRUE(HoleTypeInfo::VectorIncludeDouble({5.0}, 5.0000005));
   EXPECT_FALSE(HoleTypeInfo::VectorIncludeDouble({5.0}, 5.000001));
+  EXPECT_FALSE(HoleTypeInfo::VectorIncludeDouble({0}, 1e-6)) << "exactly the tolerance";
 }
 
 TEST(VectorIncludeDouble, LooksThroughTheWholeList) {

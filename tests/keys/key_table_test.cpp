@@ -101,6 +101,12 @@ TEST(KeyTable, ARowsCellOfAnAbsentColumnIsAnEmptyCell) {
   EXPECT_EQ(bolts[0].count, 0);
 }
 
+TEST(KeyTable, ARowsCellMayHaveQuotesInside) {
+  const std::vector<Bolt> bolts = LoadBolts("名称,数量\n\"M6 \"\"长\"\"\",4\n");
+  ASSERT_EQ(bolts.size(), 1u);
+  EXPECT_EQ(bolts[0].name, Gbk("M6 \"长\""));
+}
+
 TEST(KeyTable, AListOfAbsentColumnsHasNoRecords) {
   constexpr const char* kOthers = "别的\n1\n2\n";
   EXPECT_TRUE(LoadLabels(kOthers).empty());

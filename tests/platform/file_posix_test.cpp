@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
@@ -241,6 +242,27 @@ TEST(PosixFile, MayGetTheDescriptorOfAClosedStandardInput) {
   ASSERT_EQ(LowestFreeDescriptor(), 0);
   EXPECT_EQ(Read(path), "x");
   EXPECT_EQ(LowestFreeDescriptor(), 0);
+}
+
+TEST(PosixFile, ThatIsReadIsNoneOfAProgramStartedMeanwhile) {
+  const TemporaryFolder folder;
+  const int descriptor = OpenForReading(folder.WriteBytes("file", "x"));
+  ASSERT_GE(descriptor, 0);
+  EXPECT_EQ(fcntl(descriptor, F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
+  CloseDescriptor(descriptor);
+}
+
+// Some file systems tell an enormous size for a directory; no memory must be asked for that.
+TEST(PosixFile, ThatIsADirectoryHasNoSize) {
+  const TemporaryFolder folder;
+  const std::string path = folder.WriteBytes("file", "12");
+  const int file = OpenForReading(path);
+  const int directory = OpenForReading(folder.Path().string());
+  ASSERT_GE(directory, 0);
+  EXPECT_EQ(SizeOf(file), 2u);
+  EXPECT_EQ(SizeOf(directory), 0u);
+  CloseDescriptor(file);
+  CloseDescriptor(directory);
 }
 
 TEST(PosixFile, IsClosedAgainWhetherItCouldBeReadOrNot) {
