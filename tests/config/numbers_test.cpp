@@ -28,6 +28,10 @@ TEST(ParsedInt, IsTheNumberThatTheTextBeginsWith) {
   EXPECT_EQ(ParseInt("0x10"), 0);
 }
 
+TEST(ParsedInt, EndsWithItsTextWhateverStandsBehind) {
+  EXPECT_EQ(ParseInt(std::string_view("1234").substr(0, 2)), 12);
+}
+
 TEST(ParsedInt, SkipsLeadingBlanks) {
   EXPECT_EQ(ParseInt(" \t\n\v\f\r42"), 42);
   EXPECT_EQ(ParseInt("  -42"), -42);
@@ -66,6 +70,11 @@ TEST(ParsedDouble, IsTheNumberThatTheTextBeginsWith) {
   EXPECT_EQ(ParseDouble("1.5.5"), 1.5);
 }
 
+TEST(ParsedDouble, EndsWithItsTextWhateverStandsBehind) {
+  EXPECT_EQ(ParseDouble(std::string_view("1.234").substr(0, 3)), 1.2);
+  EXPECT_EQ(ParseDouble(std::string_view("-1e23").substr(0, 4)), -100.0);
+}
+
 TEST(ParsedDouble, TakesAnExponentOnlyWhenItIsWhole) {
   EXPECT_EQ(ParseDouble("25e-1"), 2.5);
   EXPECT_EQ(ParseDouble("25E+1"), 250.0);
@@ -82,6 +91,7 @@ TEST(ParsedDouble, ReadsHexadecimalNumbers) {
   EXPECT_EQ(ParseDouble("0x"), 0.0);
   EXPECT_EQ(ParseDouble("0x.p1"), 0.0);
   EXPECT_EQ(ParseDouble("0xg"), 0.0);
+  EXPECT_EQ(ParseDouble("1x5"), 1.0) << "only behind a zero";
 }
 
 TEST(ParsedDouble, ReadsInfinityAndNan) {

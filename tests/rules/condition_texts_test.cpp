@@ -67,6 +67,19 @@ TEST(ConditionTexts, ParenthesesAreFullWidthAndTheAmpersandIsNot) {
   EXPECT_EQ(TypeOf("有无通槽&垂直槽（类型１）"), std::nullopt);
 }
 
+TEST(ConditionTexts, WhatDecidesATypeIsAsItsTextSays) {
+  EXPECT_EQ(FedByOf(ProcessRule::CustomProcess), FedBy::kByHand);
+  for (int type = ProcessRule::HasRoundHole; type <= ProcessRule::HasBlindSpecialSlot5; ++type)
+    EXPECT_EQ(FedByOf(static_cast<ProcessRule::RuleType>(type)), FedBy::kPresence) << type;
+  EXPECT_EQ(FedByOf(ProcessRule::MachiningColor), FedBy::kColors);
+  EXPECT_EQ(FedByOf(ProcessRule::RoundHoleColor), FedBy::kColors);
+  EXPECT_EQ(FedByOf(ProcessRule::RoundHoleDiameter), FedBy::kDiameters);
+  EXPECT_EQ(FedByOf(ProcessRule::HoleCountAtLeast), FedBy::kCount);
+  EXPECT_EQ(FedByOf(ProcessRule::HoleCountBelow), FedBy::kCount);
+  for (int type = ProcessRule::ThroughSlotColor; type <= ProcessRule::BlindSpecialSlotColor5; ++type)
+    EXPECT_EQ(FedByOf(static_cast<ProcessRule::RuleType>(type)), FedBy::kColors) << type;
+}
+
 TEST(ConditionTexts, ANumberThatIsNoTypeIsFedByHand) {
   EXPECT_EQ(FedByOf(static_cast<ProcessRule::RuleType>(22)), FedBy::kByHand);
   EXPECT_EQ(FedByOf(ProcessRule::BlindSpecialSlotColor5), FedBy::kColors) << "21, the last one";

@@ -84,6 +84,7 @@ TEST(Utf8ToGbk, ReplacesACharacterOutsideTheCodePageOnce) {
 TEST(Utf8ToGbk, ReplacesEveryByteOfAMalformedSequence) {
   EXPECT_EQ(Utf8ToGbk("a\x80\xC3,b"), "a??,b");
   EXPECT_EQ(Utf8ToGbk("\xED\xA0\x80"), "???");
+  EXPECT_EQ(Utf8ToGbk("\x9F\x80"), "??") << "a second byte is no first one";
 }
 
 TEST(Utf8ToGbk, ReplacesACharacterThatTheEndOfTheTextCuts) {
@@ -158,7 +159,7 @@ TEST(IsValidUtf8, RefusesSurrogatesAndValuesAbove10FFFF) {
 
 TEST(IsValidUtf8, RefusesBytesThatAreAloneOrCutOff) {
   for (const std::string_view text :
-       {"\x80", "\xBF", "\xC3", "\xE5\x9B", "\xF0\x9F\x98", "\xE5\x9B,", "\xFE", "\xFF"}) {
+       {"\x80", "\xBF", "\x9F\x80", "\xC3", "\xE5\x9B", "\xF0\x9F\x98", "\xE5\x9B,", "\xFE", "\xFF"}) {
     EXPECT_FALSE(IsValidUtf8(text)) << ::testing::PrintToString(text);
   }
 }

@@ -40,6 +40,10 @@ TEST(FoldedName, OtherTextsStayAsTheyAre) {
   EXPECT_EQ(FoldedName("±0.05mm"), "±0.05mm");
 }
 
+TEST(Characters, OfAByteThatBelongsToNoneIsZero) {
+  EXPECT_EQ(Characters("图\xFF\xE5,"), (std::u32string{U'图', 0, 0, U','}));
+}
+
 TEST(FoldedNameWithoutUnit, ABracketAtTheEndIsAUnit) {
   EXPECT_EQ(FoldedNameWithoutUnit("长度范围(mm)"), "长度范围");
   EXPECT_EQ(FoldedNameWithoutUnit("长度范围（mm）"), "长度范围");
