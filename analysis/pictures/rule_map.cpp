@@ -65,7 +65,9 @@ Interval MostAccepted(const Rows& rows, std::size_t size) {
   for (const double low : begins) {
     const auto begun = std::upper_bound(lows.begin(), lows.end(), low);
     const auto ended = std::lower_bound(highs.begin(), highs.end(), low);
-    const std::ptrdiff_t accepting = (begun - lows.begin()) - (ended - highs.begin());
+    const std::ptrdiff_t countBegun = begun - lows.begin();
+    const std::ptrdiff_t countEnded = ended - highs.begin();
+    const std::ptrdiff_t accepting = countBegun - countEnded;
     if (accepting == 0) continue;
     const Interval values{low, begun == lows.end() ? *ended : std::min(*ended, Before(*begun))};
     const bool isBetter =
