@@ -35,11 +35,9 @@ bool DifferBySlip(const std::u32string& a, const std::u32string& b) {
 
 /// True for a text with a letter or a Chinese character.
 bool HasWord(const std::string& utf8) {
-  constexpr char32_t kFirstChinese = 0x3400;
-  constexpr char32_t kLastChinese = 0x9FFF;
   const std::u32string characters = Characters(utf8);
   return std::any_of(characters.begin(), characters.end(), [](char32_t c) {
-    return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || (c >= kFirstChinese && c <= kLastChinese);
+    return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || IsChinese(c);
   });
 }
 

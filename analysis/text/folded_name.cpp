@@ -76,14 +76,10 @@ bool IsDash(char32_t c) {
   return kDashes.find(c) != std::u32string_view::npos;
 }
 
-constexpr bool IsHan(char32_t c) {
-  return c >= 0x4E00 && c <= 0x9FFF;
-}
-
-static_assert(std::all_of(kTraditional.begin(), kTraditional.end(), IsHan));
+static_assert(std::all_of(kTraditional.begin(), kTraditional.end(), IsChinese));
 
 char32_t Folded(char32_t c) {
-  if (IsHan(c)) return Simplified(c);
+  if (IsChinese(c)) return Simplified(c);
   const char32_t half = HalfWidth(c);
   if (IsDash(half)) return U'_';
   if (half >= U'A' && half <= U'Z') return half - U'A' + U'a';

@@ -13,6 +13,11 @@ namespace plateconfig {
 /// look alike; it is no text to be shown.
 std::string FoldedName(std::string_view utf8);
 
+/// True for a Chinese character; no sign lies among them, not even a full-width one.
+constexpr bool IsChinese(char32_t c) {
+  return c >= 0x3400 && c <= 0x9FFF;
+}
+
 /// The characters of a text (UTF-8) one by one; U+0000 for each byte that belongs to none.
 std::u32string Characters(std::string_view utf8);
 
